@@ -1,0 +1,60 @@
+# Every target of the house is declared through these functions, which is what keeps the tiers honest:
+# a library names its tier, and linking anything that does not lie strictly below it stops the configuration.
+
+# The tiers from the bottom up. Two targets of one tier may not link each other, except where a feature
+# names another one under BUILDS_ON.
+set(ORVEL_TIERS Foundation Models Support Store DesignSystem Session Engine Feature App)
+
+function(_orvel_check_tier target tier builds_on)
+    list(FIND ORVEL_TIERS "${tier}" own)
+    if(own LESS 0)
+        message(FATAL_ERROR "${target}: '${tier}' is no tier; the tiers are ${ORVEL_TIERS}")
+    endif()
+    set_property(GLOBAL PROPERTY "ORVEL_TIER_${target}" "${own}")
+    foreach(link IN LISTS ARGN)
+        get_property(other GLOBAL PROPERTY "ORVEL_TIER_${link}")
+        if("${other}" STREQUAL "" OR link IN_LIST builds_on)
+            continue()
+        endif()
+        if(NOT "${other}" LESS "${own}")
+            message(FATAL_ERROR "${target} (tier ${tier}) may not link ${link}: arrows point downwards only")
+        endif()
+    endforeach()
+endfunction()
+
+# orvel_add_library(NAME TIER SOURCES... LINKS... [BUILDS_ON...]): a library without QML.
+function(orvel_add_library name)
+    cmake_parse_arguments(ARG "" "TIER" "SOURCES;LINKS;BUILDS_ON" ${ARGN})
+    qt_add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} ${ARG_BUILDS_ON})
+    _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
+endfunction()
+
+# orvel_add_qml_module(NAME TIER URI SOURCES... QML... [SINGLETONS...] LINKS... [IMPORTS...] [BUILDS_ON...]):
+# a QML module with its C++ types; whoever links it can import it.
+function(orvel_add_qml_module name)
+    cmake_parse_arguments(ARG "" "TIER;URI" "SOURCES;QML;SINGLETONS;RESOURCES;LINKS;IMPORTS;BUILDS_ON" ${ARGN})
+    if(ARG_SINGLETONS)
+        set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    endif()
+    # Compiled QML makes the release start faster; a debug build starts from the sources and builds faster.
+    set(cachegen "")
+    if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
+        set(cachegen NO_CACHEGEN)
+    endif()
+    qt_add_library(${name} STATIC)
+    qt_add_qml_module(${name}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        SOURCES ${ARG_SOURCES}
+        QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
+        RESOURCES ${ARG_RESOURCES}
+        IMPORTS ${ARG_IMPORTS}
+        ${cachegen})
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_LINKS} ${ARG_BUILDS_ON})
+    target_link_libraries(${name} INTERFACE ${name}plugin)
+    _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
+endfunction()

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <expected>
+
+/// Replaces whole files durably: after a success the new bytes survive a power cut, after a failure or a
+/// kill at any moment the old file is intact.
+namespace AtomicFile
+{
+/// Writes the bytes to a temporary file beside `path`, syncs it, renames it over `path` and syncs the folder.
+/// The file is readable by its owner only. A symbolic link stays and its target is replaced.
+/// On failure gives the system's description of the step that failed.
+std::expected<void, QString> write(const QString &path, QByteArrayView bytes);
+
+/// Removes the temporary files that a killed writer of `path` left beside it.
+void sweepLeftovers(const QString &path);
+} // namespace AtomicFile

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Foundation/Timestamp.h"
+
+#include <QByteArray>
+#include <QStringView>
+#include <QUuid>
+
+#include <string_view>
+
+/// Streams compact JSON as UTF-8: no blanks, a slash written as `\/`, upper-case ids, keys in the order in
+/// which they are given. The caller keeps the brackets balanced.
+class JsonWriter
+{
+public:
+    /// Reserves room for about this many bytes, so that a large document is not copied while it grows.
+    explicit JsonWriter(qsizetype expectedSize = 4096);
+
+    void beginObject();
+    void endObject();
+    void beginArray();
+    void endArray();
+
+    /// A key that needs no escapes: the names of field lists.
+    void fieldName(std::string_view plainName);
+    /// A key taken from data.
+    void key(QStringView name);
+
+    /// Half a surrogate pair standing alone is written as U+FFFD, since no reader takes it.
+    void text(QStringView value);
+    /// Text known to be plain ASCII without quotes, controls, slashes or backslashes, as raw enum texts are.
+    void plainText(std::string_view value);
+    void boolean(bool value);
+    void integer(qint64 value);
+    /// The shortest form that reads back as the same number; what JSON can't hold (NaN, infinities) becomes
+    /// 0.
+    void number(double value);
+    void uuid(const QUuid &value);
+    void timestamp(Timestamp value);
+
+    /// The document so far; the writer is empty afterwards.
+    QByteArray take();
+
+private:
+    void separate();
+    /// Makes room for this many more bytes and returns where they go.
+    char *room(qsizetype bytes);
+    void put(char c);
+    void put(std::string_view bytes);
+    void escaped(QStringView value);
+
+    QByteArray m_bytes;
+    qsizetype m_size = 0;
+    bool m_needsComma = false;
+};

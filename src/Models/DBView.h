@@ -1,0 +1,89 @@
+#pragma once
+
+#include "Foundation/EnumTable.h"
+#include "Foundation/FieldList.h"
+
+#include <QList>
+#include <QUuid>
+
+#include <optional>
+
+/// How a view lays its rows out.
+enum class DBViewType { table, board, list, gallery, calendar };
+
+template <>
+struct EnumTable<DBViewType> {
+    static constexpr auto cases = std::to_array<EnumCase<DBViewType>>({
+        {DBViewType::table, "table", u"Table"},
+        {DBViewType::board, "board", u"Board"},
+        {DBViewType::list, "list", u"List"},
+        {DBViewType::gallery, "gallery", u"Gallery"},
+        {DBViewType::calendar, "calendar", u"Calendar"},
+    });
+};
+
+enum class FilterOp { isExactly, isNot, contains, isEmpty, isNotEmpty, before, after };
+
+template <>
+struct EnumTable<FilterOp> {
+    static constexpr auto cases = std::to_array<EnumCase<FilterOp>>({
+        {FilterOp::isExactly, "is", u"is"},
+        {FilterOp::isNot, "isNot", u"is not"},
+        {FilterOp::contains, "contains", u"contains"},
+        {FilterOp::isEmpty, "isEmpty", u"is empty"},
+        {FilterOp::isNotEmpty, "isNotEmpty", u"is not empty"},
+        {FilterOp::before, "before", u"is before"},
+        {FilterOp::after, "after", u"is after"},
+    });
+};
+
+struct DBFilter {
+    QUuid id;
+    QUuid propID;
+    FilterOp op = FilterOp::isExactly;
+    QString value;
+
+    bool operator==(const DBFilter &) const = default;
+
+    static constexpr auto fields()
+    {
+        return std::tuple{Field{"id", &DBFilter::id}, Field{"propID", &DBFilter::propID},
+                          Field{"op", &DBFilter::op}, Field{"value", &DBFilter::value}};
+    }
+};
+
+struct DBSort {
+    QUuid id;
+    QUuid propID;
+    bool descending = false;
+
+    bool operator==(const DBSort &) const = default;
+
+    static constexpr auto fields()
+    {
+        return std::tuple{Field{"id", &DBSort::id}, Field{"propID", &DBSort::propID},
+                          Field{"descending", &DBSort::descending}};
+    }
+};
+
+/// A saved lens on the rows of a database.
+struct DBView {
+    QUuid id;
+    QString name = QStringLiteral("All");
+    DBViewType type = DBViewType::table;
+    /// All have to match.
+    QList<DBFilter> filters;
+    /// The first is the primary key.
+    QList<DBSort> sorts;
+    /// The property whose values make the groups.
+    std::optional<QUuid> groupBy;
+
+    bool operator==(const DBView &) const = default;
+
+    static constexpr auto fields()
+    {
+        return std::tuple{Field{"id", &DBView::id},       Field{"name", &DBView::name},
+                          Field{"type", &DBView::type},   Field{"filters", &DBView::filters},
+                          Field{"sorts", &DBView::sorts}, Field{"groupBy", &DBView::groupBy}};
+    }
+};

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "Foundation/Timestamp.h"
+#include "Models/DBView.h"
+
+#include <QStringList>
+
+enum class DBPropertyType { text, select, status, multiselect, date, number, checkbox, url, progress };
+
+template <>
+struct EnumTable<DBPropertyType> {
+    static constexpr auto cases = std::to_array<EnumCase<DBPropertyType>>({
+        {DBPropertyType::text, "text", u"Text"},
+        {DBPropertyType::select, "select", u"Select"},
+        {DBPropertyType::status, "status", u"Status"},
+        {DBPropertyType::multiselect, "multiselect", u"Multi-select"},
+        {DBPropertyType::date, "date", u"Date"},
+        {DBPropertyType::number, "number", u"Number"},
+        {DBPropertyType::checkbox, "checkbox", u"Checkbox"},
+        {DBPropertyType::url, "url", u"URL"},
+        {DBPropertyType::progress, "progress", u"Progress"},
+    });
+};
+
+/// Whether a property of this type is a choice among its options.
+constexpr bool supportsOptions(DBPropertyType type)
+{
+    return type == DBPropertyType::select || type == DBPropertyType::status ||
+           type == DBPropertyType::multiselect;
+}
+
+/// A typed column.
+struct DBProperty {
+    QUuid id;
+    QString name;
+    DBPropertyType type = DBPropertyType::text;
+    /// The choices in display order; empty for types without options.
+    QStringList options;
+
+    bool operator==(const DBProperty &) const = default;
+
+    static constexpr auto fields()
+    {
+        return std::tuple{Field{"id", &DBProperty::id}, Field{"name", &DBProperty::name},
+                          Field{"type", &DBProperty::type}, Field{"options", &DBProperty::options}};
+    }
+};
+
+/// A table that the person defines: columns and saved views. Its rows are stored apart.
+struct DatabaseTable {
+    QUuid id;
+    QString name = QStringLiteral("Untitled database");
+    QString icon = QStringLiteral("🗂️");
+    QString details;
+    QList<DBProperty> properties;
+    QList<DBView> views;
+    /// The person's star on the database.
+    bool isTemplate = false;
+    double sortOrder = 0;
+    Timestamp createdDate;
+    Timestamp updatedDate;
+
+    bool operator==(const DatabaseTable &) const = default;
+
+    static constexpr auto fields()
+    {
+        return std::tuple{Field{"id", &DatabaseTable::id},
+                          Field{"name", &DatabaseTable::name},
+                          Field{"icon", &DatabaseTable::icon},
+                          Field{"details", &DatabaseTable::details},
+                          Field{"properties", &DatabaseTable::properties},
+                          Field{"views", &DatabaseTable::views},
+                          Field{"isTemplate", &DatabaseTable::isTemplate},
+                          Field{"sortOrder", &DatabaseTable::sortOrder},
+                          Field{"createdDate", &DatabaseTable::createdDate},
+                          Field{"updatedDate", &DatabaseTable::updatedDate}};
+    }
+};

@@ -1,0 +1,120 @@
+#include "Features/Tasks/TaskFilters.h"
+#include "Support/OVDate.h"
+
+#include <QtTest>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+const QTimeZone &zone()
+{
+    static const QTimeZone newYork(QByteArrayLiteral("America/New_York"));
+    return newYork;
+}
+
+/// An evening in New York, when it is another day in UTC already, in a week in which the clock is set
+/// forward.
+Timestamp now()
+{
+    return toTimestamp(QDateTime(QDate(2026, 3, 5), QTime(19, 30), zone()));
+}
+
+QDate today()
+{
+    return OVDate::day(now(), zone());
+}
+
+TaskItem task(const QString &title, std::optional<Timestamp> due = {}, TaskStatus status = TaskStatus::todo)
+{
+    TaskItem item;
+    item.title = title;
+    item.dueDate = due;
+    item.status = status;
+    return item;
+}
+
+QStringList titles(const QList<TaskItem> &tasks)
+{
+    QStringList all;
+    for (const TaskItem &item : tasks)
+        all.append(item.title);
+    return all;
+}
+} // namespace
+
+class TaskFiltersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void allPutsDoneTasksLast();
+    void filtersByDueDate_data();
+    void filtersByDueDate();
+    void doneTasksAreNeitherDueNorOverdue();
+};
+
+void TaskFiltersTest::allPutsDoneTasksLast()
+{
+    const QList<TaskItem> tasks{task(QStringLiteral("a"), {}, TaskStatus::done), task(QStringLiteral("b")),
+                                task(QStringLiteral("c"), {}, TaskStatus::done),
+                                task(QStringLiteral("d"), {}, TaskStatus::inProgress)};
+    const auto shown = [&tasks](TaskFilter filter) {
+        return titles(TaskFilters::filteredOpen(tasks, filter, now(), zone())).join(QString());
+    };
+    QCOMPARE(shown(TaskFilter::all), QStringLiteral("bdac"));
+    QCOMPARE(shown(TaskFilter::open), QStringLiteral("bd"));
+    QCOMPARE(shown(TaskFilter::today), QString());
+    QCOMPARE(shown(TaskFilter::upcoming), QString());
+    QCOMPARE(titles(TaskFilters::doneTasks(tasks)).join(QString()), QStringLiteral("ac"));
+}
+
+void TaskFiltersTest::filtersByDueDate_data()
+{
+    QTest::addColumn<Timestamp>("due");
+    QTest::addColumn<bool>("isToday");
+    QTest::addColumn<bool>("isUpcoming");
+    QTest::addColumn<bool>("isOverdue");
+    QTest::addColumn<QString>("label");
+    const Timestamp start = OVDate::startOfDay(today(), zone());
+    const Timestamp tomorrow = OVDate::startOfDay(today().addDays(1), zone());
+    const Timestamp end = OVDate::startOfDay(today().addDays(7), zone());
+    const QString todayLabel = QStringLiteral("Today");
+    QTest::newRow("last second of yesterday") << start - 1s << false << false << true << "Mar 4";
+    QTest::newRow("start of today") << start << true << false << false << todayLabel;
+    QTest::newRow("an hour ago") << now() - 1h << true << false << false << todayLabel;
+    QTest::newRow("this moment") << now() << true << false << false << todayLabel;
+    QTest::newRow("later today") << now() + 1s << true << true << false << todayLabel;
+    QTest::newRow("last second of today") << tomorrow - 1s << true << true << false << todayLabel;
+    QTest::newRow("start of tomorrow") << tomorrow << false << true << false << "Mar 6";
+    QTest::newRow("start of the day in a week") << end << false << true << false << "Mar 12";
+    QTest::newRow("a second later") << end + 1s << false << false << false << "Mar 12";
+    QTest::newRow("last year") << now() - 365 * 24h << false << false << true << "Mar 5";
+}
+
+void TaskFiltersTest::filtersByDueDate()
+{
+    QFETCH(Timestamp, due);
+    QFETCH(bool, isToday);
+    QFETCH(bool, isUpcoming);
+    QFETCH(bool, isOverdue);
+    QFETCH(QString, label);
+    const QList<TaskItem> tasks{task(QStringLiteral("due"), due)};
+    QCOMPARE(!TaskFilters::filteredOpen(tasks, TaskFilter::today, now(), zone()).isEmpty(), isToday);
+    QCOMPARE(!TaskFilters::filteredOpen(tasks, TaskFilter::upcoming, now(), zone()).isEmpty(), isUpcoming);
+    QCOMPARE(TaskFilters::isOverdue(tasks.first(), today(), zone()), isOverdue);
+    QCOMPARE(TaskFilters::dueLabel(OVDate::day(due, zone()), today()), label);
+}
+
+void TaskFiltersTest::doneTasksAreNeitherDueNorOverdue()
+{
+    const QList<TaskItem> tasks{task(QStringLiteral("late"), now() - 48h, TaskStatus::done),
+                                task(QStringLiteral("now"), now() + 1h, TaskStatus::done)};
+    QVERIFY(TaskFilters::filteredOpen(tasks, TaskFilter::today, now(), zone()).isEmpty());
+    QVERIFY(TaskFilters::filteredOpen(tasks, TaskFilter::upcoming, now(), zone()).isEmpty());
+    QVERIFY(!TaskFilters::isOverdue(tasks.first(), today(), zone()));
+    QVERIFY(!TaskFilters::isOverdue(task(QStringLiteral("undated")), today(), zone()));
+}
+
+QTEST_GUILESS_MAIN(TaskFiltersTest)
+#include "tst_taskfilters.moc"

@@ -12,6 +12,8 @@ if(ORVEL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual)
+# Records are made with designated initializers, which leave out what keeps its default.
+add_compile_options(-Wno-missing-field-initializers)
 add_compile_definitions(
     QT_NO_CAST_TO_ASCII
     QT_NO_CAST_FROM_BYTEARRAY

@@ -28,6 +28,8 @@ function(orvel_add_library name)
     qt_add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} ${ARG_BUILDS_ON})
+    # QML modules above may make the objects of this library known to QML.
+    qt_extract_metatypes(${name})
     _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
 endfunction()
 

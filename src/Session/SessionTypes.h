@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Foundation/Clock.h"
+#include "Store/WorkspaceStore.h"
+#include "Support/UIState.h"
+
+#include <QtQml/qqml.h>
+
+/// Makes the long-lived objects known to QML, which lie below it and know nothing of it.
+struct WorkspaceStoreType {
+    Q_GADGET
+    QML_FOREIGN(WorkspaceStore)
+    QML_NAMED_ELEMENT(WorkspaceStore)
+    QML_UNCREATABLE("The application makes the store.")
+};
+
+struct UIStateType {
+    Q_GADGET
+    QML_FOREIGN(UIState)
+    QML_NAMED_ELEMENT(UIState)
+    QML_UNCREATABLE("The application makes the UI state.")
+};
+
+struct ClockType {
+    Q_GADGET
+    QML_FOREIGN(Clock)
+    QML_NAMED_ELEMENT(Clock)
+    QML_UNCREATABLE("The application makes the clock.")
+};

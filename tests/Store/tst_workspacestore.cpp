@@ -1,0 +1,328 @@
+#include "Harness/ManualClock.h"
+#include "SampleSnapshot.h"
+#include "Store/SnapshotCodec.h"
+#include "Store/WorkspaceStore.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using SampleSnapshot::id;
+
+class WorkspaceStoreTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    ManualClock m_clock;
+    int m_made = 0;
+
+    QString path() const { return m_folder.filePath(u"workspace.json"_s); }
+
+    std::unique_ptr<WorkspaceStore> open(std::chrono::milliseconds saveDelay = 1h)
+    {
+        return std::make_unique<WorkspaceStore>(
+            WorkspaceStore::Options{path(), &m_clock, saveDelay, [this] { return id(1000 + m_made++); }});
+    }
+    std::unique_ptr<WorkspaceStore> openSample()
+    {
+        writeFile(SnapshotCodec::encode(SampleSnapshot::make()));
+        auto store = open();
+        m_made = 0;
+        return store;
+    }
+    void writeFile(const QByteArray &bytes)
+    {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray fileBytes() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private slots:
+    void init()
+    {
+        QFile::remove(path());
+        m_made = 0;
+        m_clock.setNow(ManualClock().now());
+    }
+
+    void startsEmptyAndWritesNothingByItself()
+    {
+        const auto store = open();
+        QCOMPARE(store->snapshot(), Snapshot());
+        QCOMPARE(store->settings().workspaceName, u"My Workspace"_s);
+        QVERIFY(!store->settings().hasCompletedOnboarding);
+        QCoreApplication::processEvents();
+        QVERIFY(!QFile::exists(path()));
+    }
+
+    void loadsAndSavesEverything()
+    {
+        const auto store = openSample();
+        QCOMPARE(store->snapshot(), SampleSnapshot::make());
+        store->saveNow();
+        QCOMPARE(fileBytes(), SnapshotCodec::encode(SampleSnapshot::make()));
+    }
+
+    void aFileThatIsNoJsonStaysUntilTheFirstSave()
+    {
+        writeFile("not json");
+        const auto store = open();
+        QCOMPARE(store->snapshot(), Snapshot());
+        QCOMPARE(fileBytes(), "not json"_ba);
+        store->newPage(PageKind::page);
+        store->saveNow();
+        QCOMPARE(SnapshotCodec::decode(fileBytes(), m_clock.now(), &QUuid::createUuid)->pages.size(), 1);
+    }
+
+    void manyRequestsMakeOneDelayedSave()
+    {
+        const auto store = open(0ms);
+        for (int i = 0; i < 10; ++i)
+            store->newTask(QString::number(i), TaskPriority::low, {});
+        QVERIFY(!QFile::exists(path()));
+        QTRY_VERIFY(QFile::exists(path()));
+        QCOMPARE(open()->tasks().size(), 10);
+        QVERIFY(QFile::remove(path()));
+        QCoreApplication::processEvents();
+        QVERIFY2(!QFile::exists(path()), "one save is enough");
+    }
+
+    void tellsOnlyRealChanges()
+    {
+        const auto store = openSample();
+        QSignalSpy tasks(store.get(), &WorkspaceStore::tasksChanged);
+        QSignalSpy pages(store.get(), &WorkspaceStore::pagesChanged);
+        QSignalSpy settings(store.get(), &WorkspaceStore::settingsChanged);
+        store->replace(store->tasks().all().first());
+        store->setSettings(store->settings());
+        store->renameTask(id(777), u"nobody"_s);
+        QCOMPARE(tasks.count() + pages.count() + settings.count(), 0);
+
+        store->renameTask(id(5), u"New"_s);
+        const QUuid added = store->newTask(u"Another"_s, TaskPriority::high, m_clock.now());
+        store->erase<TaskItem>(id(6));
+        QList<RecordChange> changes;
+        for (const auto &call : tasks)
+            changes.append(call.first().value<RecordChange>());
+        QCOMPARE(changes, (QList<RecordChange>{{RecordChange::Kind::replaced, id(5)},
+                                               {RecordChange::Kind::inserted, added},
+                                               {RecordChange::Kind::removed, id(6)}}));
+        QCOMPARE(pages.count(), 0);
+    }
+
+    void recordsWithOneIdAreReachedTogether()
+    {
+        Snapshot sample = SampleSnapshot::make();
+        sample.tasks[1].id = id(5);
+        writeFile(SnapshotCodec::encode(sample));
+        const auto store = open();
+        QCOMPARE(store->tasks().first(id(5))->title, u"Letter"_s);
+        TaskItem task = sample.tasks[0];
+        task.title = u"Both"_s;
+        store->replace(task);
+        QCOMPARE(store->tasks().all(), (QList<TaskItem>{task, task}));
+        store->erase<TaskItem>(id(5));
+        QVERIFY(store->tasks().isEmpty());
+    }
+
+    void newPagesAndNotes()
+    {
+        const auto store = open();
+        m_clock.advance(250ms);
+        const Timestamp now = m_clock.now();
+        store->newPage(PageKind::page);
+        store->newPage(PageKind::note);
+        const auto made = [&](int number, PageKind kind, const QString &icon) {
+            return Page{id(number), u"Untitled"_s, icon, kind, {Block{.id = id(number + 1)}}, false,
+                        {},         1773394200.25, now,  now};
+        };
+        QCOMPARE(store->pages().all(),
+                 (QList<Page>{made(1000, PageKind::page, u"📄"_s), made(1002, PageKind::note, u"📝"_s)}));
+    }
+
+    void pagesAreCopiedMovedAndStarred()
+    {
+        const auto store = openSample();
+        const Page original = SampleSnapshot::make().pages.first();
+        const Timestamp now = m_clock.now();
+        store->duplicatePage(original.id);
+        Page copy = original;
+        copy.id = id(1000);
+        copy.content[0].id = id(1001);
+        copy.title += u" copy"_s;
+        copy.isFavorite = false;
+        copy.createdDate = copy.updatedDate = now;
+        copy.sortOrder = secondsSince1970(now);
+        QCOMPARE(store->pages().all(), (QList<Page>{original, copy}));
+
+        m_clock.advance(1s);
+        store->toggleFavorite(copy.id);
+        store->movePage(copy.id, std::nullopt);
+        copy.isFavorite = true;
+        copy.folderID.reset();
+        copy.updatedDate = m_clock.now();
+        QCOMPARE(*store->pages().first(copy.id), copy);
+    }
+
+    void foldersLetTheirPagesGo()
+    {
+        const auto store = openSample();
+        store->renameFolder(id(2), u"Play"_s);
+        const Folder made = store->newFolder(u"Second"_s, u"📁"_s);
+        QCOMPARE(store->folders().first(id(2))->name, u"Play"_s);
+        QCOMPARE(*store->folders().first(made.id), made);
+        store->deleteFolder(id(2));
+        QCOMPARE(store->folders().all(), QList<Folder>{made});
+        QVERIFY(!store->pages().first(id(3))->folderID);
+        QCOMPARE(store->pages().first(id(3))->updatedDate, m_clock.now());
+    }
+
+    /// Completion dates follow the status through every way of changing it.
+    void taskStatusKeepsItsCompletionDate()
+    {
+        const auto store = open();
+        const QUuid task = store->newTask(u"t"_s, TaskPriority::medium, {});
+        const auto state = [&] {
+            const TaskItem &item = *store->tasks().first(task);
+            return std::pair(item.status, item.completedDate);
+        };
+        using State = decltype(state());
+        store->cycleTaskStatus(task);
+        QCOMPARE(state(), State(TaskStatus::inProgress, std::nullopt));
+        m_clock.advance(1s);
+        store->toggleTaskDone(task);
+        const Timestamp first = m_clock.now();
+        QCOMPARE(state(), State(TaskStatus::done, first));
+        m_clock.advance(1s);
+        store->cycleTaskPriority(task);
+        QCOMPARE(state(), State(TaskStatus::done, first));
+        QCOMPARE(store->tasks().first(task)->priority, TaskPriority::high);
+        QCOMPARE(store->tasks().first(task)->updatedDate, m_clock.now());
+        store->toggleTaskDone(task);
+        QCOMPARE(state(), State(TaskStatus::todo, std::nullopt));
+        store->cycleTaskStatus(task);
+        store->cycleTaskStatus(task);
+        QCOMPARE(state(), State(TaskStatus::done, m_clock.now()));
+        store->cycleTaskStatus(task);
+        QCOMPARE(state(), State(TaskStatus::todo, std::nullopt));
+    }
+
+    void deletingAProjectKeepsItsTasks()
+    {
+        const auto store = openSample();
+        store->logActivity(id(7), u"Note"_s, u"note"_s);
+        store->logActivity(id(777), u"Nobody"_s, u"note"_s);
+        QCOMPARE(store->activities().size(), 2);
+        QCOMPARE(store->activities().all().last(),
+                 (Activity{id(1000), id(7), u"Note"_s, u"note"_s, m_clock.now()}));
+        store->deleteProject(id(7));
+        QVERIFY(store->projects().isEmpty());
+        QVERIFY(store->activities().isEmpty());
+        QVERIFY(!store->tasks().first(id(5))->projectID);
+        QCOMPARE(store->tasks().size(), 2);
+        QCOMPARE(store->events().size(), 1);
+    }
+
+    void habitsToggleTheLocalDay()
+    {
+        const auto store = openSample();
+        m_clock.setTimeZone(QTimeZone("Pacific/Auckland"));
+        const auto before = store->habits().first(id(11))->completions;
+        store->toggleHabit(id(11), m_clock.now() + 4h);
+        QVERIFY(store->habits().first(id(11))->completions.contains(u"2026-03-14"_s));
+        store->toggleHabit(id(11), m_clock.now() + 4h);
+        QCOMPARE(store->habits().first(id(11))->completions, before);
+        m_clock.setTimeZone(QTimeZone::utc());
+    }
+
+    void aBookIsKeptOncePerCatalogueNumber()
+    {
+        const auto store = openSample();
+        Book again = store->books().all().first();
+        again.id = id(500);
+        again.progress = 0.75;
+        const Book stored = store->addBook(again);
+        again.id = id(15);
+        QCOMPARE(stored, again);
+        QCOMPARE(store->books().all(), QList<Book>{again});
+        again.gutenbergID = 11;
+        again.id = id(501);
+        store->addBook(again);
+        QCOMPARE(store->books().size(), 2);
+    }
+
+    void databasesAndTheirRows()
+    {
+        const auto store = openSample();
+        const DBRow added = store->addRow(id(20), {{u"k"_s, u"v"_s}}).value();
+        QVERIFY(!store->addRow(id(777), {}));
+        store->setValue(QString(), id(21), id(25));
+        QVERIFY(store->rows().first(id(25))->values.contains(DBRow::valueKey(id(21))));
+        QCOMPARE(store->rows().first(id(25))->value(SampleSnapshot::table().properties.first()), QString());
+        store->duplicateRow(added.id);
+        QCOMPARE(store->rows().all().last().values, added.values);
+        QCOMPARE(store->rowsIn(id(20)).size(), 3);
+        store->deleteDatabase(id(20));
+        QVERIFY(store->databases().isEmpty());
+        QVERIFY(store->rows().isEmpty());
+    }
+
+    void decksAreCopiedWithNewIds()
+    {
+        const auto store = openSample();
+        const Deck original = store->decks().all().first();
+        const Deck copy = store->duplicateDeck(original.id).value();
+        QVERIFY(!store->duplicateDeck(id(777)));
+        Deck expected = original;
+        expected.id = id(1000);
+        expected.slides[0].id = id(1001);
+        expected.title = u"Untitled copy"_s;
+        expected.createdDate = expected.updatedDate = m_clock.now();
+        expected.sortOrder = secondsSince1970(m_clock.now());
+        QCOMPARE(copy, expected);
+        QCOMPARE(store->decks().all(), (QList<Deck>{original, expected}));
+    }
+
+    void resetErasesAtOnce_data()
+    {
+        QTest::addColumn<bool>("keep");
+        QTest::newRow("keeping the onboarding") << true;
+        QTest::newRow("with the onboarding again") << false;
+    }
+    void resetErasesAtOnce()
+    {
+        QFETCH(bool, keep);
+        const auto store = openSample();
+        QSignalSpy pages(store.get(), &WorkspaceStore::pagesChanged);
+        store->resetEverything(keep);
+        Snapshot expected;
+        expected.settings.hasCompletedOnboarding = keep;
+        QCOMPARE(store->snapshot(), expected);
+        QCOMPARE(fileBytes(), SnapshotCodec::encode(expected));
+        QCOMPARE(pages.count(), 1);
+        QCOMPARE(pages[0][0].value<RecordChange>(), RecordChange());
+    }
+
+    void liesInThePersonsDataFolder()
+    {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.filePath(u"share/deep"_s)));
+        QCOMPARE(WorkspaceStore::defaultFilePath(), m_folder.filePath(u"share/deep/Orvel/workspace.json"_s));
+        QVERIFY(QFileInfo(m_folder.filePath(u"share/deep/Orvel"_s)).isDir());
+
+        writeFile("a file where the folder should be");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(path() + u"/inside"_s));
+        QCOMPARE(WorkspaceStore::defaultFilePath(), QDir::tempPath() + u"/Orvel/workspace.json"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(WorkspaceStoreTest)
+#include "tst_workspacestore.moc"

@@ -1,13 +1,24 @@
 #include "Session/OrvelSession.h"
 
-OrvelSession *OrvelSession::of(QQmlEngine &engine)
+namespace
 {
-    return engine.singletonInstance<OrvelSession *>(qmlTypeId("Orvel.Session", 1, 0, "Orvel"));
+constexpr char sessionProperty[] = "orvelSession";
 }
 
-void OrvelSession::fill(WorkspaceStore *store, UIState *ui)
+OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, QObject *parent)
+    : QObject(parent), m_store(store), m_ui(ui)
 {
-    m_store = store;
-    m_ui = ui;
-    emit filled();
+}
+
+void OrvelSession::provideTo(QQmlEngine &engine)
+{
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+    engine.setProperty(sessionProperty, QVariant::fromValue(this));
+}
+
+OrvelSession *OrvelSession::create(QQmlEngine *engine, QJSEngine *)
+{
+    auto *const session = engine->property(sessionProperty).value<OrvelSession *>();
+    Q_ASSERT_X(session, "OrvelSession", "provideTo has to come before the first screen");
+    return session;
 }

@@ -5,31 +5,28 @@
 #include <QQmlEngine>
 
 /// `Orvel` in QML: the long-lived objects of the process, as screens hand them to their view models. The
-/// application fills it before the first screen is made, and tests fill it with theirs.
+/// application makes it and provides it to its engine before the first screen is loaded; tests do the same
+/// with objects of their own.
 class OrvelSession : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(Orvel)
     QML_SINGLETON
-    Q_PROPERTY(WorkspaceStore *store READ store NOTIFY filled FINAL)
-    Q_PROPERTY(UIState *ui READ ui NOTIFY filled FINAL)
+    Q_PROPERTY(WorkspaceStore *store READ store CONSTANT FINAL)
+    Q_PROPERTY(UIState *ui READ ui CONSTANT FINAL)
 
 public:
-    using QObject::QObject;
+    /// The objects outlive the session, and the session outlives the engine.
+    OrvelSession(WorkspaceStore *store, UIState *ui, QObject *parent = nullptr);
 
-    /// The session of this engine.
-    static OrvelSession *of(QQmlEngine &engine);
+    void provideTo(QQmlEngine &engine);
+    /// Called by the engine when QML first names `Orvel`.
+    static OrvelSession *create(QQmlEngine *engine, QJSEngine *);
 
     WorkspaceStore *store() const { return m_store; }
     UIState *ui() const { return m_ui; }
 
-    /// Both objects outlive the engine.
-    void fill(WorkspaceStore *store, UIState *ui);
-
-signals:
-    void filled();
-
 private:
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
+    WorkspaceStore *m_store;
+    UIState *m_ui;
 };

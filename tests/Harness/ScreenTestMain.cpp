@@ -1,0 +1,27 @@
+#include "Harness/TestWorkspace.h"
+#include "Session/OrvelSession.h"
+
+#include <QQmlEngine>
+#include <QtQuickTest>
+
+/// Gives the QML tests of a screen a workspace of their own.
+class Setup : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void qmlEngineAvailable(QQmlEngine *engine)
+    {
+        engine->addImportPath(QStringLiteral(":/qt/qml"));
+        qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Workspace", &m_workspace);
+        m_session.provideTo(*engine);
+        m_workspace.reset();
+    }
+
+private:
+    TestWorkspace m_workspace;
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(orvel, Setup)
+#include "ScreenTestMain.moc"

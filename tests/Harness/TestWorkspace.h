@@ -1,0 +1,107 @@
+#pragma once
+
+#include "Harness/ManualClock.h"
+#include "Store/WorkspaceStore.h"
+#include "Support/UIState.h"
+
+#include <QTemporaryDir>
+
+/// A whole workspace in a scratch folder for tests of screens: QML reaches it as `Workspace` after
+/// `import Orvel.Testing`, and screens find its store and UI state in `Orvel`. Time stands still until a test
+/// moves it.
+class TestWorkspace : public QObject
+{
+    Q_OBJECT
+
+public:
+    TestWorkspace()
+        : m_store(
+              {m_folder.filePath(QStringLiteral("workspace.json")), &m_clock, std::chrono::milliseconds(0)})
+    {
+    }
+
+    WorkspaceStore &store() { return m_store; }
+    UIState &ui() { return m_ui; }
+    ManualClock &clock() { return m_clock; }
+
+    /// An empty workspace that has finished its onboarding, with the window on the dashboard.
+    Q_INVOKABLE void reset()
+    {
+        m_clock.setNow(ManualClock().now());
+        m_store.resetEverything(false);
+        m_store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
+        m_ui.setSelection(Destination());
+        m_ui.setSearchPresented(false);
+        m_ui.setShortcutsPresented(false);
+        m_ui.setSidebarVisible(true);
+    }
+
+    /// @param status and priority raw texts
+    /// @param dueInHours counted from now; NaN for a task without a due date
+    Q_INVOKABLE QString addTask(const QString &title, const QString &status = QStringLiteral("todo"),
+                                const QString &priority = QStringLiteral("medium"),
+                                double dueInHours = qQNaN())
+    {
+        std::optional<Timestamp> due;
+        if (!qIsNaN(dueInHours))
+            due = m_clock.now() + std::chrono::milliseconds(qint64(dueInHours * 3'600'000));
+        const QUuid id = m_store.newTask(title, enumFromRaw<TaskPriority>(priority).value(), due);
+        while (m_store.tasks().first(id)->status != enumFromRaw<TaskStatus>(status).value())
+            m_store.cycleTaskStatus(id);
+        return id.toString(QUuid::WithoutBraces);
+    }
+
+    Q_INVOKABLE QString addPage(const QString &title, bool isFavorite = false,
+                                const QString &folderID = QString())
+    {
+        const QUuid id = m_store.newPage(PageKind::page);
+        m_store.change<Page>(id, [&](Page &page) {
+            page.title = title;
+            page.isFavorite = isFavorite;
+            if (!folderID.isEmpty())
+                page.folderID = QUuid(folderID);
+        });
+        return id.toString(QUuid::WithoutBraces);
+    }
+
+    Q_INVOKABLE QString addFolder(const QString &name)
+    {
+        return m_store.newFolder(name, QStringLiteral("📁")).id.toString(QUuid::WithoutBraces);
+    }
+
+    /// What stands in the file after a save.
+    Q_INVOKABLE QString saved()
+    {
+        m_store.saveNow();
+        QFile file(m_store.filePath());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    Q_INVOKABLE void advanceHours(double hours)
+    {
+        m_clock.advance(std::chrono::milliseconds(qint64(hours * 3'600'000)));
+    }
+
+    /// Sets one field of the settings' theme, or of the settings themselves, by its raw text.
+    Q_INVOKABLE void setNavigation(const QString &raw)
+    {
+        m_store.changeSettings([&](AppSettings &settings) {
+            settings.theme.navigation = enumFromRaw<NavigationStyle>(raw).value();
+        });
+    }
+    Q_INVOKABLE void setWorkspaceName(const QString &name)
+    {
+        m_store.changeSettings([&](AppSettings &settings) { settings.workspaceName = name; });
+    }
+    Q_INVOKABLE void hideModule(const QString &raw)
+    {
+        m_store.changeSettings(
+            [&](AppSettings &settings) { settings.setModule(enumFromRaw<OrvelModule>(raw).value(), false); });
+    }
+
+private:
+    QTemporaryDir m_folder;
+    ManualClock m_clock;
+    WorkspaceStore m_store;
+    UIState m_ui;
+};

@@ -1,0 +1,49 @@
+#include "DesignSystem/OVTheme.h"
+
+#include "DesignSystem/ThemeRevision.h"
+
+#include <optional>
+
+namespace
+{
+
+struct State {
+    OVThemeSnapshot snapshot;
+    std::optional<AppSettings> settings;
+    bool systemDark = false;
+};
+
+State &state()
+{
+    static State value;
+    return value;
+}
+
+} // namespace
+
+void OVTheme::apply(const AppSettings &settings)
+{
+    state().settings = settings;
+    const OVThemeSnapshot next = OVThemeSnapshot::resolved(settings, state().systemDark);
+    if (next == state().snapshot)
+        return;
+    state().snapshot = next;
+    ThemeRevision::shared().increment();
+}
+
+void OVTheme::setSystemDark(bool dark)
+{
+    state().systemDark = dark;
+    if (const auto settings = state().settings)
+        apply(*settings);
+}
+
+const OVThemeSnapshot &OVTheme::current()
+{
+    return state().snapshot;
+}
+
+OVColors OVTheme::colors()
+{
+    return OVColors::of(state().snapshot.inkMode, state().snapshot.dark);
+}

@@ -181,9 +181,15 @@ void JsonWriter::integer(qint64 value)
 
 void JsonWriter::number(double value)
 {
+    // Readers take digits without an exponent for an integer, and refuse one that 64 bits can't hold.
+    static constexpr double integerLimit = 9223372036854775808.0;
     separate();
     char *const to = room(32);
-    m_size += std::to_chars(to, to + 32, std::isfinite(value) ? value : 0.0).ptr - to;
+    const double finite = std::isfinite(value) ? value : 0.0;
+    const bool needsExponent = std::abs(finite) >= integerLimit;
+    const auto end = needsExponent ? std::to_chars(to, to + 32, finite, std::chars_format::scientific)
+                                   : std::to_chars(to, to + 32, finite);
+    m_size += end.ptr - to;
     m_needsComma = true;
 }
 

@@ -122,6 +122,31 @@ struct FieldTable {
         }
         return size;
     }
+
+    /// The value of each field, as far as the object has it.
+    struct Values {
+        std::array<Element, size> elements;
+        std::bitset<size> present;
+    };
+
+    /// Nothing if the element is no object.
+    static std::optional<Values> collect(Element json)
+    {
+        simdjson::dom::object object;
+        if (json.get(object) != simdjson::SUCCESS)
+            return std::nullopt;
+        std::optional<Values> values(std::in_place);
+        std::size_t expected = 0;
+        for (const auto [key, value] : object) {
+            const std::size_t index = find(key, expected);
+            if (index == size)
+                continue;
+            expected = index + 1;
+            values->elements[index] = value;
+            values->present.set(index);
+        }
+        return values;
+    }
 };
 
 /// A fresh record, as the missing fields of a tolerant one are taken from it.
@@ -142,17 +167,12 @@ bool readTolerant(Element json, Record &out, const DecodeContext &context)
 {
     using Table = FieldTable<Record>;
     out = fresh<Record>(context);
-    simdjson::dom::object object;
-    if (json.get(object) != simdjson::SUCCESS)
+    const auto values = Table::collect(json);
+    if (!values)
         return false;
-    std::size_t expected = 0;
-    for (const auto [key, value] : object) {
-        const std::size_t index = Table::find(key, expected);
-        if (index == Table::size || value.is_null())
-            continue;
-        expected = index + 1;
-        Table::entries[index].read(value, out, context);
-    }
+    for (std::size_t i = 0; i < Table::size; ++i)
+        if (values->present[i] && !values->elements[i].is_null())
+            Table::entries[i].read(values->elements[i], out, context);
     return true;
 }
 
@@ -160,23 +180,16 @@ template <FieldListed Record>
 bool readStrict(Element json, Record &out, const DecodeContext &context)
 {
     using Table = FieldTable<Record>;
-    simdjson::dom::object object;
-    if (json.get(object) != simdjson::SUCCESS)
+    const auto values = Table::collect(json);
+    if (!values)
         return false;
-    std::bitset<Table::size> seen;
-    std::size_t expected = 0;
-    for (const auto [key, value] : object) {
-        const std::size_t index = Table::find(key, expected);
-        if (index == Table::size)
-            continue;
-        expected = index + 1;
-        if (!Table::entries[index].read(value, out, context))
+    for (std::size_t i = 0; i < Table::size; ++i) {
+        const auto &entry = Table::entries[i];
+        const bool isFine =
+            values->present[i] ? entry.read(values->elements[i], out, context) : entry.mayBeMissing;
+        if (!isFine)
             return false;
-        seen.set(index);
     }
-    for (std::size_t i = 0; i < Table::size; ++i)
-        if (!seen[i] && !Table::entries[i].mayBeMissing)
-            return false;
     return true;
 }
 

@@ -1,0 +1,95 @@
+#include "Support/PageText.h"
+
+#include <algorithm>
+
+namespace
+{
+bool isBlank(const QString &text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return character.isSpace(); });
+}
+
+/// The mark before a block's text, for the types that are one line of text.
+QString linePrefix(const Block &block)
+{
+    switch (block.type) {
+    case BlockType::heading1:
+        return QStringLiteral("# ");
+    case BlockType::heading2:
+        return QStringLiteral("## ");
+    case BlockType::heading3:
+        return QStringLiteral("### ");
+    case BlockType::bulleted:
+        return QStringLiteral("- ");
+    case BlockType::numbered:
+        return QStringLiteral("1. ");
+    case BlockType::checklist:
+        return block.checked ? QStringLiteral("- [x] ") : QStringLiteral("- [ ] ");
+    case BlockType::quote:
+    case BlockType::callout:
+        return QStringLiteral("> ");
+    default:
+        return {};
+    }
+}
+
+bool isListItem(BlockType type)
+{
+    return type == BlockType::bulleted || type == BlockType::numbered || type == BlockType::checklist;
+}
+
+void appendMarkdown(QStringList &lines, const Block &block)
+{
+    if (block.type == BlockType::paragraph && isBlank(block.text))
+        return;
+    if (block.type == BlockType::code)
+        lines << QStringLiteral("```") + block.language << block.text << QStringLiteral("```");
+    else if (block.type == BlockType::divider)
+        lines << QStringLiteral("---");
+    else
+        lines << linePrefix(block) + block.text;
+    if (!isListItem(block.type))
+        lines << QString();
+}
+} // namespace
+
+QString PageText::markdownExport(const Page &page)
+{
+    QStringList lines{QStringLiteral("# ") + (isBlank(page.title) ? QStringLiteral("Untitled") : page.title),
+                      QString()};
+    for (const Block &block : page.content)
+        appendMarkdown(lines, block);
+    while (lines.last().isEmpty())
+        lines.removeLast();
+    return lines.join(u'\n') + u'\n';
+}
+
+QString PageText::plainTextExport(const Page &page)
+{
+    QStringList lines{page.title};
+    for (const Block &block : page.content)
+        lines << block.text;
+    lines.removeIf(isBlank);
+    return lines.join(u'\n');
+}
+
+qsizetype PageText::wordCount(const Page &page)
+{
+    qsizetype words = 0;
+    for (const Block &block : page.content) {
+        bool isInWord = false;
+        for (const QChar character : block.text) {
+            const bool isSpace = character.isSpace();
+            words += !isSpace && !isInWord ? 1 : 0;
+            isInWord = !isSpace;
+        }
+    }
+    return words;
+}
+
+QString PageText::readingTimeLabel(const Page &page)
+{
+    static constexpr qsizetype wordsPerMinute = 200;
+    const qsizetype minutes = (wordCount(page) + wordsPerMinute - 1) / wordsPerMinute;
+    return QStringLiteral("%1 min read").arg(std::max<qsizetype>(minutes, 1));
+}

@@ -227,6 +227,7 @@ void RecordsTest::strictRecordsRefuseOtherTypes_data()
                               R"("count":true)",
                               R"("count":9223372036854775808)",
                               R"("count":1e19)",
+                              R"("count":9.223372036854775808e18)",
                               R"("count":-9.3e18)",
                               R"("share":"0.5")",
                               R"("share":false)",

@@ -1,5 +1,7 @@
 #include "DesignSystem/Theme.h"
 
+#include "DesignSystem/CanvasDescriptor.h"
+#include "DesignSystem/OVGlowProvider.h"
 #include "DesignSystem/OVIconProvider.h"
 #include "DesignSystem/ThemeRevision.h"
 
@@ -9,6 +11,8 @@ Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
 {
     if (!engine->imageProvider(OVIconProvider::name))
         engine->addImageProvider(OVIconProvider::name, new OVIconProvider);
+    if (!engine->imageProvider(OVGlowProvider::name))
+        engine->addImageProvider(OVGlowProvider::name, new OVGlowProvider);
     return new Theme(nullptr);
 }
 
@@ -25,4 +29,15 @@ int Theme::control(int pixels)
     // Tight and loose rows differ less than gaps do, and large text always finds room.
     const double density = 1 + (snapshot().densityScale - 1) / 2;
     return qRound(pixels * density * std::max(1.0, snapshot().fontScale));
+}
+
+QList<QColor> Theme::canvasColors() const
+{
+    const CanvasDescriptor canvas = canvasDescriptor(snapshot().canvas);
+    return snapshot().dark ? canvas.dark : canvas.light;
+}
+
+bool Theme::vividCanvas() const
+{
+    return canvasDescriptor(snapshot().canvas).vivid;
 }

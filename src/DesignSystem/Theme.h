@@ -38,6 +38,9 @@ class Theme : public QObject
     Q_PROPERTY(QColor accent READ accent NOTIFY changed FINAL)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed FINAL)
 
+    Q_PROPERTY(QList<QColor> canvasColors READ canvasColors NOTIFY changed FINAL)
+    Q_PROPERTY(bool vividCanvas READ vividCanvas NOTIFY changed FINAL)
+
     // Choices
     Q_PROPERTY(bool dark READ dark NOTIFY changed FINAL)
     Q_PROPERTY(bool inkMode READ inkMode NOTIFY changed FINAL)
@@ -134,6 +137,10 @@ public:
     QColor ovInfo() const { return m_colors.info; }
     QColor accent() const { return snapshot().accentColor; }
     QColor onAccent() const { return snapshot().onAccent; }
+
+    /// The gradient of the window's ground; empty where the plain canvas colour shows.
+    QList<QColor> canvasColors() const;
+    bool vividCanvas() const;
 
     bool dark() const { return snapshot().dark; }
     bool inkMode() const { return snapshot().inkMode; }

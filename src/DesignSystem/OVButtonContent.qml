@@ -1,0 +1,43 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// The icon and the words of a button, centred together.
+Item {
+    id: root
+
+    property string symbol
+    property string text
+    property color color: Theme.ovInk
+    property int iconSize: Theme.iconRow
+    property int textSize: Theme.sizeDense
+    property bool filled: false
+
+    implicitHeight: Math.max(icon.visible ? icon.height : 0, label.implicitHeight)
+    implicitWidth: label.implicitWidth + label.offset
+
+    OVIcon {
+        id: icon
+
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.color
+        filled: root.filled
+        size: root.iconSize
+        symbol: root.symbol
+        visible: root.symbol !== ""
+        x: Math.round((root.width - label.width - label.offset) / 2)
+    }
+
+    OVText {
+        id: label
+
+        readonly property int offset: !icon.visible ? 0 : icon.width + (root.text === "" ? 0 : 6)
+
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.color
+        font.pixelSize: root.textSize
+        font.weight: Font.Medium
+        text: root.text
+        width: Math.min(implicitWidth, root.width - offset)
+        x: icon.x + offset
+    }
+}

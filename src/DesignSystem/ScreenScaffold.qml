@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// The frame of a screen: its content in one centred column, padded, scrolling where it is too long.
+/// Children lie in a `ColumnLayout`.
+FocusScope {
+    id: root
+
+    /// Widest the column gets: one of the theme's reading, list and grid widths.
+    property int maximumWidth: Theme.listWidth
+    /// Without it the column has exactly the height of the screen, and a list in it scrolls by itself.
+    property bool scrolls: true
+    property alias spacing: column.spacing
+    property alias contentY: flickable.contentY
+    readonly property int padding: width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding
+    default property alias content: column.data
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        clip: contentHeight > height
+        contentHeight: root.scrolls ? column.implicitHeight + 2 * column.y : height
+        interactive: contentHeight > height
+        T.ScrollBar.vertical: OVScrollBar { }
+
+        ColumnLayout {
+            id: column
+
+            height: root.scrolls ? implicitHeight : flickable.height - y
+            spacing: Theme.space16
+            width: Math.max(0, Math.min(root.maximumWidth, flickable.width - 2 * root.padding))
+            x: Math.round((flickable.width - width) / 2)
+            y: Math.round(root.padding * 1.25)
+        }
+    }
+}

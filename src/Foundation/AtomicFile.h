@@ -10,8 +10,10 @@
 namespace AtomicFile
 {
 /// Writes the bytes to a temporary file beside `path`, syncs it, renames it over `path` and syncs the folder.
-/// The file is readable by its owner only. A symbolic link stays and its target is replaced.
-/// On failure gives the system's description of the step that failed.
+/// The file is readable by its owner only. A symbolic link stays and its target is replaced, even one that
+/// does not exist yet.
+/// On failure gives the step that failed and the system's reason. If that step is the last one, the sync of
+/// the folder, the new file is in place but a power cut may still bring back the old one.
 std::expected<void, QString> write(const QString &path, QByteArrayView bytes);
 
 /// Removes the temporary files that a killed writer of `path` left beside it.

@@ -16,6 +16,13 @@ T.AbstractButton {
     /// Whether the pointer leaves a wash.
     property bool washed: true
 
+    /// Does what a press by the pointer does.
+    function activate() {
+        if (checkable)
+            toggle()
+        clicked()
+    }
+
     activeFocusOnTab: true
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
@@ -31,8 +38,8 @@ T.AbstractButton {
         radius: root.radius
     }
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: activate()
+    Keys.onEnterPressed: activate()
 
     Behavior on scale {
         NumberAnimation { duration: Theme.durationHover; easing.type: Easing.OutCubic }

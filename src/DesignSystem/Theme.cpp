@@ -3,6 +3,7 @@
 #include "DesignSystem/CanvasDescriptor.h"
 #include "DesignSystem/OVGlowProvider.h"
 #include "DesignSystem/OVIconProvider.h"
+#include "DesignSystem/OVShadowProvider.h"
 #include "DesignSystem/ThemeRevision.h"
 
 #include <QQmlEngine>
@@ -11,6 +12,8 @@ Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
 {
     if (!engine->imageProvider(OVIconProvider::name))
         engine->addImageProvider(OVIconProvider::name, new OVIconProvider);
+    if (!engine->imageProvider(OVShadowProvider::name))
+        engine->addImageProvider(OVShadowProvider::name, new OVShadowProvider);
     if (!engine->imageProvider(OVGlowProvider::name))
         engine->addImageProvider(OVGlowProvider::name, new OVGlowProvider);
     return new Theme(nullptr);
@@ -22,6 +25,27 @@ Theme::Theme(QObject *parent) : QObject(parent), m_colors(OVTheme::colors())
         m_colors = OVTheme::colors();
         emit changed();
     });
+}
+
+QColor Theme::selection() const
+{
+    QColor color = accent();
+    color.setAlphaF(0.22F);
+    return color;
+}
+
+QColor Theme::focusRing() const
+{
+    QColor color = accent();
+    color.setAlphaF(0.6F);
+    return color;
+}
+
+QColor Theme::ovScrim() const
+{
+    QColor color = Qt::black;
+    color.setAlphaF(dark() ? 0.5F : 0.28F);
+    return color;
 }
 
 int Theme::control(int pixels)

@@ -37,6 +37,12 @@ class Theme : public QObject
     Q_PROPERTY(QColor ovInfo READ ovInfo NOTIFY changed FINAL)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed FINAL)
     Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed FINAL)
+    /// Behind selected text.
+    Q_PROPERTY(QColor selection READ selection NOTIFY changed FINAL)
+    /// The ring around what has the keyboard's focus.
+    Q_PROPERTY(QColor focusRing READ focusRing NOTIFY changed FINAL)
+    /// Over the window behind a sheet.
+    Q_PROPERTY(QColor ovScrim READ ovScrim NOTIFY changed FINAL)
 
     Q_PROPERTY(QList<QColor> canvasColors READ canvasColors NOTIFY changed FINAL)
     Q_PROPERTY(bool vividCanvas READ vividCanvas NOTIFY changed FINAL)
@@ -104,6 +110,10 @@ class Theme : public QObject
     Q_PROPERTY(int readingWidth READ readingWidth NOTIFY changed FINAL)
     Q_PROPERTY(int listWidth READ listWidth NOTIFY changed FINAL)
     Q_PROPERTY(int gridWidth READ gridWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int fieldWidth READ fieldWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int menuWidth READ menuWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int dialogWidth READ dialogWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int sheetWidth READ sheetWidth NOTIFY changed FINAL)
     Q_PROPERTY(double disabledOpacity READ disabledOpacity NOTIFY changed FINAL)
 
     // Motion in milliseconds; 0 where motion is off
@@ -115,6 +125,7 @@ class Theme : public QObject
     Q_PROPERTY(double springResponse READ springResponse NOTIFY changed FINAL)
     Q_PROPERTY(QEasingCurve springEasing READ springEasing NOTIFY changed FINAL)
     Q_PROPERTY(int tooltipDelay READ tooltipDelay NOTIFY changed FINAL)
+    Q_PROPERTY(int toastDuration READ toastDuration NOTIFY changed FINAL)
 
 public:
     /// Also gives the engine its icons.
@@ -137,6 +148,9 @@ public:
     QColor ovInfo() const { return m_colors.info; }
     QColor accent() const { return snapshot().accentColor; }
     QColor onAccent() const { return snapshot().onAccent; }
+    QColor selection() const;
+    QColor focusRing() const;
+    QColor ovScrim() const;
 
     /// The gradient of the window's ground; empty where the plain canvas colour shows.
     QList<QColor> canvasColors() const;
@@ -199,6 +213,10 @@ public:
     int readingWidth() const { return scaled(720); }
     int listWidth() const { return scaled(920); }
     int gridWidth() const { return scaled(1180); }
+    int fieldWidth() const { return scaled(240); }
+    int menuWidth() const { return scaled(180); }
+    int dialogWidth() const { return scaled(420); }
+    int sheetWidth() const { return scaled(560); }
     double disabledOpacity() const { return 0.45; }
 
     int durationHover() const { return duration(120); }
@@ -209,6 +227,7 @@ public:
     double springResponse() const { return ThemeSpring::response(snapshot().animation); }
     QEasingCurve springEasing() const { return ThemeSpring::curve(snapshot().animation); }
     int tooltipDelay() const { return 500; }
+    int toastDuration() const { return 4000; }
 
 signals:
     void changed();

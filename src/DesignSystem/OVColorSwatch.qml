@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// A round sample of a colour; the chosen one stands in a ring with a check mark.
+T.AbstractButton {
+    id: swatch
+
+    required property color color
+    property bool chosen: false
+    /// The ink of the check mark.
+    property color markColor: Theme.onAccent
+
+    implicitWidth: Theme.chipHeight
+    implicitHeight: Theme.chipHeight
+    padding: 4
+    hoverEnabled: true
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: chosen
+
+    background: Rectangle {
+        radius: width / 2
+        color: "transparent"
+        border.width: swatch.chosen ? 2 : Theme.lineWidth
+        border.color: swatch.chosen ? swatch.color : swatch.hovered ? Theme.ovBorderStrong : "transparent"
+
+        OVFocusRing {
+            shown: swatch.visualFocus
+            targetRadius: parent.radius
+        }
+    }
+
+    contentItem: Rectangle {
+        radius: width / 2
+        color: swatch.color
+        border.width: Theme.lineWidth
+        border.color: Theme.ovBorder
+        scale: swatch.down ? 0.92 : 1
+
+        OVCheckMark {
+            anchors.centerIn: parent
+            shown: swatch.chosen
+            color: swatch.markColor
+        }
+    }
+
+    OVToolTip {
+        visible: swatch.hovered && swatch.text !== ""
+        text: swatch.text
+    }
+}

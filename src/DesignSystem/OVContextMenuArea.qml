@@ -1,0 +1,40 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// Opens a menu at the pointer on a right click, and at the lower edge of its parent on the Menu key or
+/// Shift+F10 through handleKey(). The menu is made when it is first asked for, so that a list of many rows
+/// costs nothing.
+Item {
+    id: area
+
+    /// Makes the OVMenu.
+    required property Component menu
+    /// The menu once it was asked for.
+    readonly property OVMenu openMenu: loader.item as OVMenu
+
+    function openAt(x: real, y: real) {
+        loader.active = true
+        loader.item.popup(area, x, y)
+    }
+
+    function handleKey(event: KeyEvent) {
+        if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)) {
+            openAt(Theme.space8, height)
+            event.accepted = true
+        }
+    }
+
+    anchors.fill: parent
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: eventPoint => area.openAt(eventPoint.position.x, eventPoint.position.y)
+    }
+
+    Loader {
+        id: loader
+        active: false
+        sourceComponent: area.menu
+    }
+}

@@ -1,0 +1,150 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// A button that shows a day, a time or both, and opens the pickers for them.
+T.AbstractButton {
+    id: field
+
+    /// An invalid date shows the placeholder.
+    property date value
+    /// The present moment, which marks today; taken anew each time the picker opens.
+    property date now: new Date()
+    property bool showsDate: true
+    property bool showsTime: false
+    /// Whether the value can be taken away in the picker.
+    property bool clearable: false
+    property string placeholderText: qsTr("No date")
+    /// What the value is, for assistive tools.
+    property string name: ""
+    /// A slim pill rather than a field.
+    property bool compact: false
+    /// The open picker, or null before it is first opened.
+    readonly property OVPopup popup: loader.item as OVPopup
+
+    property bool openedByKeyboard: false
+
+    signal edited(moment: date)
+    signal cleared()
+
+    function open() {
+        openedByKeyboard = visualFocus
+        now = new Date()
+        loader.active = true
+        loader.item.open()
+    }
+
+    function commit(moment: date) {
+        field.value = moment
+        field.edited(moment)
+    }
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(compact ? Theme.chipHeight : Theme.fieldHeight, implicitContentHeight + Theme.space8)
+    horizontalPadding: Theme.space12
+    hoverEnabled: true
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    text: label.text || placeholderText
+    font.family: Theme.fontFamily
+    font.pixelSize: compact ? Theme.sizeCaption : Theme.sizeBody
+
+    Accessible.role: Accessible.Button
+    Accessible.name: name !== "" ? name + ": " + text : text
+    Keys.onReturnPressed: open()
+    Keys.onEnterPressed: open()
+    Keys.onDownPressed: open()
+    onClicked: open()
+
+    DateLabel {
+        id: label
+        value: field.value
+        showsDate: field.showsDate
+        showsTime: field.showsTime
+    }
+
+    contentItem: Item {
+        implicitWidth: icon.width + Theme.space8 + content.implicitWidth
+        implicitHeight: content.implicitHeight
+
+        OVIcon {
+            id: icon
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: field.showsDate ? "calendar" : "clock"
+            size: Theme.iconRow
+            color: Theme.ovInkSecondary
+        }
+
+        OVText {
+            id: content
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.space8
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: field.text
+            font: field.font
+            color: label.text !== "" ? Theme.ovInk : Theme.ovInkTertiary
+        }
+    }
+
+    background: OVFieldSurface {
+        radius: field.compact ? height / 2 : Theme.cornerField
+        color: field.down ? Theme.ovHover : Theme.ovSurface
+        hovered: field.hovered && field.enabled
+        ringVisible: field.visualFocus
+    }
+
+    Loader {
+        id: loader
+        active: false
+
+        sourceComponent: OVPopup {
+            parent: field
+            y: field.height + Theme.space4
+            focus: true
+
+            onAboutToShow: (field.showsDate ? datePicker : timePicker).focusFirst()
+            onOpened: datePicker.ringVisible = field.openedByKeyboard
+
+            contentItem: Column {
+                spacing: Theme.space12
+
+                OVDatePicker {
+                    id: datePicker
+                    visible: field.showsDate
+                    value: field.value
+                    now: field.now
+                    showsToday: true
+                    clearable: field.clearable
+                    focus: true
+                    onChosen: moment => {
+                        field.commit(moment)
+                        if (!field.showsTime)
+                            loader.item.close()
+                    }
+                    onCleared: {
+                        field.value = new Date(NaN)
+                        field.cleared()
+                        loader.item.close()
+                    }
+                }
+
+                Rectangle {
+                    visible: field.showsDate && field.showsTime
+                    width: parent.width
+                    height: Theme.lineWidth
+                    color: Theme.ovBorder
+                }
+
+                OVTimePicker {
+                    id: timePicker
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    visible: field.showsTime
+                    enabled: !isNaN(field.value)
+                    value: field.value
+                    onEdited: moment => field.commit(moment)
+                    onAccepted: loader.item.close()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// A menu for a button, a menu bar or a right click. It is as wide as its widest item, scrolls when the
+/// window is too low for it, and jumps to the item that begins with a typed letter.
+T.Menu {
+    id: menu
+
+    /// Whether a column for icons and check marks stands before the titles.
+    property bool hasLeadingColumn: false
+    property real widestItem: 0
+    readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: menu }
+
+    function measure() {
+        let widest = 0
+        let leading = false
+        for (let i = 0; i < count; ++i) {
+            const item = itemAt(i)
+            widest = Math.max(widest, item.implicitWidth)
+            leading = leading || item.checkable === true || (item.symbol ?? "") !== ""
+        }
+        hasLeadingColumn = leading
+        widestItem = widest
+    }
+
+    function jumpTo(letter: string): bool {
+        for (let step = 1; step <= count; ++step) {
+            const index = (Math.max(currentIndex, -1) + step + count) % count
+            const item = itemAt(index)
+            if (item.enabled && (item.title ?? "").toLowerCase().startsWith(letter.toLowerCase())) {
+                currentIndex = index
+                return true
+            }
+        }
+        return false
+    }
+
+    implicitWidth: Math.max(Theme.menuWidth, widestItem) + leftPadding + rightPadding
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    height: Math.min(implicitHeight, (parent?.Window.height ?? implicitHeight) - topMargin - bottomMargin)
+    padding: Theme.space4
+    margins: Theme.space8
+    overlap: Theme.space4
+    focus: true
+    transformOrigin: Item.TopLeft
+
+    onAboutToShow: measure()
+
+    delegate: OVMenuItem { }
+    background: OVPopupSurface { }
+    enter: OVPopupEnter { }
+    exit: OVPopupExit { }
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        currentIndex: menu.currentIndex
+        highlightMoveDuration: 0
+
+        Keys.onPressed: event => {
+            if (event.text.trim() !== "" && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)))
+                event.accepted = menu.jumpTo(event.text)
+        }
+
+        T.ScrollBar.vertical: OVScrollBar { }
+    }
+}

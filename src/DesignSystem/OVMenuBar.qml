@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// A slim, quiet row of menus inside the window. Alt or F10 goes to it; arrow keys move along it.
+T.MenuBar {
+    id: bar
+
+    implicitWidth: contentWidth + leftPadding + rightPadding
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    horizontalPadding: Theme.space8
+    verticalPadding: Theme.space4 / 2
+    spacing: 0
+
+    function openMenu(index: int) {
+        const item = itemAt(index)
+        item.triggered()
+        item.menu.currentIndex = 0
+    }
+
+    Accessible.name: qsTr("Menu bar")
+
+    delegate: OVMenuBarItem { }
+    background: Item { }
+
+    contentItem: Row {
+        spacing: bar.spacing
+
+        Repeater {
+            model: bar.contentModel
+        }
+    }
+
+    Shortcut {
+        sequence: "F10"
+        onActivated: bar.openMenu(0)
+    }
+}

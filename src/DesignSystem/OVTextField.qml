@@ -1,0 +1,96 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+
+/// A single-line text field with an optional icon before and a clear button after the text.
+T.TextField {
+    id: field
+
+    /// The product's name of an icon before the text; empty for none.
+    property string symbol: ""
+    /// Whether a button to empty the field shows while it holds text.
+    property bool clearable: false
+    property bool invalid: false
+    /// Without frame, for text that is edited where it stands.
+    property bool plain: false
+    readonly property bool visualFocus: activeFocus && (focusReason === Qt.TabFocusReason
+                                        || focusReason === Qt.BacktabFocusReason
+                                        || focusReason === Qt.ShortcutFocusReason)
+
+    /// The clear button emptied the field.
+    signal cleared()
+
+    implicitWidth: Theme.fieldWidth
+    implicitHeight: plain ? contentHeight + topPadding + bottomPadding
+                          : Math.max(Theme.fieldHeight, contentHeight + Theme.space8)
+    leftPadding: (plain ? 0 : Theme.space12) + (symbol !== "" ? Theme.iconRow + Theme.space8 : 0)
+    rightPadding: (plain ? 0 : Theme.space12) + (clearButton.visible ? clearButton.width : 0)
+    verticalAlignment: TextInput.AlignVCenter
+    selectByMouse: true
+    hoverEnabled: true
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.sizeBody
+    color: Theme.ovInk
+    placeholderTextColor: Theme.ovInkTertiary
+    selectionColor: Theme.selection
+    selectedTextColor: Theme.ovInk
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Accessible.name: placeholderText
+    Keys.onPressed: event => contextMenu.handleKey(event)
+
+    cursorDelegate: OVCaret { }
+
+    background: OVFieldSurface {
+        visible: !field.plain || field.visualFocus
+        color: field.plain ? "transparent" : Theme.ovSurface
+        border.width: field.plain ? 0 : Theme.lineWidth
+        hovered: field.hovered && field.enabled
+        active: field.activeFocus
+        invalid: field.invalid
+        ringVisible: field.visualFocus
+    }
+
+    OVText {
+        x: field.leftPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height
+        visible: !field.length && !field.preeditText
+        text: field.placeholderText
+        font: field.font
+        color: field.placeholderTextColor
+        horizontalAlignment: field.horizontalAlignment
+        Accessible.ignored: true
+    }
+
+    OVIcon {
+        x: field.plain ? 0 : Theme.space12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.symbol !== ""
+        symbol: field.symbol
+        size: Theme.iconRow
+        color: field.activeFocus ? Theme.ovInkSecondary : Theme.ovInkTertiary
+    }
+
+    OVIconButton {
+        id: clearButton
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space4
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.clearable && field.length > 0 && field.enabled
+        symbol: "xmark"
+        text: qsTr("Clear")
+        focusPolicy: Qt.NoFocus
+        onClicked: {
+            field.clear()
+            field.cleared()
+        }
+    }
+
+    OVContextMenuArea {
+        id: contextMenu
+        menu: Component {
+            OVTextMenu { target: field }
+        }
+    }
+}

@@ -1,0 +1,177 @@
+import QtQuick
+import QtTest
+import Orvel.DesignSystem
+
+Item {
+    width: 900
+    height: 600
+
+    Item {
+        id: opener
+        width: 100
+        height: 30
+        activeFocusOnTab: true
+    }
+
+    OVMenu {
+        id: menu
+        OVMenuItem { id: copyItem; text: "Copy"; symbol: "doc.on.doc"; shortcutText: "Ctrl C" }
+        OVMenuSeparator { }
+        OVMenuItem { text: "Cannot be"; enabled: false }
+        OVMenu {
+            id: submenu
+            title: "Move to"
+            OVMenuItem { id: folderItem; text: "Folder" }
+        }
+        OVMenuItem { id: checkItem; text: "Pinned"; checkable: true }
+        OVMenuItem { id: deleteItem; text: "Delete"; destructive: true }
+    }
+
+    OVMenu {
+        id: longMenu
+        Repeater {
+            model: 60
+            OVMenuItem { text: "Entry " + index }
+        }
+    }
+
+    OVMenuBar {
+        id: bar
+        y: 40
+        width: 400
+        OVMenu {
+            id: fileMenu
+            title: "&File"
+            OVMenuItem { id: newItem; text: "&New" }
+        }
+        OVMenu {
+            id: viewMenu
+            title: "&View"
+            OVMenuItem { text: "&Zoom" }
+        }
+    }
+
+    SignalSpy { id: copied; target: copyItem; signalName: "triggered" }
+    SignalSpy { id: filed; target: folderItem; signalName: "triggered" }
+    SignalSpy { id: deleted; target: deleteItem; signalName: "triggered" }
+
+    TestCase {
+        name: "Menus"
+        when: windowShown
+
+        function init() {
+            opener.forceActiveFocus(Qt.TabFocusReason)
+            copied.clear()
+            filed.clear()
+            deleted.clear()
+        }
+
+        function openMenu() {
+            menu.popup(opener, 20, 20)
+            tryCompare(menu, "opened", true)
+        }
+
+        function closed(which) {
+            tryCompare(which, "visible", false)
+        }
+
+        function test_arrowsSkipWhatCannotBeChosen() {
+            openMenu()
+            keyClick(Qt.Key_Down)
+            compare(menu.currentIndex, 0)
+            keyClick(Qt.Key_Down)
+            compare(menu.currentIndex, 3)
+            keyClick(Qt.Key_Up)
+            keyClick(Qt.Key_Return)
+            compare(copied.count, 1)
+            closed(menu)
+            verify(opener.activeFocus)
+        }
+
+        function test_escapeReturnsTheFocus() {
+            openMenu()
+            keyClick(Qt.Key_Escape)
+            closed(menu)
+            verify(opener.activeFocus)
+            compare(copied.count, 0)
+        }
+
+        function test_lettersJump() {
+            openMenu()
+            keyClick(Qt.Key_D)
+            compare(menu.currentIndex, 5)
+            keyClick(Qt.Key_C)
+            compare(menu.currentIndex, 0)
+            keyClick(Qt.Key_D)
+            keyClick(Qt.Key_Return)
+            compare(deleted.count, 1)
+            closed(menu)
+        }
+
+        function test_submenuByKeys() {
+            openMenu()
+            keyClick(Qt.Key_M)
+            keyClick(Qt.Key_Right)
+            tryCompare(submenu, "opened", true)
+            keyClick(Qt.Key_Left)
+            tryCompare(submenu, "visible", false)
+            verify(menu.visible)
+            keyClick(Qt.Key_Right)
+            tryCompare(submenu, "opened", true)
+            keyClick(Qt.Key_Return)
+            compare(filed.count, 1)
+            closed(menu)
+        }
+
+        function test_checkableKeepsItsState() {
+            openMenu()
+            keyClick(Qt.Key_P)
+            keyClick(Qt.Key_Space)
+            compare(checkItem.checked, true)
+            closed(menu)
+        }
+
+        function test_isAsWideAsItsWidestItem() {
+            openMenu()
+            for (let i = 0; i < menu.count; ++i)
+                verify(menu.itemAt(i).width >= menu.itemAt(i).implicitWidth)
+            verify(menu.hasLeadingColumn)
+            menu.close()
+            closed(menu)
+        }
+
+        function test_staysInsideTheWindow() {
+            longMenu.popup(opener, 860, 560)
+            tryCompare(longMenu, "opened", true)
+            const corner = longMenu.contentItem.mapToItem(null, 0, 0)
+            verify(corner.y >= 0)
+            verify(corner.y + longMenu.contentItem.height <= 600)
+            verify(corner.x + longMenu.contentItem.width <= 900)
+            verify(longMenu.contentItem.interactive)
+            longMenu.close()
+            closed(longMenu)
+        }
+
+        function test_menuBarByF10AndArrows() {
+            keyClick(Qt.Key_F10)
+            tryCompare(fileMenu, "opened", true)
+            keyClick(Qt.Key_Right)
+            tryCompare(viewMenu, "opened", true)
+            closed(fileMenu)
+            keyClick(Qt.Key_Escape)
+            closed(viewMenu)
+        }
+
+        function test_menuBarByMnemonic() {
+            compare(bar.itemAt(1).Accessible.name, "View")
+            keyClick(Qt.Key_V, Qt.AltModifier)
+            tryCompare(viewMenu, "opened", true)
+            keyClick(Qt.Key_Escape)
+            closed(viewMenu)
+        }
+
+        function test_names() {
+            compare(copyItem.Accessible.name, "Copy")
+        }
+    }
+}

@@ -25,4 +25,6 @@ signals:
     /// It has become another day, or the time zone has changed, so that every "today" has to be looked at
     /// anew.
     void dayChanged();
+    /// Some time has passed, a minute at most; for what depends on the present moment.
+    void ticked();
 };

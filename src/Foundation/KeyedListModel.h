@@ -69,6 +69,15 @@ public:
         changeRows(std::move(next));
     }
 
+    /// Changes the contents of the row with this id, in O(n) of comparing ids alone; without one it does
+    /// nothing.
+    void updateRow(Row next)
+    {
+        const auto found = std::ranges::find(m_rows, next.id, &Row::id);
+        if (found != m_rows.end())
+            changeRow(int(found - m_rows.begin()), std::move(next));
+    }
+
 private:
     static constexpr int firstRole = Qt::UserRole + 1;
 
@@ -137,13 +146,17 @@ private:
 
     void changeRows(QList<Row> next)
     {
-        for (int i = 0; i < next.size(); ++i) {
-            if (m_rows[i] == next[i])
-                continue;
-            const QList<int> roles = changedRoles(m_rows[i], next[i]);
-            m_rows[i] = std::move(next[i]);
-            emit dataChanged(index(i), index(i), roles);
-        }
+        for (int i = 0; i < next.size(); ++i)
+            changeRow(i, std::move(next[i]));
+    }
+
+    void changeRow(int row, Row next)
+    {
+        if (m_rows[row] == next)
+            return;
+        const QList<int> roles = changedRoles(m_rows[row], next);
+        m_rows[row] = std::move(next);
+        emit dataChanged(index(row), index(row), roles);
     }
 
     static QList<int> changedRoles(const Row &before, const Row &after)

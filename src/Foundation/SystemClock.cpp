@@ -39,6 +39,7 @@ void SystemClock::check()
     m_timer.start(untilNextLook());
     if (zoneChanged || dayHasChanged)
         emit dayChanged();
+    emit ticked();
 }
 
 milliseconds SystemClock::untilNextLook() const

@@ -123,7 +123,11 @@ public:
     void renameTask(const QUuid &taskID, const QString &title);
     void toggleTaskDone(const QUuid &taskID);
     void cycleTaskStatus(const QUuid &taskID);
+    void setTaskStatus(const QUuid &taskID, TaskStatus status);
     void cycleTaskPriority(const QUuid &taskID);
+    void setTaskPriority(const QUuid &taskID, TaskPriority priority);
+    /// @param dueDate nothing takes the due date away
+    void setTaskDue(const QUuid &taskID, std::optional<Timestamp> dueDate);
 
     void logActivity(const QUuid &projectID, const QString &text, const QString &kind);
     /// The tasks of the project stay; its activities go.
@@ -189,6 +193,9 @@ private:
     void announce(const RecordChange &change);
 
     Timestamp now() const { return m_options.clock->now(); }
+    /// Changes a task, with `updatedDate` and `completedDate` kept in step.
+    template <typename Edit>
+    void changeTask(const QUuid &taskID, Edit edit);
     void adopt(Snapshot snapshot);
 
     Options m_options;

@@ -25,6 +25,16 @@ QUuid WorkspaceStore::newTask(const QString &title, TaskPriority priority, std::
     return task.id;
 }
 
+template <typename Edit>
+void WorkspaceStore::changeTask(const QUuid &taskID, Edit edit)
+{
+    change<TaskItem>(taskID, [&](TaskItem &task) {
+        edit(task);
+        task.updatedDate = now();
+        stampCompletion(task, task.updatedDate);
+    });
+}
+
 void WorkspaceStore::renameTask(const QUuid &taskID, const QString &title)
 {
     change<TaskItem>(taskID, [&](TaskItem &task) {
@@ -35,28 +45,36 @@ void WorkspaceStore::renameTask(const QUuid &taskID, const QString &title)
 
 void WorkspaceStore::toggleTaskDone(const QUuid &taskID)
 {
-    change<TaskItem>(taskID, [this](TaskItem &task) {
+    changeTask(taskID, [](TaskItem &task) {
         task.status = task.status == TaskStatus::done ? TaskStatus::todo : TaskStatus::done;
-        task.updatedDate = now();
-        stampCompletion(task, task.updatedDate);
     });
 }
 
 void WorkspaceStore::cycleTaskStatus(const QUuid &taskID)
 {
-    change<TaskItem>(taskID, [this](TaskItem &task) {
-        task.status = nextCase(task.status);
-        task.updatedDate = now();
-        stampCompletion(task, task.updatedDate);
-    });
+    changeTask(taskID, [](TaskItem &task) { task.status = nextCase(task.status); });
+}
+
+void WorkspaceStore::setTaskStatus(const QUuid &taskID, TaskStatus status)
+{
+    changeTask(taskID, [status](TaskItem &task) { task.status = status; });
 }
 
 void WorkspaceStore::cycleTaskPriority(const QUuid &taskID)
 {
-    change<TaskItem>(taskID, [this](TaskItem &task) {
-        task.priority = nextCase(task.priority);
+    changeTask(taskID, [](TaskItem &task) { task.priority = nextCase(task.priority); });
+}
+
+void WorkspaceStore::setTaskPriority(const QUuid &taskID, TaskPriority priority)
+{
+    changeTask(taskID, [priority](TaskItem &task) { task.priority = priority; });
+}
+
+void WorkspaceStore::setTaskDue(const QUuid &taskID, std::optional<Timestamp> dueDate)
+{
+    change<TaskItem>(taskID, [&](TaskItem &task) {
+        task.dueDate = dueDate;
         task.updatedDate = now();
-        stampCompletion(task, task.updatedDate);
     });
 }
 

@@ -11,13 +11,14 @@ public:
     Timestamp now() const override { return m_now; }
     QTimeZone timeZone() const override { return m_timeZone; }
 
-    /// Moves the clock and announces a new day if it has become one.
+    /// Moves the clock and announces that, and a new day if it has become one.
     void setNow(Timestamp now)
     {
         const QDate before = today();
         m_now = now;
         if (today() != before)
             emit dayChanged();
+        emit ticked();
     }
     void advance(std::chrono::milliseconds by) { setNow(m_now + by); }
     void setTimeZone(const QTimeZone &zone)

@@ -1,65 +1,36 @@
 #include "Features/Tasks/TaskFilters.h"
 
-#include "Support/OVDate.h"
-
 #include <algorithm>
-#include <functional>
-#include <iterator>
 
-namespace
+bool TaskFilters::takes(TaskFilter filter, const TaskItem &task, const TaskDay &day)
 {
-bool isDone(const TaskItem &task)
-{
-    return task.status == TaskStatus::done;
-}
-
-template <typename Predicate>
-QList<TaskItem> filtered(const QList<TaskItem> &tasks, Predicate isShown)
-{
-    QList<TaskItem> shown;
-    std::ranges::copy_if(tasks, std::back_inserter(shown), isShown);
-    return shown;
-}
-} // namespace
-
-QList<TaskItem> TaskFilters::openTasks(const QList<TaskItem> &tasks)
-{
-    return filtered(tasks, std::not_fn(isDone));
-}
-
-QList<TaskItem> TaskFilters::doneTasks(const QList<TaskItem> &tasks)
-{
-    return filtered(tasks, isDone);
-}
-
-QList<TaskItem> TaskFilters::filteredOpen(const QList<TaskItem> &tasks, TaskFilter filter, Timestamp now,
-                                          const QTimeZone &zone)
-{
-    const QDate today = OVDate::day(now, zone);
+    const bool isOpen = task.status != TaskStatus::done;
     switch (filter) {
     case TaskFilter::all:
-        return openTasks(tasks) + doneTasks(tasks);
+        return true;
     case TaskFilter::open:
-        return openTasks(tasks);
+        return isOpen;
     case TaskFilter::today:
-        return filtered(tasks, [&](const TaskItem &task) {
-            return !isDone(task) && task.dueDate && OVDate::day(*task.dueDate, zone) == today;
-        });
+        return isOpen && task.dueDate && day.isToday(*task.dueDate);
     case TaskFilter::upcoming:
-        break;
+        return isOpen && task.dueDate && day.isUpcoming(*task.dueDate);
     }
-    const Timestamp end = OVDate::startOfDay(today.addDays(7), zone);
-    return filtered(tasks, [&](const TaskItem &task) {
-        return !isDone(task) && task.dueDate && *task.dueDate > now && *task.dueDate <= end;
-    });
+    return false;
 }
 
-QString TaskFilters::dueLabel(QDate due, QDate today)
+QList<const TaskItem *> TaskFilters::filteredOpen(const QList<TaskItem> &tasks, TaskFilter filter,
+                                                  const TaskDay &day)
 {
-    return due == today ? QStringLiteral("Today") : OVDate::medium(due);
+    QList<const TaskItem *> shown;
+    for (const TaskItem &task : tasks)
+        if (takes(filter, task, day))
+            shown.append(&task);
+    std::ranges::stable_partition(shown,
+                                  [](const TaskItem *task) { return task->status != TaskStatus::done; });
+    return shown;
 }
 
-bool TaskFilters::isOverdue(const TaskItem &task, QDate today, const QTimeZone &zone)
+bool TaskFilters::isOverdue(const TaskItem &task, const TaskDay &day)
 {
-    return !isDone(task) && task.dueDate && OVDate::day(*task.dueDate, zone) < today;
+    return task.status != TaskStatus::done && task.dueDate && day.isPast(*task.dueDate);
 }

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "Features/Tasks/TaskDay.h"
 #include "Foundation/EnumTable.h"
 #include "Models/TaskItem.h"
 
-#include <QDate>
 #include <QList>
-#include <QTimeZone>
 
 enum class TaskFilter { all, open, today, upcoming };
 
@@ -19,21 +18,16 @@ struct EnumTable<TaskFilter> {
     });
 };
 
-/// Which tasks a list shows, and how it shows when one is due.
+/// Which tasks a list shows.
 namespace TaskFilters
 {
-/// Those that are not done, and those that are, in their given order.
-QList<TaskItem> openTasks(const QList<TaskItem> &tasks);
-QList<TaskItem> doneTasks(const QList<TaskItem> &tasks);
+/// Whether the filter takes this task; every filter but `all` takes open tasks only.
+bool takes(TaskFilter filter, const TaskItem &task, const TaskDay &day);
 
-/// The tasks that the list shows under this filter: `all` puts the done ones after the open ones, `today`
-/// takes the open ones of this calendar day, `upcoming` the open ones from this moment until the start of the
-/// day in a week, that moment included.
-QList<TaskItem> filteredOpen(const QList<TaskItem> &tasks, TaskFilter filter, Timestamp now,
-                             const QTimeZone &zone);
+/// The tasks that the list shows under this filter, in their given order; `all` puts the done ones after the
+/// open ones.
+QList<const TaskItem *> filteredOpen(const QList<TaskItem> &tasks, TaskFilter filter, const TaskDay &day);
 
-/// "Today", or the day without its year.
-QString dueLabel(QDate due, QDate today);
 /// Whether the task should have been done on a day before today; a done task never is overdue.
-bool isOverdue(const TaskItem &task, QDate today, const QTimeZone &zone);
+bool isOverdue(const TaskItem &task, const TaskDay &day);
 } // namespace TaskFilters

@@ -1,4 +1,5 @@
 #include "Features/Tasks/TaskFilters.h"
+#include "Harness/ManualClock.h"
 #include "Support/OVDate.h"
 
 #include <QtTest>
@@ -20,9 +21,11 @@ Timestamp now()
     return toTimestamp(QDateTime(QDate(2026, 3, 5), QTime(19, 30), zone()));
 }
 
-QDate today()
+TaskDay day()
 {
-    return OVDate::day(now(), zone());
+    ManualClock clock(zone());
+    clock.setNow(now());
+    return TaskDay(clock);
 }
 
 TaskItem task(const QString &title, std::optional<Timestamp> due = {}, TaskStatus status = TaskStatus::todo)
@@ -34,12 +37,12 @@ TaskItem task(const QString &title, std::optional<Timestamp> due = {}, TaskStatu
     return item;
 }
 
-QStringList titles(const QList<TaskItem> &tasks)
+QString shown(const QList<TaskItem> &tasks, TaskFilter filter)
 {
-    QStringList all;
-    for (const TaskItem &item : tasks)
-        all.append(item.title);
-    return all;
+    QString titles;
+    for (const TaskItem *item : TaskFilters::filteredOpen(tasks, filter, day()))
+        titles.append(item->title);
+    return titles;
 }
 } // namespace
 
@@ -59,14 +62,10 @@ void TaskFiltersTest::allPutsDoneTasksLast()
     const QList<TaskItem> tasks{task(QStringLiteral("a"), {}, TaskStatus::done), task(QStringLiteral("b")),
                                 task(QStringLiteral("c"), {}, TaskStatus::done),
                                 task(QStringLiteral("d"), {}, TaskStatus::inProgress)};
-    const auto shown = [&tasks](TaskFilter filter) {
-        return titles(TaskFilters::filteredOpen(tasks, filter, now(), zone())).join(QString());
-    };
-    QCOMPARE(shown(TaskFilter::all), QStringLiteral("bdac"));
-    QCOMPARE(shown(TaskFilter::open), QStringLiteral("bd"));
-    QCOMPARE(shown(TaskFilter::today), QString());
-    QCOMPARE(shown(TaskFilter::upcoming), QString());
-    QCOMPARE(titles(TaskFilters::doneTasks(tasks)).join(QString()), QStringLiteral("ac"));
+    QCOMPARE(shown(tasks, TaskFilter::all), QStringLiteral("bdac"));
+    QCOMPARE(shown(tasks, TaskFilter::open), QStringLiteral("bd"));
+    QCOMPARE(shown(tasks, TaskFilter::today), QString());
+    QCOMPARE(shown(tasks, TaskFilter::upcoming), QString());
 }
 
 void TaskFiltersTest::filtersByDueDate_data()
@@ -76,9 +75,10 @@ void TaskFiltersTest::filtersByDueDate_data()
     QTest::addColumn<bool>("isUpcoming");
     QTest::addColumn<bool>("isOverdue");
     QTest::addColumn<QString>("label");
-    const Timestamp start = OVDate::startOfDay(today(), zone());
-    const Timestamp tomorrow = OVDate::startOfDay(today().addDays(1), zone());
-    const Timestamp end = OVDate::startOfDay(today().addDays(7), zone());
+    const QDate today = OVDate::day(now(), zone());
+    const Timestamp start = OVDate::startOfDay(today, zone());
+    const Timestamp tomorrow = OVDate::startOfDay(today.addDays(1), zone());
+    const Timestamp end = OVDate::startOfDay(today.addDays(7), zone());
     const QString todayLabel = QStringLiteral("Today");
     QTest::newRow("last second of yesterday") << start - 1s << false << false << true << "Mar 4";
     QTest::newRow("start of today") << start << true << false << false << todayLabel;
@@ -100,20 +100,20 @@ void TaskFiltersTest::filtersByDueDate()
     QFETCH(bool, isOverdue);
     QFETCH(QString, label);
     const QList<TaskItem> tasks{task(QStringLiteral("due"), due)};
-    QCOMPARE(!TaskFilters::filteredOpen(tasks, TaskFilter::today, now(), zone()).isEmpty(), isToday);
-    QCOMPARE(!TaskFilters::filteredOpen(tasks, TaskFilter::upcoming, now(), zone()).isEmpty(), isUpcoming);
-    QCOMPARE(TaskFilters::isOverdue(tasks.first(), today(), zone()), isOverdue);
-    QCOMPARE(TaskFilters::dueLabel(OVDate::day(due, zone()), today()), label);
+    QCOMPARE(!shown(tasks, TaskFilter::today).isEmpty(), isToday);
+    QCOMPARE(!shown(tasks, TaskFilter::upcoming).isEmpty(), isUpcoming);
+    QCOMPARE(TaskFilters::isOverdue(tasks.first(), day()), isOverdue);
+    QCOMPARE(day().label(due), label);
 }
 
 void TaskFiltersTest::doneTasksAreNeitherDueNorOverdue()
 {
     const QList<TaskItem> tasks{task(QStringLiteral("late"), now() - 48h, TaskStatus::done),
                                 task(QStringLiteral("now"), now() + 1h, TaskStatus::done)};
-    QVERIFY(TaskFilters::filteredOpen(tasks, TaskFilter::today, now(), zone()).isEmpty());
-    QVERIFY(TaskFilters::filteredOpen(tasks, TaskFilter::upcoming, now(), zone()).isEmpty());
-    QVERIFY(!TaskFilters::isOverdue(tasks.first(), today(), zone()));
-    QVERIFY(!TaskFilters::isOverdue(task(QStringLiteral("undated")), today(), zone()));
+    QCOMPARE(shown(tasks, TaskFilter::today), QString());
+    QCOMPARE(shown(tasks, TaskFilter::upcoming), QString());
+    QVERIFY(!TaskFilters::isOverdue(tasks.first(), day()));
+    QVERIFY(!TaskFilters::isOverdue(task(QStringLiteral("undated")), day()));
 }
 
 QTEST_GUILESS_MAIN(TaskFiltersTest)

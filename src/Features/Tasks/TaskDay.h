@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Foundation/Clock.h"
+
+/// The present as due dates are judged by it: its moments are worked out once for a whole list, since asking
+/// a time zone costs far more than comparing.
+class TaskDay
+{
+public:
+    explicit TaskDay(const Clock &clock);
+
+    bool isToday(Timestamp due) const { return due >= m_today && due < m_tomorrow; }
+    bool isPast(Timestamp due) const { return due < m_today; }
+    /// From this moment until the start of the day in a week, that moment included.
+    bool isUpcoming(Timestamp due) const { return due > m_now && due <= m_inAWeek; }
+    /// "Today", or the day without its year.
+    QString label(Timestamp due) const;
+
+private:
+    QTimeZone m_zone;
+    Timestamp m_now;
+    Timestamp m_today;
+    Timestamp m_tomorrow;
+    Timestamp m_inAWeek;
+};

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "Features/Tasks/TaskRows.h"
+#include "Foundation/CoalescedCall.h"
+#include "Foundation/KeyedListModel.h"
+#include "Store/WorkspaceStore.h"
+
+#include <QtQml/qqmlregistration.h>
+
+/// What the Tasks screen shows and does. Positions stand for the cases of the tables of filter, status and
+/// priority, in their order.
+class TasksViewModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
+    /// Whether the screen is shown; the rows stand still while it is not.
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
+
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
+    Q_PROPERTY(bool dueEnabled MEMBER m_dueEnabled NOTIFY dueEnabledChanged FINAL)
+    Q_PROPERTY(QDateTime due MEMBER m_due NOTIFY dueChanged FINAL)
+    Q_PROPERTY(int priority MEMBER m_priority NOTIFY priorityChanged FINAL)
+    /// Whether the title is more than blanks.
+    Q_PROPERTY(bool canAdd READ canAdd NOTIFY titleChanged FINAL)
+
+    Q_PROPERTY(int filter READ filter WRITE setFilter NOTIFY filterChanged FINAL)
+    Q_PROPERTY(bool showDone READ showDone WRITE setShowDone NOTIFY showDoneChanged FINAL)
+    /// `TaskRow`s.
+    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(QString countText READ countText NOTIFY filteredChanged FINAL)
+    /// Whether the filter takes no task.
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY filteredChanged FINAL)
+
+    Q_PROPERTY(QStringList filterTexts READ filterTexts CONSTANT FINAL)
+    Q_PROPERTY(QStringList statusTexts READ statusTexts CONSTANT FINAL)
+    Q_PROPERTY(QStringList priorityTexts READ priorityTexts CONSTANT FINAL)
+
+public:
+    explicit TasksViewModel(QObject *parent = nullptr);
+
+    WorkspaceStore *store() const { return m_store; }
+    void setStore(WorkspaceStore *store);
+    bool isActive() const { return m_active; }
+    void setActive(bool active);
+
+    const QString &title() const { return m_title; }
+    void setTitle(const QString &title);
+    bool canAdd() const;
+    /// Adds the task that the form describes, unless its title is blank, and empties the form. The due moment
+    /// stays for the next one.
+    Q_INVOKABLE void addTask();
+
+    int filter() const { return int(m_filter); }
+    void setFilter(int filter);
+    bool showDone() const { return m_showDone; }
+    void setShowDone(bool showDone);
+    QAbstractItemModel *rows() { return &m_rows; }
+    QString countText() const;
+    bool isEmpty() const { return m_filtered == 0; }
+
+    QStringList filterTexts() const;
+    QStringList statusTexts() const;
+    QStringList priorityTexts() const;
+
+    Q_INVOKABLE void renameTask(const QUuid &taskID, const QString &title);
+    Q_INVOKABLE void cycleTaskStatus(const QUuid &taskID);
+    Q_INVOKABLE void setTaskStatus(const QUuid &taskID, int status);
+    Q_INVOKABLE void cycleTaskPriority(const QUuid &taskID);
+    Q_INVOKABLE void setTaskPriority(const QUuid &taskID, int priority);
+    /// An invalid moment takes the due date away.
+    Q_INVOKABLE void setTaskDue(const QUuid &taskID, const QDateTime &due);
+    Q_INVOKABLE void deleteTask(const QUuid &taskID);
+
+signals:
+    void storeChanged();
+    void activeChanged();
+    void titleChanged();
+    void dueEnabledChanged();
+    void dueChanged();
+    void priorityChanged();
+    void filterChanged();
+    void showDoneChanged();
+    void filteredChanged();
+
+private:
+    void taskChanged(const RecordChange &change);
+    void timePassed();
+    /// Has every row laid out anew at the end of the turn.
+    void requestLayout();
+    void refresh();
+    /// Shows the changed tasks in their rows; false if a row has to come, go or move for that.
+    bool updateRows();
+    void layOut();
+
+    WorkspaceStore *m_store = nullptr;
+    bool m_active = true;
+
+    QString m_title;
+    bool m_dueEnabled = false;
+    QDateTime m_due;
+    int m_priority = int(TaskPriority::medium);
+
+    TaskFilter m_filter = TaskFilter::all;
+    bool m_showDone = false;
+    KeyedListModel<TaskRow> m_rows;
+    qsizetype m_filtered = 0;
+
+    CoalescedCall m_refresh;
+    bool m_layoutNeeded = true;
+    QSet<QUuid> m_changedTasks;
+};

@@ -25,3 +25,7 @@ if(ORVEL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(ORVEL_BUILD_FUZZ)
+    # clang, unlike g++, counts what the C++ library's own templates use as ours.
+    add_compile_options(-fsanitize=fuzzer-no-link -Wno-deprecated-declarations)
+endif()

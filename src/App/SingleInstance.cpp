@@ -1,0 +1,128 @@
+#include "App/SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr char request[] = "show ";
+constexpr char answer[] = "shown\n";
+constexpr qint64 longestRequest = 4096;
+} // namespace
+
+SingleInstance::Options SingleInstance::Options::forWorkspace(const QString &filePath)
+{
+    const QFileInfo folder(QFileInfo(filePath).path());
+    const QByteArray place = QFile::encodeName(folder.canonicalFilePath());
+    const QByteArray name = QCryptographicHash::hash(place, QCryptographicHash::Sha256).toHex().first(16);
+    return {.lockPath = folder.filePath() + QStringLiteral("/workspace.lock"),
+            .socketPath = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+                          QStringLiteral("/orvel-%1.socket").arg(QString::fromLatin1(name))};
+}
+
+SingleInstance::SingleInstance(Options options, QObject *parent)
+    : QObject(parent), m_options(std::move(options))
+{
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::greet);
+}
+
+SingleInstance::~SingleInstance()
+{
+    m_server.close();
+    if (m_lockFile >= 0)
+        ::close(m_lockFile);
+}
+
+std::expected<SingleInstance::Role, QString> SingleInstance::start(const QByteArray &activationToken)
+{
+    const QDeadlineTimer deadline(m_options.patience);
+    // The other start may be on its way up, not listening yet, or on its way out, about to release the lock.
+    do {
+        const Lock state = lock();
+        if (state == Lock::held) {
+            listen();
+            return Role::writer;
+        }
+        if (ask(activationToken, deadline.remainingTimeAsDuration() / 1ms * 1ms))
+            return Role::visitor;
+        // Where no lock can be made nothing can be written either, and only an answer proves another start.
+        if (state == Lock::impossible) {
+            listen();
+            return Role::writer;
+        }
+        QThread::msleep(20);
+    } while (!deadline.hasExpired());
+    return std::unexpected(
+        QStringLiteral("Orvel is already running but does not answer; end it and start Orvel again."));
+}
+
+SingleInstance::Lock SingleInstance::lock()
+{
+    if (m_lockFile < 0)
+        m_lockFile =
+            ::open(QFile::encodeName(m_options.lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (m_lockFile < 0)
+        return Lock::impossible;
+    if (::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0)
+        return Lock::held;
+    return errno == EWOULDBLOCK || errno == EINTR ? Lock::taken : Lock::impossible;
+}
+
+void SingleInstance::listen()
+{
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    // A killed process leaves its socket behind; whoever holds the lock may clear it away.
+    QLocalServer::removeServer(m_options.socketPath);
+    if (!m_server.listen(m_options.socketPath))
+        qWarning("A second start of Orvel will not find this one: %s",
+                 qUtf8Printable(m_server.errorString()));
+}
+
+void SingleInstance::greet()
+{
+    while (QLocalSocket *const visitor = m_server.nextPendingConnection()) {
+        connect(visitor, &QLocalSocket::disconnected, visitor, &QObject::deleteLater);
+        const auto serve = [this, visitor] {
+            if (!visitor->canReadLine()) {
+                if (visitor->bytesAvailable() > longestRequest)
+                    visitor->abort();
+                return;
+            }
+            const QByteArray line = visitor->readLine().trimmed() + ' ';
+            if (line.startsWith(request)) {
+                emit raiseRequested(line.sliced(qstrlen(request)).trimmed());
+                visitor->write(answer);
+            }
+            visitor->disconnectFromServer();
+        };
+        connect(visitor, &QLocalSocket::readyRead, this, serve);
+        if (visitor->bytesAvailable() > 0)
+            serve();
+    }
+}
+
+bool SingleInstance::ask(const QByteArray &activationToken, std::chrono::milliseconds patience) const
+{
+    const auto wait = int(patience.count());
+    QLocalSocket socket;
+    socket.connectToServer(m_options.socketPath);
+    if (!socket.waitForConnected(wait))
+        return false;
+    socket.write(request + activationToken + '\n');
+    while (!socket.canReadLine())
+        if (!socket.waitForReadyRead(wait))
+            return false;
+    return socket.readLine() == answer;
+}

@@ -1,0 +1,87 @@
+#include "App/DesktopAppearance.h"
+#include "App/SavePoints.h"
+#include "App/SingleInstance.h"
+#include "App/TerminationSignals.h"
+#include "App/ThemeSync.h"
+#include "Session/OrvelSession.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QLoggingCategory>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+namespace
+{
+// Says when the first frame stands: QT_LOGGING_RULES="orvel.start.info=true".
+Q_LOGGING_CATEGORY(startLog, "orvel.start", QtWarningMsg)
+
+constexpr char activationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
+
+void bringToFront(QQuickWindow &window, const QByteArray &activationToken)
+{
+    if (!activationToken.isEmpty())
+        qputenv(activationTokenVariable, activationToken);
+    if (window.windowState() & Qt::WindowMinimized)
+        window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.requestActivate();
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QGuiApplication application(argc, argv);
+    application.setApplicationName(QStringLiteral("Orvel"));
+    application.setOrganizationName(QStringLiteral("Orvel"));
+    application.setDesktopFileName(QStringLiteral("com.orvel.workspace"));
+    application.setWindowIcon(QIcon(QStringLiteral(":/orvel/icon.svg")));
+    // Something that lives on without a window, such as an icon in the status bar, changes this.
+    application.setQuitOnLastWindowClosed(true);
+
+    const QString filePath = WorkspaceStore::defaultFilePath();
+    SingleInstance instance(SingleInstance::Options::forWorkspace(filePath));
+    const auto role = instance.start(qgetenv(activationTokenVariable));
+    if (!role) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(role.error()));
+        return EXIT_FAILURE;
+    }
+    if (*role == SingleInstance::Role::visitor)
+        return EXIT_SUCCESS;
+
+    TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::received, &application,
+                     [] { QCoreApplication::exit(); });
+
+    SystemClock clock;
+    WorkspaceStore store({.filePath = filePath, .clock = &clock});
+    SavePoints savePoints(&store, &clock, &application);
+    const DesktopAppearance desktop;
+    const ThemeSync theme(&store, &desktop);
+    UIState ui;
+    OrvelSession session(&store, &ui);
+
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral(":/qt/qml"));
+    session.provideTo(engine);
+    engine.setInitialProperties({{QStringLiteral("placementPath"),
+                                  QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                      QStringLiteral("/Orvel/window.ini")}});
+    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Orvel/App/OrvelWindow.qml")));
+    if (engine.rootObjects().isEmpty())
+        return EXIT_FAILURE;
+
+    auto *const window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window, [] { qCInfo(startLog, "first frame"); },
+        Qt::ConnectionType(Qt::DirectConnection | Qt::SingleShotConnection));
+    QObject::connect(&instance, &SingleInstance::raiseRequested, window,
+                     [window](const QByteArray &activationToken) { bringToFront(*window, activationToken); });
+    return application.exec();
+}

@@ -1,0 +1,160 @@
+#include "App/SingleInstance.h"
+
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+class SingleInstanceTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QString lockPath() const { return m_folder.filePath(u"workspace.lock"_s); }
+    QString socketPath() const { return m_folder.filePath(u"orvel.socket"_s); }
+
+    std::unique_ptr<QProcess> launch(int patience = 30'000, const QString &token = {}) const
+    {
+        auto process = std::make_unique<QProcess>();
+        process->start(QStringLiteral(SINGLE_INSTANCE_PROBE),
+                       {lockPath(), socketPath(), QString::number(patience), token});
+        return process;
+    }
+    /// The next line that the process prints, without its end.
+    static QByteArray line(QProcess &process)
+    {
+        while (!process.canReadLine() && process.waitForReadyRead()) {
+        }
+        return process.readLine().trimmed();
+    }
+    static int exitCode(QProcess &process)
+    {
+        process.closeWriteChannel();
+        return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit ? process.exitCode()
+                                                                                         : -1;
+    }
+
+private slots:
+    void aSecondStartAsksTheFirstToShowItsWindow()
+    {
+        const auto first = launch();
+        QCOMPARE(line(*first), "writer");
+        const auto second = launch(30'000, u"token-7"_s);
+        QCOMPARE(line(*second), "visitor");
+        QCOMPARE(exitCode(*second), 0);
+        QCOMPARE(line(*first), "raise token-7");
+        QCOMPARE(exitCode(*first), 0);
+
+        const auto afterwards = launch();
+        QCOMPARE(line(*afterwards), "writer");
+        QCOMPARE(exitCode(*afterwards), 0);
+    }
+
+    void exactlyOneOfTwoStartsAtTheSameTimeWins()
+    {
+        for (int round = 0; round < 20; ++round) {
+            const auto one = launch();
+            const auto other = launch();
+            QByteArrayList roles{line(*one), line(*other)};
+            std::ranges::sort(roles);
+            QCOMPARE(roles, (QByteArrayList{"visitor", "writer"}));
+            QCOMPARE(exitCode(*one), 0);
+            QCOMPARE(exitCode(*other), 0);
+        }
+    }
+
+    void aCrashReleasesTheLockAndItsSocketIsClearedAway()
+    {
+        const auto crashed = launch();
+        QCOMPARE(line(*crashed), "writer");
+        crashed->kill();
+        QVERIFY(crashed->waitForFinished());
+        QVERIFY(QFile::exists(socketPath()));
+
+        const auto next = launch();
+        QCOMPARE(line(*next), "writer");
+        const auto visitor = launch();
+        QCOMPARE(line(*visitor), "visitor");
+        QCOMPARE(exitCode(*visitor), 0);
+        QCOMPARE(exitCode(*next), 0);
+    }
+
+    void aFirstStartThatDoesNotAnswerIsReported()
+    {
+        const auto frozen = launch();
+        QCOMPARE(line(*frozen), "writer");
+        QCOMPARE(::kill(pid_t(frozen->processId()), SIGSTOP), 0);
+        const auto second = launch(200);
+        QCOMPARE(line(*second),
+                 "Orvel is already running but does not answer; end it and start Orvel again.");
+        QCOMPARE(exitCode(*second), 1);
+        ::kill(pid_t(frozen->processId()), SIGCONT);
+        QCOMPARE(exitCode(*frozen), 0);
+    }
+
+    void waitsForAFirstStartThatIsAboutToEnd()
+    {
+        const auto ending = launch();
+        QCOMPARE(line(*ending), "writer");
+        QCOMPARE(::kill(pid_t(ending->processId()), SIGSTOP), 0);
+        const auto next = launch();
+        ending->kill();
+        QCOMPARE(line(*next), "writer");
+        QCOMPARE(exitCode(*next), 0);
+    }
+
+    void nonsenseOnTheSocketIsIgnored()
+    {
+        const auto first = launch();
+        QCOMPARE(line(*first), "writer");
+        QLocalSocket endless;
+        endless.connectToServer(socketPath());
+        QVERIFY(endless.waitForConnected());
+        endless.write(QByteArray(100'000, 'x'));
+        if (endless.state() == QLocalSocket::ConnectedState)
+            QVERIFY(endless.waitForDisconnected());
+
+        QLocalSocket other;
+        other.connectToServer(socketPath());
+        QVERIFY(other.waitForConnected());
+        other.write("hide\n");
+        QVERIFY(other.waitForDisconnected());
+        QCOMPARE(other.readAll(), "");
+
+        const auto visitor = launch();
+        QCOMPARE(line(*visitor), "visitor");
+        QCOMPARE(exitCode(*visitor), 0);
+        QCOMPARE(line(*first), "raise");
+        QCOMPARE(exitCode(*first), 0);
+    }
+
+    void aFolderThatTakesNoLockIsNoObstacle()
+    {
+        SingleInstance instance({.lockPath = m_folder.filePath(u"missing/workspace.lock"_s),
+                                 .socketPath = m_folder.filePath(u"other.socket"_s)});
+        QCOMPARE(instance.start(), SingleInstance::Role::writer);
+    }
+
+    void eachFolderHasItsOwnPlaces()
+    {
+        QDir(m_folder.path()).mkpath(u"a"_s);
+        QDir(m_folder.path()).mkpath(u"b"_s);
+        QFile::link(m_folder.filePath(u"a"_s), m_folder.filePath(u"link"_s));
+        const auto places = [&](const QString &name) {
+            return SingleInstance::Options::forWorkspace(m_folder.filePath(name + u"/workspace.json"_s));
+        };
+        QCOMPARE(places(u"a"_s).lockPath, m_folder.filePath(u"a/workspace.lock"_s));
+        QVERIFY(places(u"a"_s).socketPath != places(u"b"_s).socketPath);
+        QCOMPARE(places(u"link"_s).socketPath, places(u"a"_s).socketPath);
+    }
+};
+
+QTEST_GUILESS_MAIN(SingleInstanceTest)
+#include "tst_singleinstance.moc"

@@ -31,7 +31,7 @@ T.MenuItem {
     Accessible.name: title
 
     contentItem: Item {
-        implicitWidth: label.x + label.implicitWidth + (keys.visible ? Theme.space32 + keys.implicitWidth : 0)
+        implicitWidth: label.x + label.implicitWidth + (item.shortcutText !== "" ? Theme.space32 + keys.implicitWidth : 0)
                        + (item.subMenu ? Theme.space24 + Theme.iconRow : 0)
         implicitHeight: label.implicitHeight
 
@@ -54,7 +54,7 @@ T.MenuItem {
         OVText {
             id: label
             x: item.leading ? Theme.iconRow + Theme.space8 : 0
-            width: (keys.visible ? keys.x : parent.width) - x
+            width: (item.shortcutText !== "" ? keys.x : parent.width) - x
             anchors.verticalCenter: parent.verticalCenter
             text: item.title
             font: item.font

@@ -1,0 +1,53 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.App
+import Orvel.DesignSystem
+
+/// The menus of the commands, inside the window.
+OVMenuBar {
+    id: bar
+
+    required property OrvelCommands commands
+
+    Component.onCompleted: {
+        for (const menu of commands.menus)
+            addMenu(menuComponent.createObject(bar, { "title": menu.title, "commands": menu.commands }))
+    }
+
+    Component {
+        id: menuComponent
+
+        OVMenu {
+            id: menu
+
+            required property var commands
+
+            Component.onCompleted: {
+                for (const command of commands) {
+                    if (command.startsGroup)
+                        addItem(separatorComponent.createObject(contentItem))
+                    addItem(itemComponent.createObject(contentItem, { "command": command }))
+                }
+            }
+        }
+    }
+
+    Component {
+        id: itemComponent
+
+        OVMenuItem {
+            required property var command
+
+            text: command.title
+            shortcutText: command.keysText
+            onTriggered: bar.commands.run(command.id)
+        }
+    }
+
+    Component {
+        id: separatorComponent
+
+        OVMenuSeparator { }
+    }
+}

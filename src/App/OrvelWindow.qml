@@ -1,0 +1,66 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.App
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// The one main window.
+Window {
+    id: window
+
+    /// The settings file that remembers where the window stood; empty remembers nothing.
+    required property string placementPath
+    property int visibilityBeforeFullScreen: Window.Windowed
+
+    function toggleFullScreen() {
+        if (visibility === Window.FullScreen) {
+            visibility = visibilityBeforeFullScreen
+        } else {
+            visibilityBeforeFullScreen = visibility
+            visibility = Window.FullScreen
+        }
+    }
+
+    width: 1240
+    height: 820
+    minimumWidth: 720
+    minimumHeight: 480
+    title: rootModel.title
+    color: Theme.ovCanvas
+
+    Component.onCompleted: {
+        placement.restore()
+        visible = true
+    }
+
+    RootViewModel {
+        id: rootModel
+        store: Orvel.store
+    }
+
+    OrvelCommands {
+        id: commands
+        store: Orvel.store
+        ui: Orvel.ui
+        onFullScreenToggled: window.toggleFullScreen()
+        onQuitRequested: Qt.quit()
+    }
+
+    WindowPlacement {
+        id: placement
+        settingsPath: window.placementPath
+        window: window
+    }
+
+    CommandKeys {
+        commands: commands
+    }
+
+    RootView {
+        anchors.fill: parent
+        commands: commands
+        model: rootModel
+        showsMenuBar: window.visibility !== Window.FullScreen
+    }
+}

@@ -9,17 +9,20 @@ Item {
     id: root
 
     property string text
-    property alias color: sample.color
-    property alias role: sample.role
-    property alias font: sample.font
+    property alias color: reel.color
+    property alias role: reel.role
+    property alias font: reel.font
 
-    implicitHeight: sample.implicitHeight
+    readonly property string digits: "0\n1\n2\n3\n4\n5\n6\n7\n8\n9"
+
+    implicitHeight: Math.ceil(metrics.height)
     implicitWidth: cells.implicitWidth
     Accessible.name: text
     Accessible.role: Accessible.StaticText
 
+    // Never shown: its width is that of every digit.
     OVText {
-        id: sample
+        id: reel
 
         role: OVText.Tile
         text: "0"
@@ -29,10 +32,7 @@ Item {
     FontMetrics {
         id: metrics
 
-        // The widest digit of every family at hand.
-        readonly property real digitWidth: Math.ceil(Math.max(advanceWidth("0"), advanceWidth("4"), advanceWidth("8")))
-
-        font: sample.font
+        font: reel.font
     }
 
     Row {
@@ -40,6 +40,7 @@ Item {
 
         height: root.implicitHeight
         layoutDirection: Qt.RightToLeft
+        width: implicitWidth
 
         Repeater {
             // From the last digit to the first: a digit keeps its place when the number grows longer.
@@ -54,41 +55,24 @@ Item {
 
                 clip: isDigit
                 height: cells.height
-                width: isDigit ? metrics.digitWidth : other.implicitWidth
+                width: isDigit ? reel.implicitWidth : label.implicitWidth
 
-                OVText {
-                    id: other
+                Text {
+                    id: label
 
-                    color: sample.color
-                    font: sample.font
-                    height: cell.height
-                    text: cell.character
-                    visible: !cell.isDigit
-                    Accessible.ignored: true
-                }
-
-                Column {
-                    visible: cell.isDigit
+                    color: reel.color
+                    font: reel.font
+                    horizontalAlignment: Text.AlignHCenter
+                    lineHeight: cell.isDigit ? cell.height : 1
+                    lineHeightMode: cell.isDigit ? Text.FixedHeight : Text.ProportionalHeight
+                    text: cell.isDigit ? root.digits : cell.character
+                    textFormat: Text.PlainText
+                    width: cell.isDigit ? cell.width : implicitWidth
                     y: cell.isDigit ? -cell.height * Number(cell.character) : 0
+                    Accessible.ignored: true
 
                     Behavior on y {
                         NumberAnimation { duration: Theme.durationSpring; easing.type: Easing.OutCubic }
-                    }
-
-                    Repeater {
-                        model: cell.isDigit ? 10 : 0
-
-                        OVText {
-                            required property int index
-
-                            color: sample.color
-                            font: sample.font
-                            height: cell.height
-                            horizontalAlignment: Text.AlignHCenter
-                            text: index
-                            width: cell.width
-                            Accessible.ignored: true
-                        }
                     }
                 }
             }

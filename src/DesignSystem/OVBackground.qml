@@ -49,6 +49,13 @@ Rectangle {
         }
     }
 
+    Image {
+        anchors.fill: parent
+        fillMode: Image.Tile
+        source: "image://orvel-glows/grain"
+        visible: root.hasGradient
+    }
+
     Timer {
         interval: 50
         repeat: true

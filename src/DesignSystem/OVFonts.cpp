@@ -4,19 +4,25 @@
 #include <QFontDatabase>
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
 
-QString installedFamily(FontChoice design)
+const QString colorEmoji = QStringLiteral("Noto Color Emoji");
+
+/// The first installed family; the others stand in for what it lacks.
+QString installed(const QStringList &wished)
 {
-    const QStringList wished = OVFonts::families(design);
-    const auto installed =
+    const auto found =
         std::ranges::find_if(wished, [](const QString &family) { return QFontDatabase::hasFamily(family); });
-    const QString chosen = installed == wished.end() ? wished.first() : *installed;
+    const QString chosen = found == wished.end() ? wished.first() : *found;
     QStringList standIns = wished;
     standIns.removeOne(chosen);
-    standIns.append(QStringLiteral("Noto Color Emoji"));
+    // Other families have plain drawings of some emoji, so the coloured ones come before them.
+    standIns.removeOne(colorEmoji);
+    if (chosen != colorEmoji)
+        standIns.prepend(colorEmoji);
     QFont::insertSubstitutions(chosen, standIns);
     return chosen;
 }
@@ -47,10 +53,27 @@ QStringList OVFonts::families(FontChoice design)
 QString OVFonts::family(FontChoice design)
 {
     static const auto chosen = std::to_array<QString>({
-        installedFamily(FontChoice::system),
-        installedFamily(FontChoice::rounded),
-        installedFamily(FontChoice::serif),
-        installedFamily(FontChoice::monospaced),
+        installed(families(FontChoice::system)),
+        installed(families(FontChoice::rounded)),
+        installed(families(FontChoice::serif)),
+        installed(families(FontChoice::monospaced)),
     });
     return chosen.at(static_cast<std::size_t>(design));
+}
+
+QString OVFonts::numberFamily(FontChoice design)
+{
+    if (design != FontChoice::serif)
+        return family(design);
+    static const QString chosen = installed(
+        QStringList{QStringLiteral("Caladea"), QStringLiteral("Cambria")} + families(FontChoice::serif));
+    return chosen;
+}
+
+QString OVFonts::emojiFamily()
+{
+    static const QString chosen =
+        installed(QStringList{colorEmoji, QStringLiteral("Twemoji"), QStringLiteral("Emoji One")} +
+                  families(FontChoice::system));
+    return chosen;
 }

@@ -2,7 +2,9 @@
 
 #include <QQuickImageProvider>
 
-/// Paints a round cloud of a colour that fades out towards its edge: "image://orvel-glows/RRGGBB".
+/// Paints the soft parts of the window's ground. "image://orvel-glows/RRGGBB" is a round cloud of a colour
+/// that fades out towards its edge; "image://orvel-glows/grain" is a tile of faint grain, which hides the
+/// steps of gradients.
 class OVGlowProvider : public QQuickImageProvider
 {
 public:

@@ -16,7 +16,7 @@ OVCard {
     Accessible.role: Accessible.Grouping
 
     contentItem: ColumnLayout {
-        spacing: Theme.space4
+        spacing: Theme.space8
 
         RowLayout {
             Layout.fillWidth: true

@@ -37,10 +37,10 @@ QPainterPath OrvelMark::path(const QSizeF &size)
 {
     const QRectF box(QPointF(size.width() * 0.16, size.height() * 0.06),
                      QPointF(size.width() * 0.84, size.height() * 0.94));
-    QPainterPath path(box.bottomLeft());
-    path.lineTo(box.topLeft());
-    path.lineTo(box.bottomRight());
+    QPainterPath path(box.topLeft());
+    path.lineTo(box.bottomLeft());
     path.lineTo(box.topRight());
+    path.lineTo(box.bottomRight());
     return path;
 }
 

@@ -76,6 +76,8 @@ class Theme : public QObject
     // Type
     Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed FINAL)
     Q_PROPERTY(QString codeFamily READ codeFamily NOTIFY changed FINAL)
+    Q_PROPERTY(QString numberFamily READ numberFamily NOTIFY changed FINAL)
+    Q_PROPERTY(QString emojiFamily READ emojiFamily CONSTANT FINAL)
     Q_PROPERTY(QString serifFamily READ serifFamily NOTIFY changed FINAL)
     Q_PROPERTY(int sizeScreenTitle READ sizeScreenTitle NOTIFY changed FINAL)
     Q_PROPERTY(int sizeCardTitle READ sizeCardTitle NOTIFY changed FINAL)
@@ -182,6 +184,8 @@ public:
 
     QString fontFamily() const { return OVFonts::family(snapshot().fontDesign); }
     QString codeFamily() const { return OVFonts::family(FontChoice::monospaced); }
+    QString numberFamily() const { return OVFonts::numberFamily(snapshot().fontDesign); }
+    QString emojiFamily() const { return OVFonts::emojiFamily(); }
     QString serifFamily() const { return OVFonts::family(FontChoice::serif); }
     int sizeScreenTitle() const { return text(28); }
     int sizeCardTitle() const { return text(17); }

@@ -19,6 +19,15 @@ GallerySection {
     OVText { Layout.fillWidth: true; role: OVText.Dense; text: "Dense rows: 0123456789, 11:11, 1,000" }
     OVText { Layout.fillWidth: true; role: OVText.Caption; text: "Caption, in tertiary ink" }
     OVText { Layout.fillWidth: true; role: OVText.Code; text: "let words = [\"calm\", \"local\"] // => != 0O 1lI 🧠" }
+    Row {
+        spacing: Theme.space12
+
+        Repeater {
+            model: ["🧠", "☀️", "✍️", "🗂️", "🏔️", "👩🏽‍🚀", "A"]
+
+            OVEmoji { required property string modelData; size: Theme.iconTile; text: modelData }
+        }
+    }
     OVText {
         Layout.preferredWidth: 320
         text: "A title of many words that never fits into the place where it stands and is therefore elided"

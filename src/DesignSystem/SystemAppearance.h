@@ -1,11 +1,11 @@
 #pragma once
 
+#include <QDBusVariant>
 #include <QObject>
 
 #include <optional>
 
 class QDBusConnection;
-class QDBusVariant;
 
 /// Whether the desktop prefers dark windows: what its settings portal says, else how light the palette is.
 class SystemAppearance : public QObject

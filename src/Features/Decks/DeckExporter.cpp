@@ -1,0 +1,71 @@
+#include "Features/Decks/DeckExporter.h"
+
+#include "Features/Decks/DeckLayout.h"
+#include "Features/Decks/DeckOutline.h"
+#include "Features/Decks/PdfImageWriter.h"
+#include "Features/Decks/PowerPointWriter.h"
+#include "Features/Decks/SlidePainter.h"
+
+#include <QPainter>
+
+namespace
+{
+/// Of the PDF, in points.
+constexpr QSize page(960, 540);
+constexpr int pixelsPerPoint = 3;
+} // namespace
+
+std::expected<QByteArray, DeckExportError> DeckExporter::make(const Deck &deck, DeckExportFormat format,
+                                                              const QDateTime &localMoment)
+{
+    if (deck.slides.isEmpty())
+        return std::unexpected(DeckExportError::noSlides);
+    switch (format) {
+    case DeckExportFormat::pdf:
+        return pdf(deck);
+    case DeckExportFormat::pptx:
+        return PowerPointWriter::presentation(deck, localMoment);
+    case DeckExportFormat::markdown:
+        return DeckOutline::markdown(deck).toUtf8();
+    case DeckExportFormat::text:
+        return DeckOutline::plainText(deck).toUtf8();
+    }
+    return std::unexpected(DeckExportError::writeFailed);
+}
+
+std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck)
+{
+    PdfImageWriter writer(page);
+    for (int i = 0; i < deck.slides.size(); ++i) {
+        const QImage slide = picture(deck, i);
+        if (slide.isNull() || !writer.addPage(slide))
+            return std::unexpected(DeckExportError::renderFailed);
+    }
+    return writer.finish();
+}
+
+QImage DeckExporter::picture(const Deck &deck, int index)
+{
+    QImage picture(page * pixelsPerPoint, QImage::Format_RGB32);
+    if (picture.isNull())
+        return picture;
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    SlidePainter::paint(painter,
+                        DeckLayout::regions(deck.slides[index], deck.theme, index, int(deck.slides.size()),
+                                            deck.showNumbers, deck.title),
+                        deck.theme, picture.width());
+    return picture;
+}
+
+QString DeckExporter::fileExtension(DeckExportFormat format)
+{
+    static constexpr auto extensions = std::to_array<const char *>({"pdf", "pptx", "md", "txt"});
+    return QString::fromLatin1(extensions.at(std::size_t(format)));
+}
+
+QString DeckExporter::fileName(const Deck &deck, DeckExportFormat format)
+{
+    QString name = deck.title.isEmpty() ? QStringLiteral("Deck") : deck.title;
+    return name.replace(u'/', u'-') + u'.' + fileExtension(format);
+}

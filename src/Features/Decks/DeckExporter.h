@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Features/Decks/DeckExportError.h"
+#include "Models/Deck.h"
+
+#include <QDateTime>
+#include <QImage>
+
+#include <expected>
+
+enum class DeckExportFormat { pdf, pptx, markdown, text };
+
+/// The label is the wording of the export menu.
+template <>
+struct EnumTable<DeckExportFormat> {
+    static constexpr auto cases = std::to_array<EnumCase<DeckExportFormat>>({
+        {DeckExportFormat::pdf, "pdf", u"PDF document"},
+        {DeckExportFormat::pptx, "pptx", u"PowerPoint"},
+        {DeckExportFormat::markdown, "markdown", u"Markdown"},
+        {DeckExportFormat::text, "text", u"Plain text"},
+    });
+};
+
+/// The front of all exports of decks.
+namespace DeckExporter
+{
+/// The bytes of the deck in this format.
+/// @param localMoment now, in the person's time zone
+std::expected<QByteArray, DeckExportError> make(const Deck &deck, DeckExportFormat format,
+                                                const QDateTime &localMoment);
+
+/// One page of 960 by 540 points a slide, each a picture of three pixels a point.
+std::expected<QByteArray, DeckExportError> pdf(const Deck &deck);
+
+/// The picture of one slide as it stands in the PDF.
+QImage picture(const Deck &deck, int index);
+
+/// What files of this format end in, without the dot.
+QString fileExtension(DeckExportFormat format);
+/// The file name offered for the deck.
+QString fileName(const Deck &deck, DeckExportFormat format);
+} // namespace DeckExporter

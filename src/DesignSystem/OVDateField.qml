@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 
-/// A button that shows a day, a time or both, and opens the pickers for them.
+/// A button that shows a day, a time or both, and opens the pickers for them. It never changes `value` itself:
+/// bind it, and write what `edited` says to where it comes from.
 T.AbstractButton {
     id: field
 
@@ -24,7 +25,9 @@ T.AbstractButton {
 
     property bool openedByKeyboard: false
 
+    /// The person chose this moment.
     signal edited(moment: date)
+    /// The person took the value away.
     signal cleared()
 
     function open() {
@@ -32,11 +35,6 @@ T.AbstractButton {
         now = new Date()
         loader.active = true
         loader.item.open()
-    }
-
-    function commit(moment: date) {
-        field.value = moment
-        field.edited(moment)
     }
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -117,12 +115,11 @@ T.AbstractButton {
                     clearable: field.clearable
                     focus: true
                     onChosen: moment => {
-                        field.commit(moment)
+                        field.edited(moment)
                         if (!field.showsTime)
                             loader.item.close()
                     }
                     onCleared: {
-                        field.value = new Date(NaN)
                         field.cleared()
                         loader.item.close()
                     }
@@ -141,7 +138,7 @@ T.AbstractButton {
                     visible: field.showsTime
                     enabled: !isNaN(field.value)
                     value: field.value
-                    onEdited: moment => field.commit(moment)
+                    onEdited: moment => field.edited(moment)
                     onAccepted: loader.item.close()
                 }
             }

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Orvel.DesignSystem
 
 /// A month to choose a day from. Arrow keys move by days and weeks, Page Up and Down by months, Home and End
-/// to the ends of the week; Return chooses.
+/// to the ends of the week; Return chooses. It never changes `value` itself.
 T.Control {
     id: picker
 
@@ -166,7 +166,7 @@ T.Control {
         }
     }
 
-    WheelHandler {
-        onWheel: event => month.moveMonths(event.angleDelta.y > 0 ? -1 : 1)
+    OVWheelSteps {
+        onStepped: steps => month.moveMonths(-steps)
     }
 }

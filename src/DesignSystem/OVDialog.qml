@@ -28,8 +28,6 @@ T.Dialog {
     focus: true
     closePolicy: T.Popup.CloseOnEscape
 
-    onOpened: (extra.visible ? extra : acceptButton).forceActiveFocus(Qt.PopupFocusReason)
-
     T.Overlay.modal: OVScrim { }
     background: OVPopupSurface { radius: Theme.cornerSheet }
     enter: OVSheetEnter { }
@@ -61,9 +59,12 @@ T.Dialog {
         }
 
         FocusScope {
+            id: scope
             width: parent.width
             height: extra.height
             visible: extra.children.length > 0
+            focus: visible
+
             Column {
                 id: extra
                 width: parent.width
@@ -86,6 +87,8 @@ T.Dialog {
             OVPrimaryButton {
                 id: acceptButton
                 text: dialog.acceptText
+                destructive: dialog.destructive
+                focus: !scope.visible
                 enabled: dialog.acceptEnabled
                 onClicked: dialog.accept()
             }

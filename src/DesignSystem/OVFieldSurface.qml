@@ -15,8 +15,8 @@ Rectangle {
     color: Theme.ovSurface
     border.width: Theme.lineWidth
     border.color: invalid ? Theme.ovDanger
-                : active ? Theme.accent
-                : hovered ? Theme.ovBorderStrong : Theme.ovBorder
+                : active && !ringVisible ? Theme.accent
+                : hovered || active ? Theme.ovBorderStrong : Theme.ovBorder
 
     Behavior on border.color {
         ColorAnimation { duration: Theme.durationHover }

@@ -13,10 +13,19 @@ QtObject {
 
     function remember() {
         const active = popup.parent?.Window.activeFocusItem ?? null
-        // A menu that is just closing hands on what it had remembered.
         const menu = active?.menu as OVMenu
-        item = menu ? menu.focusReturn.item : active
-        reason = menu ? menu.focusReturn.reason : active?.focusReason ?? Qt.OtherFocusReason
+        const bar = popup.parent?.menuBar as OVMenuBar
+        if (bar) {
+            item = bar.keys.origin
+            reason = bar.keys.originReason
+        } else if (menu) {
+            // A menu that is just closing hands on what it had remembered.
+            item = menu.focusReturn.item
+            reason = menu.focusReturn.reason
+        } else {
+            item = active
+            reason = active?.focusReason ?? Qt.OtherFocusReason
+        }
     }
 
     function giveBack() {
@@ -26,6 +35,7 @@ QtObject {
             return
         const active = target.Window.activeFocusItem
         const nowhere = !active || active === target.Window.contentItem || active === target.T.Overlay.overlay
+                        || active instanceof OVMenuBar
         if (nowhere)
             target.forceActiveFocus(reason)
         else if (active === target && target.focusReason !== undefined)

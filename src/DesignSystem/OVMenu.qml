@@ -13,15 +13,11 @@ T.Menu {
     readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: menu }
 
     function measure() {
-        let widest = 0
-        let leading = false
-        for (let i = 0; i < count; ++i) {
-            const item = itemAt(i)
-            widest = Math.max(widest, item.implicitWidth)
-            leading = leading || item.checkable === true || (item.symbol ?? "") !== ""
-        }
-        hasLeadingColumn = leading
-        widestItem = widest
+        const items = []
+        for (let i = 0; i < count; ++i)
+            items.push(itemAt(i))
+        hasLeadingColumn = items.some(item => item.checkable === true || (item.symbol ?? "") !== "")
+        widestItem = Math.max(0, ...items.map(item => item.implicitWidth))
     }
 
     function jumpTo(letter: string): bool {

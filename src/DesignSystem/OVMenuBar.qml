@@ -12,11 +12,7 @@ T.MenuBar {
     verticalPadding: Theme.space4 / 2
     spacing: 0
 
-    function openMenu(index: int) {
-        const item = itemAt(index)
-        item.triggered()
-        item.menu.currentIndex = 0
-    }
+    readonly property MenuBarKeys keys: MenuBarKeys { menuBar: bar }
 
     Accessible.name: qsTr("Menu bar")
 
@@ -33,6 +29,6 @@ T.MenuBar {
 
     Shortcut {
         sequence: "F10"
-        onActivated: bar.openMenu(0)
+        onActivated: bar.keys.toggle()
     }
 }

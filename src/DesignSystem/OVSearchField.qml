@@ -12,9 +12,7 @@ OVTextField {
 
     Keys.onEscapePressed: event => {
         event.accepted = field.length > 0
-        if (field.length > 0) {
-            field.clear()
-            field.cleared()
-        }
+        if (field.length > 0)
+            field.empty()
     }
 }

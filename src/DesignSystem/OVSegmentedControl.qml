@@ -4,7 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 
-/// A few choices side by side, of which one holds. One stop for Tab; the arrow keys move the choice.
+/// A few choices side by side, of which one holds. One stop for Tab; the arrow keys move the choice. It never
+/// changes `currentIndex` itself: bind it, and write what `activated` says to where it comes from.
 T.Control {
     id: control
 
@@ -18,7 +19,6 @@ T.Control {
     function choose(index: int) {
         if (index < 0 || index >= model.length || index === currentIndex)
             return
-        currentIndex = index
         activated(index)
     }
 

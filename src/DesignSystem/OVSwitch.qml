@@ -53,8 +53,8 @@ T.Switch {
             width: height + (control.down ? track.inset : 0)
             height: track.height - 2 * track.inset
             radius: height / 2
-            color: control.checked ? Theme.onAccent : Theme.ovSurface
-            border.width: control.checked ? 0 : Theme.lineWidth
+            color: control.checked ? Theme.onAccent : Theme.dark ? Theme.ovInkSecondary : Theme.ovSurface
+            border.width: control.checked || Theme.dark ? 0 : Theme.lineWidth
             border.color: Theme.ovBorderStrong
 
             Behavior on x {

@@ -17,8 +17,11 @@ T.TextField {
                                         || focusReason === Qt.BacktabFocusReason
                                         || focusReason === Qt.ShortcutFocusReason)
 
-    /// The clear button emptied the field.
-    signal cleared()
+    /// Empties the field as the person would.
+    function empty() {
+        clear()
+        textEdited()
+    }
 
     implicitWidth: Theme.fieldWidth
     implicitHeight: plain ? contentHeight + topPadding + bottomPadding
@@ -81,10 +84,9 @@ T.TextField {
         symbol: "xmark"
         text: qsTr("Clear")
         focusPolicy: Qt.NoFocus
-        onClicked: {
-            field.clear()
-            field.cleared()
-        }
+        color: Theme.ovInkTertiary
+        iconSize: Theme.iconRow - 2
+        onClicked: field.empty()
     }
 
     OVContextMenuArea {

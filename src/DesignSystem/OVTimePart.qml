@@ -85,7 +85,7 @@ Item {
         }
     }
 
-    WheelHandler {
-        onWheel: event => root.clock.step(root.part, event.angleDelta.y > 0 ? 1 : -1)
+    OVWheelSteps {
+        onStepped: steps => root.clock.step(root.part, steps)
     }
 }

@@ -44,7 +44,7 @@ QColor Theme::focusRing() const
 QColor Theme::ovScrim() const
 {
     QColor color = Qt::black;
-    color.setAlphaF(dark() ? 0.5F : 0.28F);
+    color.setAlphaF(dark() ? 0.5F : 0.22F);
     return color;
 }
 

@@ -15,7 +15,7 @@ Item {
         OVTextArea { id: area; placeholderText: "Notes"; width: 300; maximumLines: 4 }
         OVSwitch { id: toggle; text: "Glass" }
         OVCheckBox { id: box; text: "Done" }
-        OVSegmentedControl { id: segments; model: ["low", "medium", "high"]; currentIndex: 1 }
+        OVSegmentedControl { id: segments; model: ["low", "medium", "high"]; currentIndex: 1; onActivated: index => currentIndex = index }
         OVColorSwatch { id: swatch; color: "red"; text: "Red"; chosen: true }
     }
 

@@ -154,12 +154,33 @@ Item {
 
         function test_menuBarByF10AndArrows() {
             keyClick(Qt.Key_F10)
+            compare(bar.itemAt(0).highlighted, true)
+            keyClick(Qt.Key_Down)
             tryCompare(fileMenu, "opened", true)
             keyClick(Qt.Key_Right)
             tryCompare(viewMenu, "opened", true)
             closed(fileMenu)
             keyClick(Qt.Key_Escape)
             closed(viewMenu)
+            verify(opener.activeFocus)
+        }
+
+        function test_menuBarByAltAlone() {
+            keyPress(Qt.Key_Alt, Qt.AltModifier)
+            keyRelease(Qt.Key_Alt, Qt.NoModifier)
+            tryCompare(bar.itemAt(0), "highlighted", true)
+            keyClick(Qt.Key_Right)
+            compare(bar.itemAt(1).highlighted, true)
+            keyClick(Qt.Key_Down)
+            tryCompare(viewMenu, "opened", true)
+            keyClick(Qt.Key_Escape)
+            closed(viewMenu)
+            verify(opener.activeFocus)
+            keyPress(Qt.Key_Alt, Qt.AltModifier)
+            keyRelease(Qt.Key_Alt, Qt.NoModifier)
+            keyClick(Qt.Key_Escape)
+            compare(bar.itemAt(0).highlighted, false)
+            verify(opener.activeFocus)
         }
 
         function test_menuBarByMnemonic() {

@@ -20,6 +20,7 @@ Item {
         showsTime: true
         clearable: true
         value: new Date(2026, 10, 22, 9, 30)
+        onEdited: moment => value = moment
     }
 
     OVTimePicker {

@@ -13,19 +13,26 @@ T.Slider {
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
 
-    background: Rectangle {
+    // Two lines that end at the handle: under a translucent one, a line through it would show.
+    background: Item {
         x: slider.leftPadding
         y: Math.round((slider.height - height) / 2)
         width: slider.availableWidth
         height: 4
-        radius: 2
-        color: Theme.ovBorder
 
         Rectangle {
-            width: slider.visualPosition * parent.width
+            width: slider.handle.x - slider.leftPadding
             height: parent.height
-            radius: parent.radius
+            radius: height / 2
             color: Theme.accent
+        }
+
+        Rectangle {
+            x: slider.handle.x - slider.leftPadding + slider.handle.width
+            width: parent.width - x
+            height: parent.height
+            radius: height / 2
+            color: Theme.ovBorder
         }
     }
 

@@ -30,6 +30,10 @@ Item {
         }
 
         ButtonsSection { Layout.fillWidth: true }
+        FieldsSection { Layout.fillWidth: true }
+        ChoicesSection { Layout.fillWidth: true }
+        PickersSection { Layout.fillWidth: true }
+        FloatingSection { Layout.fillWidth: true }
         DisplaySection { Layout.fillWidth: true }
         TypeSection { Layout.fillWidth: true }
         IconsSection { Layout.fillWidth: true }

@@ -24,7 +24,7 @@ Item {
             OVMenuItem { id: folderItem; text: "Folder" }
         }
         OVMenuItem { id: checkItem; text: "Pinned"; checkable: true }
-        OVMenuItem { id: deleteItem; text: "Delete"; destructive: true }
+        OVMenuItem { id: deleteItem; text: "Delete this page and everything that was ever written on it"; destructive: true }
     }
 
     OVMenu {

@@ -129,6 +129,7 @@ private slots:
         QVERIFY(clock.typeDigit(ClockTime::Minutes, 5));
         QCOMPARE(clock.minuteText(), "05");
         clock.typeDigit(ClockTime::Minutes, 4);
+        QCOMPARE(clock.minuteText(), "04");
         clock.endTyping();
         QVERIFY(!clock.typeDigit(ClockTime::Minutes, 2));
         QCOMPARE(clock.minuteText(), "02");

@@ -44,7 +44,7 @@ std::optional<double> DBValue::number(const QString &value)
     static constexpr qsizetype longest = 400;
     if (value.isEmpty() || value.size() > longest)
         return std::nullopt;
-    std::array<char, longest> digits;
+    std::array<char, longest> digits{};
     qsizetype size = 0;
     for (const QChar character : value) {
         const char16_t unit = character.unicode();

@@ -38,10 +38,14 @@ std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck)
     PdfImageWriter writer(page);
     for (int i = 0; i < deck.slides.size(); ++i) {
         const QImage slide = picture(deck, i);
-        if (slide.isNull() || !writer.addPage(slide))
+        if (slide.isNull())
             return std::unexpected(DeckExportError::renderFailed);
+        writer.addPage(slide);
     }
-    return writer.finish();
+    auto document = writer.finish();
+    if (!document)
+        return std::unexpected(DeckExportError::writeFailed);
+    return std::move(*document);
 }
 
 QImage DeckExporter::picture(const Deck &deck, int index)

@@ -1,6 +1,7 @@
 #include "Features/Decks/PdfImageWriter.h"
 
-#include <optional>
+#include <cstring>
+#include <vector>
 #include <zlib.h>
 
 namespace
@@ -43,30 +44,44 @@ private:
     QByteArray m_packed;
 };
 
+/// Appends a row of red, green and blue, each as its difference to the row above.
+void appendFiltered(QByteArray &rows, const QRgb *row, const QRgb *above, int width)
+{
+    const qsizetype start = rows.size();
+    rows.resize(start + qsizetype(width) * 3 + 1);
+    auto *to = reinterpret_cast<uchar *>(rows.data() + start);
+    *to++ = upFilter;
+    // Most rows of a slide repeat the one above.
+    if (std::memcmp(row, above, std::size_t(width) * sizeof(QRgb)) == 0) {
+        std::memset(to, 0, std::size_t(width) * 3);
+        return;
+    }
+    for (int x = 0; x < width; ++x) {
+        *to++ = uchar(qRed(row[x]) - qRed(above[x]));
+        *to++ = uchar(qGreen(row[x]) - qGreen(above[x]));
+        *to++ = uchar(qBlue(row[x]) - qBlue(above[x]));
+    }
+}
+
 std::optional<QByteArray> packedRows(const QImage &picture)
 {
-    const QImage rgb = picture.convertToFormat(QImage::Format_RGB888);
-    const qsizetype rowBytes = qsizetype(rgb.width()) * 3;
-    const QByteArray blank(rowBytes, '\0');
+    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
     static constexpr int rowsAtOnce = 32;
+    // The row above the first counts as black.
+    const std::vector<QRgb> black(std::size_t(image.width()), qRgb(0, 0, 0));
+    const QRgb *above = black.data();
     Deflater deflater;
     QByteArray rows;
-    const auto *above = reinterpret_cast<const uchar *>(blank.constData());
-    for (int y = 0; y < rgb.height(); ++y) {
-        const uchar *const row = rgb.constScanLine(y);
-        const qsizetype start = rows.size();
-        rows.resize(start + rowBytes + 1);
-        auto *to = reinterpret_cast<uchar *>(rows.data() + start);
-        *to++ = upFilter;
-        for (qsizetype x = 0; x < rowBytes; ++x)
-            to[x] = uchar(row[x] - above[x]);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *const row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        appendFiltered(rows, row, above, image.width());
         above = row;
-        const bool isLast = y + 1 == rgb.height();
+        const bool isLast = y + 1 == image.height();
         if (!isLast && (y + 1) % rowsAtOnce != 0)
             continue;
         if (!deflater.add(rows, isLast))
             return std::nullopt;
-        rows.clear();
+        rows.resize(0);
     }
     return deflater.take();
 }
@@ -97,20 +112,33 @@ void PdfImageWriter::writeStream(const QByteArray &entries, const QByteArray &da
                "\nendstream\nendobj\n";
 }
 
-bool PdfImageWriter::addPage(const QImage &picture)
+void PdfImageWriter::addPage(const QImage &picture)
 {
-    const auto packed = packedRows(picture);
-    if (!packed)
-        return false;
-    const QByteArray width = QByteArray::number(picture.width());
+    writePending();
+    m_pendingSize = picture.size();
+    m_pending = std::async(std::launch::async, [picture] { return packedRows(picture); });
+}
+
+void PdfImageWriter::writePending()
+{
+    if (!m_pending.valid())
+        return;
+    const auto packed = m_pending.get();
+    m_isWhole = m_isWhole && packed.has_value();
+    if (packed)
+        writePage(m_pendingSize, *packed);
+}
+
+void PdfImageWriter::writePage(QSize size, const QByteArray &packed)
+{
+    const QByteArray width = QByteArray::number(size.width());
     const int image = beginObject();
     writeStream(
-        "/Type /XObject /Subtype /Image /Width " + width + " /Height " +
-            QByteArray::number(picture.height()) +
+        "/Type /XObject /Subtype /Image /Width " + width + " /Height " + QByteArray::number(size.height()) +
             " /ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode /DecodeParms << /Predictor 15 "
             "/Colors 3 /BitsPerComponent 8 /Columns " +
             width + " >>",
-        *packed);
+        packed);
     const int content = beginObject();
     writeStream({}, "q " + number(m_pageSize.width()) + " 0 0 " + number(m_pageSize.height()) +
                         " 0 0 cm /Slide Do Q");
@@ -119,11 +147,13 @@ bool PdfImageWriter::addPage(const QImage &picture)
                number(m_pageSize.width()) + ' ' + number(m_pageSize.height()) +
                "] /Resources << /XObject << /Slide " + QByteArray::number(image) + " 0 R >> >> /Contents " +
                QByteArray::number(content) + " 0 R >>\nendobj\n";
-    return true;
 }
 
-QByteArray PdfImageWriter::finish()
+std::optional<QByteArray> PdfImageWriter::finish()
 {
+    writePending();
+    if (!m_isWhole)
+        return std::nullopt;
     QByteArray kids;
     for (const int page : m_pages)
         kids += QByteArray::number(page) + " 0 R ";

@@ -37,8 +37,10 @@ private:
     static int exitCode(QProcess &process)
     {
         process.closeWriteChannel();
-        return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit ? process.exitCode()
-                                                                                         : -1;
+        process.waitForFinished();
+        const bool ended =
+            process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
+        return ended ? process.exitCode() : -1;
     }
 
 private slots:

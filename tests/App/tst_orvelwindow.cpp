@@ -1,0 +1,270 @@
+#include "App/OrvelCommands.h"
+#include "App/ThemeSync.h"
+#include "DesignSystem/OVTheme.h"
+#include "Harness/TestWorkspace.h"
+#include "Session/OrvelSession.h"
+
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+/// The real main window before a workspace of its own.
+class OrvelWindowTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestWorkspace m_workspace;
+    DesktopAppearance m_desktop;
+    ThemeSync m_theme{&m_workspace.store(), &m_desktop};
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+
+    WorkspaceStore &store() { return m_workspace.store(); }
+    UIState &ui() { return m_workspace.ui(); }
+    void edit(const std::function<void(AppSettings &)> &change) { store().changeSettings(change); }
+
+    void open()
+    {
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        m_engine->addImportPath(u":/qt/qml"_s);
+        m_session.provideTo(*m_engine);
+        m_engine->setInitialProperties({{u"placementPath"_s, QString()}});
+        m_engine->load(QUrl(u"qrc:/qt/qml/Orvel/App/OrvelWindow.qml"_s));
+        QVERIFY(!m_engine->rootObjects().isEmpty());
+        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+    }
+    QQuickItem *root() const { return m_window->contentItem()->childItems().constFirst(); }
+    template <typename Found>
+    static QQuickItem *find(QQuickItem *item, const Found &found)
+    {
+        if (found(item))
+            return item;
+        for (QQuickItem *const child : item->childItems())
+            if (QQuickItem *const match = find(child, found))
+                return match;
+        return nullptr;
+    }
+    QQuickItem *item(const QByteArray &type) const
+    {
+        return find(root(), [&](QQuickItem *candidate) {
+            return QByteArray(candidate->metaObject()->className()).startsWith(type + "_QML");
+        });
+    }
+    QQuickItem *menuBar() const { return item("OrvelMenuBar"); }
+
+    void press(const QString &keys)
+    {
+        const QKeyCombination combination = QKeySequence(keys, QKeySequence::PortableText)[0];
+        QTest::keyClick(m_window, combination.key(), combination.keyboardModifiers());
+    }
+    /// Presses the keys of every command in turn and looks at what comes of it.
+    void pressEveryKey()
+    {
+        for (const OrvelCommand &command : OrvelCommands::menus().at(1).commands.first(11)) {
+            press(command.keys);
+            QCOMPARE(ui().selection().text(), command.id);
+        }
+        press(u"Ctrl+,"_s);
+        QCOMPARE(ui().selection().text(), u"settings"_s);
+        press(u"Ctrl+N"_s);
+        QCOMPARE(ui().selection(), Destination::page(store().pages().all().last().id));
+        press(u"Ctrl+Shift+N"_s);
+        QCOMPARE(ui().selection(), Destination::page(store().pages().all().last().id));
+        press(u"Ctrl+Shift+K"_s);
+        QCOMPARE(ui().selection().text(), u"tasks"_s);
+        press(u"Ctrl+Shift+D"_s);
+        press(u"Ctrl+Shift+L"_s);
+        press(u"Ctrl+Shift+T"_s);
+        press(u"Ctrl+Shift+S"_s);
+        QVERIFY(!ui().isSidebarVisible());
+        press(u"Ctrl+/"_s);
+        QVERIFY(ui().isShortcutsPresented());
+        ui().setShortcutsPresented(false);
+        press(u"Ctrl+K"_s);
+        QVERIFY(ui().isSearchPresented());
+        ui().setSearchPresented(false);
+
+        const QString saved = m_workspace.saved();
+        for (const auto &part :
+             {u"\"kind\":\"page\"", u"\"kind\":\"note\"", u"\"title\":\"Untitled task\"",
+              u"\"navigation\":\"tabsTop\"", u"\"appearance\":\"light\"", u"\"accent\":\"graphite\""})
+            QVERIFY2(saved.contains(part), qPrintable(saved));
+    }
+
+private slots:
+    void init()
+    {
+        m_workspace.reset();
+        edit([](AppSettings &settings) { settings.reducedMotion = true; });
+    }
+    void cleanup() { m_engine.reset(); }
+
+    void beginsWithTheIntroOnceALaunch()
+    {
+        edit([](AppSettings &settings) { settings.reducedMotion = false; });
+        open();
+        QVERIFY(item("OrvelIntroView"));
+        QTRY_VERIFY(menuBar());
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QTRY_VERIFY(!item("OrvelIntroView"));
+        edit([](AppSettings &settings) { settings.theme.accent = AccentPalette::teal; });
+        QTest::qWait(0);
+        QVERIFY(!item("OrvelIntroView"));
+    }
+
+    void beginsAtOnceWithoutMotion_data()
+    {
+        QTest::addColumn<bool>("inkMode");
+        QTest::newRow("reduced motion") << false;
+        QTest::newRow("ink mode") << true;
+    }
+    void beginsAtOnceWithoutMotion()
+    {
+        QFETCH(const bool, inkMode);
+        edit([&](AppSettings &settings) {
+            settings.inkMode = inkMode;
+            settings.reducedMotion = !inkMode;
+        });
+        open();
+        QVERIFY(menuBar());
+        QTRY_VERIFY(!item("OrvelIntroView"));
+    }
+
+    void hasItsSizeAndTitle()
+    {
+        edit([](AppSettings &settings) { settings.workspaceName = u" \n"_s; });
+        open();
+        QCOMPARE(m_window->size(), QSize(1240, 820));
+        QCOMPARE(m_window->minimumSize(), QSize(720, 480));
+        QCOMPARE(m_window->title(), u"Orvel"_s);
+        edit([](AppSettings &settings) { settings.workspaceName = u"Studio"_s; });
+        QCOMPARE(m_window->title(), u"Studio"_s);
+    }
+
+    void everyKeyDoesItsAction()
+    {
+        open();
+        pressEveryKey();
+    }
+
+    void everyKeyWorksInTextAndTextKeepsItsOwn_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::newRow("line") << QByteArray("TextInput");
+        QTest::newRow("area") << QByteArray("TextEdit");
+    }
+    void everyKeyWorksInTextAndTextKeepsItsOwn()
+    {
+        QFETCH(const QByteArray, type);
+        open();
+        QQmlComponent component(m_engine.get());
+        component.setData("import QtQuick; " + type + " { width: 200; text: 'one two' }", QUrl());
+        auto *const text = qobject_cast<QQuickItem *>(component.create(m_engine->rootContext()));
+        QVERIFY2(text, qPrintable(component.errorString()));
+        text->setParentItem(m_window->contentItem());
+        text->forceActiveFocus();
+        QVERIFY(text->hasActiveFocus());
+
+        press(u"End"_s);
+        press(u"Ctrl+Shift+Left"_s);
+        QCOMPARE(text->property("selectedText"), u"two"_s);
+        press(u"Ctrl+X"_s);
+        QCOMPARE(text->property("text"), u"one "_s);
+        press(u"Ctrl+V"_s);
+        press(u"Ctrl+Z"_s);
+        QCOMPARE(text->property("text"), u"one "_s);
+        press(u"Ctrl+A"_s);
+        QCOMPARE(text->property("selectedText"), u"one "_s);
+
+        pressEveryKey();
+        QCOMPARE(text->property("text"), u"one "_s);
+        delete text;
+    }
+
+    void aKeyHeldDownCountsOnce()
+    {
+        open();
+        for (const bool repeated : {false, true, true})
+            qt_sendShortcutOverrideEvent(m_window, 0, Qt::Key_N, Qt::ControlModifier, QString(), repeated);
+        QCOMPARE(store().pages().size(), 1);
+    }
+
+    void theLastAccentIsFollowedByTheFirst()
+    {
+        edit([](AppSettings &settings) { settings.theme.accent = AccentPalette::red; });
+        open();
+        press(u"Ctrl+Shift+T"_s);
+        QCOMPARE(store().settings().theme.accent, AccentPalette::mono);
+        QCOMPARE(OVTheme::current().accent, AccentPalette::mono);
+    }
+
+    void inkModeIsLightWhateverElseIsChosen()
+    {
+        open();
+        edit([](AppSettings &settings) { settings.appearance = AppearanceMode::dark; });
+        const QColor dark = m_window->color();
+        QVERIFY(dark.lightness() < 128);
+        edit([](AppSettings &settings) { settings.inkMode = true; });
+        QVERIFY(m_window->color().lightness() > 128);
+        press(u"Ctrl+Shift+L"_s);
+        QVERIFY(m_window->color().lightness() > 128);
+    }
+
+    void fullScreenHidesTheMenuBar()
+    {
+        open();
+        QVERIFY(menuBar()->isVisible());
+        press(u"F11"_s);
+        QTRY_COMPARE(m_window->visibility(), QWindow::FullScreen);
+        QTRY_VERIFY(!menuBar()->isVisible());
+        QCOMPARE(menuBar()->height(), 0.0);
+        press(u"F11"_s);
+        QTRY_COMPARE(m_window->visibility(), QWindow::Windowed);
+        QTRY_VERIFY(menuBar()->isVisible());
+    }
+
+    void menusAreWorkedWithMouseAndKeys()
+    {
+        open();
+        const auto title = [this](const QString &text) {
+            return find(menuBar(), [&](QQuickItem *candidate) {
+                return candidate->property("highlighted").isValid() &&
+                       candidate->property("text").toString() == text;
+            });
+        };
+        QQuickItem *const navigate = title(u"&Navigate"_s);
+        QVERIFY(navigate);
+        QTest::mouseClick(m_window, Qt::LeftButton, {},
+                          navigate->mapToScene(navigate->boundingRect().center()).toPoint());
+        press(u"Down"_s);
+        press(u"Down"_s);
+        press(u"Return"_s);
+        QTRY_COMPARE(ui().selection().text(), u"today"_s);
+
+        QTest::keyClick(m_window, Qt::Key_F, Qt::AltModifier);
+        press(u"Down"_s);
+        press(u"Return"_s);
+        QTRY_COMPARE(store().pages().size(), 1);
+    }
+
+    void quitIsAskedOfTheApplication()
+    {
+        open();
+        const QSignalSpy quit(m_engine.get(), &QQmlEngine::quit);
+        m_engine->disconnect(qApp);
+        press(u"Ctrl+Q"_s);
+        QCOMPARE(quit.count(), 1);
+    }
+};
+
+QTEST_MAIN(OrvelWindowTest)
+#include "tst_orvelwindow.moc"

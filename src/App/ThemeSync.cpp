@@ -2,13 +2,13 @@
 
 #include "DesignSystem/OVTheme.h"
 
-ThemeSync::ThemeSync(const WorkspaceStore *store, const DesktopAppearance *desktop, QObject *parent)
+ThemeSync::ThemeSync(const WorkspaceStore *store, const SystemAppearance *desktop, QObject *parent)
     : QObject(parent)
 {
-    const auto follow = [desktop] { OVTheme::setSystemDark(desktop->isDark()); };
+    const auto follow = [](bool dark) { OVTheme::setSystemDark(dark); };
     const auto apply = [store] { OVTheme::apply(store->settings()); };
-    connect(desktop, &DesktopAppearance::darkChanged, this, follow);
+    connect(desktop, &SystemAppearance::changed, this, follow);
     connect(store, &WorkspaceStore::settingsChanged, this, apply);
-    follow();
+    follow(desktop->isDark());
     apply();
 }

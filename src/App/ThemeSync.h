@@ -1,6 +1,6 @@
 #pragma once
 
-#include "App/DesktopAppearance.h"
+#include "DesignSystem/SystemAppearance.h"
 #include "Store/WorkspaceStore.h"
 
 /// Keeps the appearance of the program in step with the settings and with the desktop.
@@ -10,5 +10,5 @@ class ThemeSync : public QObject
 
 public:
     /// Applies the theme at once. Both live longer than this object.
-    ThemeSync(const WorkspaceStore *store, const DesktopAppearance *desktop, QObject *parent = nullptr);
+    ThemeSync(const WorkspaceStore *store, const SystemAppearance *desktop, QObject *parent = nullptr);
 };

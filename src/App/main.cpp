@@ -1,10 +1,10 @@
-#include "App/DesktopAppearance.h"
 #include "App/SavePoints.h"
 #include "App/SingleInstance.h"
 #include "App/TerminationSignals.h"
 #include "App/ThemeSync.h"
 #include "Session/OrvelSession.h"
 
+#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QLoggingCategory>
@@ -61,7 +61,7 @@ int main(int argc, char *argv[])
     SystemClock clock;
     WorkspaceStore store({.filePath = filePath, .clock = &clock});
     SavePoints savePoints(&store, &clock, &application);
-    const DesktopAppearance desktop;
+    const SystemAppearance desktop(QDBusConnection::sessionBus());
     const ThemeSync theme(&store, &desktop);
     UIState ui;
     OrvelSession session(&store, &ui);

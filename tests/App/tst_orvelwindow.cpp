@@ -4,6 +4,7 @@
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
 
+#include <QDBusConnection>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickItem>
@@ -20,7 +21,7 @@ class OrvelWindowTest : public QObject
 
 private:
     TestWorkspace m_workspace;
-    DesktopAppearance m_desktop;
+    SystemAppearance m_desktop{QDBusConnection(QString())};
     ThemeSync m_theme{&m_workspace.store(), &m_desktop};
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
     std::unique_ptr<QQmlApplicationEngine> m_engine;

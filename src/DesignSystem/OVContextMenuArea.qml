@@ -9,12 +9,16 @@ Item {
 
     /// Makes the OVMenu.
     required property Component menu
+    /// What a right click gives the focus to before the menu opens, as a text field needs; null for nothing.
+    property Item focusTarget: null
     /// The menu once it was asked for.
     readonly property OVMenu openMenu: loader.item as OVMenu
 
     function openAt(x: real, y: real) {
+        if (focusTarget && !focusTarget.activeFocus)
+            focusTarget.forceActiveFocus(Qt.MouseFocusReason)
         loader.active = true
-        loader.item.popup(area, x, y)
+        openMenu.popup(area, x, y)
     }
 
     function handleKey(event: KeyEvent) {

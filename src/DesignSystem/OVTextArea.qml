@@ -17,7 +17,7 @@ FocusScope {
     property alias font: area.font
     property alias textFormat: area.textFormat
     property alias input: area
-    readonly property real lineHeight: metrics.lineSpacing
+    readonly property int lineHeight: Math.max(metrics.lineSpacing, Math.round(area.font.pixelSize * 1.5))
     readonly property real framePadding: plain ? 0 : Theme.space8
     readonly property real contentLimit: maximumLines > 0 ? maximumLines * lineHeight : Infinity
 
@@ -37,6 +37,11 @@ FocusScope {
     FontMetrics {
         id: metrics
         font: area.font
+    }
+
+    LineSpacing {
+        document: area.textDocument
+        distance: root.lineHeight - metrics.lineSpacing
     }
 
     OVFieldSurface {
@@ -96,6 +101,7 @@ FocusScope {
 
     OVContextMenuArea {
         id: contextMenu
+        focusTarget: area
         menu: Component {
             OVTextMenu { target: area }
         }

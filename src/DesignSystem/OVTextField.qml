@@ -91,6 +91,7 @@ T.TextField {
 
     OVContextMenuArea {
         id: contextMenu
+        focusTarget: field
         menu: Component {
             OVTextMenu { target: field }
         }

@@ -72,6 +72,7 @@ Item {
         function test_readOnlyFieldsOnlyGive() {
             field.text = "paper"
             field.readOnly = true
+            search.forceActiveFocus()
             field.selectAll()
             mouseClick(field, 30, 18, Qt.RightButton)
             const menu = menuOf(field)
@@ -81,6 +82,7 @@ Item {
             compare(menu.itemAt(5).enabled, false)
             menu.close()
             tryCompare(menu, "visible", false)
+            verify(field.activeFocus)
             field.readOnly = false
         }
 
@@ -109,6 +111,22 @@ Item {
             const high = area.implicitHeight
             area.text = "1\n2\n3\n4\n5\n6\n7"
             compare(area.implicitHeight, high)
+        }
+
+        function test_spacingIsNoStepToUndo() {
+            area.text = "one\ntwo"
+            compare(area.input.canUndo, false)
+            verify(area.input.contentHeight >= 2 * area.lineHeight - 4)
+            area.input.forceActiveFocus()
+            area.input.cursorPosition = area.input.length
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_X)
+            compare(area.text, "one\ntwo\nx")
+            verify(area.input.contentHeight >= 3 * area.lineHeight - 4)
+            while (area.input.canUndo)
+                area.input.undo()
+            compare(area.text, "one\ntwo")
+            verify(area.input.contentHeight >= 2 * area.lineHeight - 4)
         }
 
         function test_tabLeavesTheArea() {

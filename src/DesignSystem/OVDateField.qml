@@ -21,9 +21,7 @@ T.AbstractButton {
     /// A slim pill rather than a field.
     property bool compact: false
     /// The open picker, or null before it is first opened.
-    readonly property OVPopup popup: loader.item as OVPopup
-
-    property bool openedByKeyboard: false
+    readonly property OVDatePopup popup: loader.item as OVDatePopup
 
     /// The person chose this moment.
     signal edited(moment: date)
@@ -31,10 +29,10 @@ T.AbstractButton {
     signal cleared()
 
     function open() {
-        openedByKeyboard = visualFocus
         now = new Date()
         loader.active = true
-        loader.item.open()
+        popup.byKeyboard = visualFocus
+        popup.open()
     }
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -95,53 +93,15 @@ T.AbstractButton {
         id: loader
         active: false
 
-        sourceComponent: OVPopup {
+        sourceComponent: OVDatePopup {
             parent: field
-            y: field.height + Theme.space4
-            focus: true
-
-            onAboutToShow: (field.showsDate ? datePicker : timePicker).focusFirst()
-            onOpened: datePicker.ringVisible = field.openedByKeyboard
-
-            contentItem: Column {
-                spacing: Theme.space12
-
-                OVDatePicker {
-                    id: datePicker
-                    visible: field.showsDate
-                    value: field.value
-                    now: field.now
-                    showsToday: true
-                    clearable: field.clearable
-                    focus: true
-                    onChosen: moment => {
-                        field.edited(moment)
-                        if (!field.showsTime)
-                            loader.item.close()
-                    }
-                    onCleared: {
-                        field.cleared()
-                        loader.item.close()
-                    }
-                }
-
-                Rectangle {
-                    visible: field.showsDate && field.showsTime
-                    width: parent.width
-                    height: Theme.lineWidth
-                    color: Theme.ovBorder
-                }
-
-                OVTimePicker {
-                    id: timePicker
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    visible: field.showsTime
-                    enabled: !isNaN(field.value)
-                    value: field.value
-                    onEdited: moment => field.edited(moment)
-                    onAccepted: loader.item.close()
-                }
-            }
+            value: field.value
+            now: field.now
+            showsDate: field.showsDate
+            showsTime: field.showsTime
+            clearable: field.clearable
+            onEdited: moment => field.edited(moment)
+            onCleared: field.cleared()
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "Store/RecordChange.h"
 #include "Store/RecordList.h"
 #include "Store/Snapshot.h"
+#include "Support/ProjectTemplates.h"
 
 #include <QObject>
 #include <QTimer>
@@ -129,6 +130,19 @@ public:
     /// @param dueDate nothing takes the due date away
     void setTaskDue(const QUuid &taskID, std::optional<Timestamp> dueDate);
 
+    /// The project with the template's milestones and tasks; returns its id.
+    QUuid makeProject(const ProjectTemplate &from);
+    /// A project with nothing but its name; nothing for a blank one. Returns its id.
+    std::optional<QUuid> makeBlankProject(const QString &name);
+    /// A copy of a project kept as a template, with its milestones open again and without its tasks.
+    std::optional<QUuid> makeProjectFrom(const QUuid &templateProjectID);
+    /// Logs the status even if it stays the same.
+    void setProjectStatus(const QUuid &projectID, ProjectStatus status);
+    /// Titles are trimmed; blank ones are ignored.
+    void addMilestone(const QUuid &projectID, const QString &title);
+    void toggleMilestone(const QUuid &projectID, const QUuid &milestoneID);
+    void removeMilestone(const QUuid &projectID, const QUuid &milestoneID);
+    void addProjectTask(const QUuid &projectID, const QString &title);
     void logActivity(const QUuid &projectID, const QString &text, const QString &kind);
     /// The tasks of the project stay; its activities go.
     void deleteProject(const QUuid &projectID);
@@ -168,6 +182,8 @@ public:
     Found<Activity> activitiesFor(const QUuid &projectID) const;
     Found<DBRow> rowsIn(const QUuid &tableID) const;
     qsizetype habitsDoneToday() const;
+    /// The longest streak that any habit has today.
+    qsizetype bestHabitStreak() const;
 
 signals:
     void settingsChanged();
@@ -197,6 +213,8 @@ private:
     template <typename Edit>
     void changeTask(const QUuid &taskID, Edit edit);
     void adopt(Snapshot snapshot);
+    QUuid addProject(Project project, const QString &activity);
+    void changeMilestones(const QUuid &projectID, const std::function<void(QList<Milestone> &)> &edit);
 
     Options m_options;
     QTimer m_saveTimer;

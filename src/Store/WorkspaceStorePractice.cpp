@@ -1,4 +1,5 @@
 #include "Store/WorkspaceStore.h"
+#include "Support/HabitDays.h"
 #include "Support/OVDate.h"
 
 #include <algorithm>
@@ -17,6 +18,15 @@ qsizetype WorkspaceStore::habitsDoneToday() const
     const QString today = OVDate::dayKey(now(), clock().timeZone());
     return std::ranges::count_if(habits(),
                                  [&today](const Habit &habit) { return habit.completions.contains(today); });
+}
+
+qsizetype WorkspaceStore::bestHabitStreak() const
+{
+    const QDate today = clock().today();
+    qsizetype best = 0;
+    for (const Habit &habit : habits())
+        best = std::max(best, HabitDays::currentStreak(habit, today));
+    return best;
 }
 
 Book WorkspaceStore::addBook(const Book &book)

@@ -232,6 +232,54 @@ private slots:
         QCOMPARE(store->events().size(), 1);
     }
 
+    void projectsFromTemplates()
+    {
+        const auto store = open();
+        const Timestamp now = m_clock.now();
+        const ProjectTemplate &trip = ProjectTemplates::all().at(2);
+        const QUuid made = store->makeProject(trip);
+        Project expected{.id = made, .name = u"Trip planner"_s, .icon = u"🧭"_s};
+        expected.details = u"Everything for the next trip in one place."_s;
+        for (const auto &[number, title] :
+             {std::pair(1001, u"Dates booked"_s), std::pair(1002, u"Itinerary set"_s),
+              std::pair(1003, u"Packed"_s)})
+            expected.milestones.append({id(number), title, false});
+        expected.createdDate = expected.updatedDate = now;
+        QCOMPARE(store->projects().all(), QList<Project>{expected});
+        QStringList titles;
+        for (const TaskItem *task : store->tasksIn(made))
+            titles.append(task->title);
+        QCOMPARE(titles, trip.tasks);
+        QCOMPARE(store->activitiesFor(made).first()->text, u"Created from the Trip planner template"_s);
+
+        store->toggleMilestone(made, id(1002));
+        store->addMilestone(made, u" Home again\n"_s);
+        store->addMilestone(made, u"  "_s);
+        store->removeMilestone(made, id(1001));
+        QCOMPARE(store->projects().first(made)->milestones.size(), 3);
+        QVERIFY(store->projects().first(made)->milestones.first().done);
+        QCOMPARE(store->activities().all().last().text, u"Added milestone “Home again”"_s);
+
+        const Project copy = *store->projects().first(store->makeProjectFrom(made).value());
+        QCOMPARE(copy.name, u"Trip planner copy"_s);
+        QCOMPARE(copy.milestones.size(), 3);
+        QVERIFY(!copy.milestones.first().done);
+        QVERIFY(copy.milestones.first().id != id(1002));
+        QVERIFY(store->tasksIn(copy.id).isEmpty());
+        QVERIFY(!store->makeProjectFrom(id(777)));
+
+        QVERIFY(!store->makeBlankProject(u" \t"_s));
+        const QUuid blank = store->makeBlankProject(u" Bare "_s).value();
+        QCOMPARE(store->projects().first(blank)->name, u"Bare"_s);
+        store->setProjectStatus(blank, ProjectStatus::onHold);
+        store->setProjectStatus(blank, ProjectStatus::onHold);
+        store->setProjectStatus(id(777), ProjectStatus::onHold);
+        store->addProjectTask(blank, u" "_s);
+        QCOMPARE(store->activitiesFor(blank).size(), 3);
+        QCOMPARE(store->activities().all().last().text, u"Status changed to On hold"_s);
+        QVERIFY(store->tasksIn(blank).isEmpty());
+    }
+
     void habitsToggleTheLocalDay()
     {
         const auto store = openSample();
@@ -241,6 +289,9 @@ private slots:
         QVERIFY(store->habits().first(id(11))->completions.contains(u"2026-03-14"_s));
         store->toggleHabit(id(11), m_clock.now() + 4h);
         QCOMPARE(store->habits().first(id(11))->completions, before);
+        QCOMPARE(store->bestHabitStreak(), 0);
+        store->toggleHabit(id(11), m_clock.now());
+        QCOMPARE(store->bestHabitStreak(), 1);
         m_clock.setTimeZone(QTimeZone::utc());
     }
 

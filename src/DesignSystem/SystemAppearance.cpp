@@ -53,6 +53,8 @@ std::optional<bool> SystemAppearance::preference(uint colorScheme)
 void SystemAppearance::askPortal(const QDBusConnection &bus)
 {
     QDBusConnection connection = bus;
+    // The connection finds the slot only once the type of its argument is known by name.
+    qRegisterMetaType<QDBusVariant>();
     connection.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                        SLOT(portalSettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));

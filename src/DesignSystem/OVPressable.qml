@@ -30,6 +30,7 @@ T.AbstractButton {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     opacity: enabled ? 1 : Theme.disabledOpacity
     scale: down ? pressedScale : 1
+    Accessible.name: text
 
     background: HoverWash {
         chosen: root.checked

@@ -8,8 +8,12 @@ Text {
     enum Role { Body, Dense, Caption, Section, CardTitle, ScreenTitle, Tile, Code }
 
     property int role: OVText.Body
-    /// Shows the whole text on hover where it is elided.
-    property bool tooltipWhenElided: true
+    property Item elisionTip: null
+
+    onTruncatedChanged: {
+        if (truncated && elisionTip === null)
+            elisionTip = Qt.createComponent("OVElisionTip.qml").createObject(root, { label: root })
+    }
 
     color: role === OVText.Caption ? Theme.ovInkTertiary
          : role === OVText.Section ? Theme.ovInkSecondary : Theme.ovInk

@@ -6,27 +6,64 @@ TestCase {
     id: test
 
     name: "Text"
+    visible: true
     when: windowShown
     width: 400
     height: 300
 
-    Row {
-        OVText { id: label; text: "Plan the week 🧠" }
+    Column {
+        OVText { id: brief; text: "Plan the week 🧠" }
+        OVText { id: lengthy; text: "A title of many words that never fits"; width: 80 }
         OVIcon { id: icon; symbol: "checkmark.square" }
-        OVIcon { id: unknown; symbol: "no.such.symbol" }
-        OVFocusRing { shown: true }
-        HoverWash { hovered: true }
+        OVAnimatedNumber { id: number; text: "11" }
+        OVAnimatedNumber { id: wide; text: "88" }
+        OVChip { id: chip; text: "A chip with far too many words"; width: 90 }
     }
 
-    function test_tokensAreWholePixels() {
-        compare(Theme.sizeBody, 14)
-        compare(Theme.screenPadding, 32)
-        compare(label.font.pixelSize, Theme.sizeBody)
+    function findToolTip(item) {
+        for (const child of item.elisionTip.children)
+            if (child.sourceComponent !== undefined)
+                return child
+        return null
     }
 
-    function test_iconsAreDrawn() {
+    function test_elidedTextTellsTheWholeOnHover() {
+        compare(brief.elisionTip, null)
+        verify(lengthy.truncated)
+        const tip = findToolTip(lengthy)
+        verify(!tip.shown)
+        mouseMove(lengthy, 10, 5)
+        tryVerify(() => tip.shown)
+        tryVerify(() => tip.item !== null && tip.item.opened)
+        compare(tip.item.text, lengthy.text)
+        mouseMove(test, 390, 290)
+        tryVerify(() => tip.item === null)
+    }
+
+    function test_theHoverOfElidedTextReachesItsControl() {
+        mouseMove(chip, 40, 10)
+        tryVerify(() => chip.hovered)
+        mouseMove(test, 390, 290)
+        tryVerify(() => !chip.hovered)
+    }
+
+    function test_iconsAreDrawnAtTheirSize() {
         compare(icon.status, Image.Ready)
-        compare(icon.paintedWidth, 16)
-        compare(unknown.status, Image.Ready)
+        compare(icon.width, Theme.iconRow)
+        const picture = grabImage(icon)
+        let drawn = false
+        for (let x = 0; x < picture.width && !drawn; ++x)
+            drawn = Qt.colorEqual(picture.pixel(x, picture.height / 2), Theme.ovInkSecondary)
+        verify(drawn)
+        icon.symbol = "no.such.symbol"
+        compare(icon.status, Image.Ready)
+    }
+
+    function test_numbersKeepTheirWidth() {
+        compare(number.implicitWidth, wide.implicitWidth)
+        const before = wide.implicitWidth
+        wide.text = "9:59"
+        verify(wide.implicitWidth > before)
+        compare(wide.Accessible.name, "9:59")
     }
 }

@@ -1,0 +1,97 @@
+import QtQuick
+import QtTest
+import Orvel.DesignSystem
+
+TestCase {
+    id: test
+
+    function ringOf(control) {
+        for (const child of control.children)
+            if (child.targetRadius !== undefined)
+                return child
+        return null
+    }
+
+    name: "Buttons"
+    visible: true
+    when: windowShown
+    width: 600
+    height: 300
+
+    Column {
+        spacing: 8
+
+        OVPrimaryButton { id: primary; text: "Add" }
+        OVSecondaryButton { id: secondary; text: "Cancel" }
+        OVIconButton { id: icon; symbol: "trash"; text: "Delete" }
+        OVChip { id: chip; checkable: true; text: "Open" }
+        OVPressable { id: pressable; text: "Row"; implicitHeight: 30; implicitWidth: 100 }
+    }
+
+    SignalSpy { id: clicks; signalName: "clicked" }
+
+    function buttons() {
+        return [primary, secondary, icon, chip, pressable]
+    }
+
+    function cleanup() {
+        for (const button of buttons())
+            button.enabled = true
+        chip.checked = false
+        test.forceActiveFocus()
+    }
+
+    function test_keysAndPointerActivate() {
+        for (const button of buttons()) {
+            clicks.target = button
+            clicks.clear()
+            button.forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_Space)
+            compare(clicks.count, 1, button.text + " by Space")
+            keyClick(Qt.Key_Return)
+            compare(clicks.count, 2, button.text + " by Return")
+            mouseClick(button)
+            compare(clicks.count, 3, button.text + " by the pointer")
+
+            button.enabled = false
+            mouseClick(button)
+            compare(clicks.count, 3, button.text + " disabled")
+            compare(button.opacity, Theme.disabledOpacity)
+        }
+    }
+
+    function test_returnTogglesAChipOnce() {
+        chip.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Return)
+        verify(chip.checked)
+        keyClick(Qt.Key_Space)
+        verify(!chip.checked)
+    }
+
+    function test_theRingShowsForTheKeyboardOnly() {
+        for (const button of buttons()) {
+            const ring = ringOf(button)
+            verify(ring !== null, button.text)
+            button.forceActiveFocus(Qt.TabFocusReason)
+            verify(ring.visible, button.text)
+            test.forceActiveFocus()
+            mouseClick(button)
+            verify(!ring.visible, button.text)
+        }
+    }
+
+    function test_tabGoesThroughAllOfThem() {
+        primary.forceActiveFocus(Qt.TabFocusReason)
+        for (const next of buttons().slice(1)) {
+            keyClick(Qt.Key_Tab)
+            verify(next.activeFocus, next.text)
+        }
+    }
+
+    function test_everyButtonHasAName() {
+        for (const button of buttons())
+            compare(button.Accessible.name, button.text)
+        compare(icon.Accessible.role, Accessible.Button)
+        compare(icon.toolTip, "Delete")
+    }
+}

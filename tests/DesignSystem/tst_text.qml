@@ -21,9 +21,10 @@ TestCase {
     }
 
     function findToolTip(item) {
-        for (const child of item.elisionTip.children)
-            if (child.sourceComponent !== undefined)
-                return child
+        const children = item.elisionTip.children
+        for (let i = 0; i < children.length; ++i)
+            if (children[i].sourceComponent !== undefined)
+                return children[i]
         return null
     }
 
@@ -60,10 +61,11 @@ TestCase {
     }
 
     function test_numbersKeepTheirWidth() {
+        tryVerify(() => number.implicitWidth > 0)
         compare(number.implicitWidth, wide.implicitWidth)
         const before = wide.implicitWidth
         wide.text = "9:59"
-        verify(wide.implicitWidth > before)
+        tryVerify(() => wide.implicitWidth > before)
         compare(wide.Accessible.name, "9:59")
     }
 }

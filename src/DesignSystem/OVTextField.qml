@@ -75,18 +75,23 @@ T.TextField {
         color: field.activeFocus ? Theme.ovInkSecondary : Theme.ovInkTertiary
     }
 
-    OVIconButton {
+    Loader {
         id: clearButton
         anchors.right: parent.right
         anchors.rightMargin: Theme.space4
         anchors.verticalCenter: parent.verticalCenter
+        active: field.clearable
         visible: field.clearable && field.length > 0 && field.enabled
-        symbol: "xmark"
-        text: qsTr("Clear")
-        focusPolicy: Qt.NoFocus
-        color: Theme.ovInkTertiary
-        iconSize: Theme.iconRow - 2
-        onClicked: field.empty()
+
+        sourceComponent: OVIconButton {
+            symbol: "xmark"
+            text: qsTr("Clear")
+            activeFocusOnTab: false
+            focusPolicy: Qt.NoFocus
+            color: Theme.ovInkTertiary
+            iconSize: Theme.iconRow - 2
+            onClicked: field.empty()
+        }
     }
 
     OVContextMenuArea {

@@ -49,6 +49,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             symbol: "chevron.up"
             text: qsTr("Later")
+            activeFocusOnTab: false
             focusPolicy: Qt.NoFocus
             autoRepeat: true
             onClicked: root.clock.step(root.part, 1)
@@ -79,6 +80,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             symbol: "chevron.down"
             text: qsTr("Earlier")
+            activeFocusOnTab: false
             focusPolicy: Qt.NoFocus
             autoRepeat: true
             onClicked: root.clock.step(root.part, -1)

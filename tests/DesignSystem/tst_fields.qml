@@ -103,6 +103,12 @@ Item {
             compare(search.text, "")
         }
 
+        function test_clearButtonEmptiesTheSearch() {
+            search.text = "tea"
+            mouseClick(search, search.width - 18, search.height / 2)
+            compare(search.text, "")
+        }
+
         function test_areaGrowsThenScrolls() {
             area.text = ""
             const low = area.implicitHeight

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Store/Snapshot.h"
+
+/// Workspaces for measuring, the same at every run. Their texts read like English with a few accents, quotes,
+/// line ends, links and emoji.
+namespace WorkspaceGenerator
+{
+/// A mix of all kinds of records whose file has about this many bytes.
+Snapshot ofFileSize(qsizetype bytes);
+
+/// Nothing but these.
+Snapshot ofTasksAndPages(int tasks, int pages);
+} // namespace WorkspaceGenerator

@@ -4,44 +4,48 @@
 
 namespace
 {
-/// The value of a hexadecimal digit, or -1.
-int hexValue(char c)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    return -1;
-}
+/// The value of each character as a hexadecimal digit; of all others a number above 0xff.
+constexpr auto hexValues = [] {
+    std::array<quint16, 256> values;
+    values.fill(0x100);
+    for (quint16 digit = 0; digit < 16; ++digit) {
+        values[std::size_t("0123456789ABCDEF"[digit])] = digit;
+        values[std::size_t("0123456789abcdef"[digit])] = digit;
+    }
+    return values;
+}();
 
 std::optional<QUuid> parseUuid(std::string_view text)
 {
-    if (text.size() != 36)
+    if (text.size() != 36 || text[8] != '-' || text[13] != '-' || text[18] != '-' || text[23] != '-')
         return std::nullopt;
-    std::array<quint8, 16> bytes{};
-    std::size_t digit = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (i == 8 || i == 13 || i == 18 || i == 23) {
-            if (text[i] != '-')
-                return std::nullopt;
-            continue;
-        }
-        const int value = hexValue(text[i]);
-        if (value < 0)
-            return std::nullopt;
-        bytes[digit / 2] = quint8((bytes[digit / 2] << 4) | value);
-        ++digit;
+    static constexpr std::array<quint8, 16> places{0, 2, 4, 6, 9, 11, 14, 16, 19, 21, 24, 26, 28, 30, 32, 34};
+    std::array<quint8, 16> bytes;
+    unsigned seen = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const unsigned byte =
+            unsigned(hexValues[quint8(text[places[i]])]) << 4 | hexValues[quint8(text[places[i] + 1U])];
+        seen |= byte;
+        bytes[i] = quint8(byte);
     }
+    if (seen > 0xff)
+        return std::nullopt;
     return QUuid::fromRfc4122(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
 }
-
-QString toText(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
 } // namespace
+
+QString SharedTexts::text(std::string_view utf8)
+{
+    const auto convert = [&] { return QString::fromUtf8(utf8.data(), qsizetype(utf8.size())); };
+    if (utf8.size() > longest)
+        return convert();
+    Known &known = m_known[std::hash<std::string_view>()(utf8) % m_known.size()];
+    if (std::string_view(known.utf8.data(), known.size) != utf8) {
+        known.text = convert();
+        known.size = utf8.copy(known.utf8.data(), longest);
+    }
+    return known.text;
+}
 
 bool RecordDecoder::read(Element json, bool &out, const DecodeContext &)
 {
@@ -70,12 +74,12 @@ bool RecordDecoder::read(Element json, double &out, const DecodeContext &)
     return json.get(out) == simdjson::SUCCESS;
 }
 
-bool RecordDecoder::read(Element json, QString &out, const DecodeContext &)
+bool RecordDecoder::read(Element json, QString &out, const DecodeContext &context)
 {
     std::string_view text;
     if (json.get(text) != simdjson::SUCCESS)
         return false;
-    out = toText(text);
+    out = context.texts.text(text);
     return true;
 }
 
@@ -99,7 +103,7 @@ bool RecordDecoder::read(Element json, Timestamp &out, const DecodeContext &)
     return moment.has_value();
 }
 
-bool RecordDecoder::read(Element json, std::set<QString> &out, const DecodeContext &)
+bool RecordDecoder::read(Element json, std::set<QString> &out, const DecodeContext &context)
 {
     simdjson::dom::array array;
     if (json.get(array) != simdjson::SUCCESS)
@@ -109,12 +113,12 @@ bool RecordDecoder::read(Element json, std::set<QString> &out, const DecodeConte
         std::string_view text;
         if (element.get(text) != simdjson::SUCCESS)
             return false;
-        out.insert(toText(text));
+        out.insert(context.texts.text(text));
     }
     return true;
 }
 
-bool RecordDecoder::read(Element json, QMap<QString, QString> &out, const DecodeContext &)
+bool RecordDecoder::read(Element json, QMap<QString, QString> &out, const DecodeContext &context)
 {
     simdjson::dom::object object;
     if (json.get(object) != simdjson::SUCCESS)
@@ -124,7 +128,8 @@ bool RecordDecoder::read(Element json, QMap<QString, QString> &out, const Decode
         std::string_view text;
         if (value.get(text) != simdjson::SUCCESS)
             return false;
-        out.insert(toText(key), toText(text));
+        // Keys written by this program are in order.
+        out.insert(out.cend(), context.texts.text(key), context.texts.text(text));
     }
     return true;
 }

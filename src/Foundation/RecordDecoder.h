@@ -15,10 +15,31 @@
 #include <set>
 #include <simdjson.h>
 
-/// What a fresh record needs when a tolerant one has to be filled up.
+/// Lets equal short texts read one after the other share their contents: keys of table rows, names of
+/// languages, icons and the like come in thousands.
+class SharedTexts
+{
+public:
+    QString text(std::string_view utf8);
+
+private:
+    /// Longer texts are seldom equal. Ids as text have 36 characters.
+    static constexpr std::size_t longest = 36;
+
+    struct Known {
+        std::array<char, longest> utf8;
+        QString text;
+        std::size_t size = longest + 1;
+    };
+    std::array<Known, 256> m_known;
+};
+
+/// What goes along with the reading of one document.
 struct DecodeContext {
+    /// What a fresh record needs when a tolerant one has to be filled up.
     Timestamp now;
     std::function<QUuid()> makeId = &QUuid::createUuid;
+    mutable SharedTexts texts = {};
 };
 
 /// Reads records from parsed JSON by walking their field lists. Every function fills its output and returns
@@ -80,44 +101,20 @@ inline constexpr bool isOptional = false;
 template <typename T>
 inline constexpr bool isOptional<std::optional<T>> = true;
 
-/// The field list turned into tables, so that a key is found by comparing it with the one that should come
-/// next.
+/// The field list as tables, so that a key is found by comparing it with the one that should come next.
 template <FieldListed Record>
 struct FieldTable {
-    struct Entry {
-        std::string_view name;
-        bool mayBeMissing;
-        bool (*read)(Element json, Record &record, const DecodeContext &context);
-    };
-
     static constexpr std::size_t size = std::tuple_size_v<decltype(Record::fields())>;
 
-    template <std::size_t Index>
-    static constexpr Entry entry()
-    {
-        constexpr auto field = std::get<Index>(Record::fields());
-        using Value = typename decltype(field)::Value;
-        return {field.name, isOptional<Value>,
-                [](Element json, Record &record, const DecodeContext &context) {
-                    Value value{};
-                    if (!RecordDecoder::read(json, value, context))
-                        return false;
-                    record.*std::get<Index>(Record::fields()).member = std::move(value);
-                    return true;
-                }};
-    }
-
-    static constexpr std::array<Entry, size> entries =
-        []<std::size_t... Index>(std::index_sequence<Index...>) {
-            return std::array<Entry, size>{entry<Index>()...};
-        }(std::make_index_sequence<size>());
+    static constexpr std::array<std::string_view, size> names =
+        std::apply([](const auto &...field) { return std::array{field.name...}; }, Record::fields());
 
     /// The field with this name, looked for from the expected one on; `size` if there is none.
     static std::size_t find(std::string_view name, std::size_t expected)
     {
         for (std::size_t step = 0; step < size; ++step) {
             const std::size_t index = (expected + step) % size;
-            if (entries[index].name == name)
+            if (names[index] == name)
                 return index;
         }
         return size;
@@ -128,6 +125,17 @@ struct FieldTable {
         std::array<Element, size> elements;
         std::bitset<size> present;
     };
+
+    /// Calls `readField` with each field and its value, or null, until one call returns false; tells whether
+    /// none did.
+    static bool readEach(const Values &values, auto readField)
+    {
+        return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
+            return (readField(std::get<Index>(Record::fields()),
+                              values.present[Index] ? &values.elements[Index] : nullptr) &&
+                    ...);
+        }(std::make_index_sequence<size>());
+    }
 
     /// Nothing if the element is no object.
     static std::optional<Values> collect(Element json)
@@ -149,14 +157,14 @@ struct FieldTable {
     }
 };
 
-/// A fresh record, as the missing fields of a tolerant one are taken from it.
+/// A fresh record, as the missing fields of a tolerant one are taken from it. It has no id yet.
 template <FieldListed Record>
 Record fresh(const DecodeContext &context)
 {
-    if constexpr (requires { Record::fresh(context.now, context.makeId()); })
-        return Record::fresh(context.now, context.makeId());
-    else if constexpr (requires { Record::fresh(context.makeId()); })
-        return Record::fresh(context.makeId());
+    if constexpr (requires { Record::fresh(context.now, QUuid()); })
+        return Record::fresh(context.now, QUuid());
+    else if constexpr (requires { Record::fresh(QUuid()); })
+        return Record::fresh(QUuid());
     else
         return Record();
 }
@@ -168,12 +176,25 @@ bool readTolerant(Element json, Record &out, const DecodeContext &context)
     using Table = FieldTable<Record>;
     out = fresh<Record>(context);
     const auto values = Table::collect(json);
-    if (!values)
-        return false;
-    for (std::size_t i = 0; i < Table::size; ++i)
-        if (values->present[i] && !values->elements[i].is_null())
-            Table::entries[i].read(values->elements[i], out, context);
-    return true;
+    bool hasId = false;
+    const auto readField = [&](const auto &field, const Element *value) {
+        using Value = typename std::decay_t<decltype(field)>::Value;
+        // What can't be read keeps the value of the fresh record.
+        Value read{};
+        if (!value || value->is_null() || !RecordDecoder::read(*value, read, context))
+            return true;
+        out.*field.member = std::move(read);
+        if constexpr (std::is_same_v<Value, QUuid>)
+            hasId |= &(out.*field.member) == &out.id;
+        return true;
+    };
+    if (values)
+        Table::readEach(*values, readField);
+    // Making an id is slow, and nearly every record has one.
+    if constexpr (requires { out.id = context.makeId(); })
+        if (!hasId)
+            out.id = context.makeId();
+    return values.has_value();
 }
 
 template <FieldListed Record>
@@ -183,14 +204,10 @@ bool readStrict(Element json, Record &out, const DecodeContext &context)
     const auto values = Table::collect(json);
     if (!values)
         return false;
-    for (std::size_t i = 0; i < Table::size; ++i) {
-        const auto &entry = Table::entries[i];
-        const bool isFine =
-            values->present[i] ? entry.read(values->elements[i], out, context) : entry.mayBeMissing;
-        if (!isFine)
-            return false;
-    }
-    return true;
+    return Table::readEach(*values, [&](const auto &field, const Element *value) {
+        return value ? RecordDecoder::read(*value, out.*field.member, context)
+                     : isOptional<typename std::decay_t<decltype(field)>::Value>;
+    });
 }
 
 template <FieldListed Record>

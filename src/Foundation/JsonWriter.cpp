@@ -1,6 +1,9 @@
 #include "Foundation/JsonWriter.h"
 
+#include <QtEndian>
+
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -15,33 +18,57 @@ namespace
 constexpr qsizetype longestEscape = 6;
 /// Text is escaped in pieces of this many units, so that the room asked for in advance stays small.
 constexpr qsizetype pieceLength = 4096;
+/// How far `copyPlain` writes beyond what it keeps.
+constexpr qsizetype overwritten = 16;
 
-/// Copies the run of plain characters at the start of the text, one byte each, and returns its length.
+constexpr bool isPlain(char16_t unit)
+{
+    return unit >= 0x20 && unit < 0x80 && unit != '"' && unit != '/' && unit != '\\';
+}
+
+#if defined(__SSE2__)
+/// One bit for each of sixteen bytes that is not a plain character.
+unsigned specials(__m128i bytes)
+{
+    // The comparison is signed, so bytes above 0x7f count as too small, which is right too.
+    const __m128i isSmall = _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20));
+    const __m128i isQuote = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('"'));
+    const __m128i isSlash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/'));
+    const __m128i isBackslash = _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'));
+    return unsigned(
+        _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(isSmall, isQuote), _mm_or_si128(isSlash, isBackslash))));
+}
+
+__m128i loadUnits(const char16_t *from)
+{
+    return _mm_loadu_si128(reinterpret_cast<const __m128i *>(from));
+}
+#endif
+
+/// Copies the run of plain characters at the start of the text, one byte each, and returns its length. Up to
+/// `overwritten` bytes behind the run lose what they held.
 qsizetype copyPlain(const char16_t *from, qsizetype length, char *to)
 {
     qsizetype i = 0;
 #if defined(__SSE2__)
-    for (; i + 8 <= length; i += 8) {
-        const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i *>(from + i));
-        // Signed comparison: units above 0x7fff are negative and so count as too small, which is right too.
-        const __m128i small = _mm_cmplt_epi16(units, _mm_set1_epi16(0x20));
-        const __m128i large = _mm_cmpgt_epi16(units, _mm_set1_epi16(0x7f));
-        const __m128i quote = _mm_cmpeq_epi16(units, _mm_set1_epi16('"'));
-        const __m128i slash = _mm_cmpeq_epi16(units, _mm_set1_epi16('/'));
-        const __m128i backslash = _mm_cmpeq_epi16(units, _mm_set1_epi16('\\'));
-        const __m128i special =
-            _mm_or_si128(_mm_or_si128(small, large), _mm_or_si128(quote, _mm_or_si128(slash, backslash)));
-        if (_mm_movemask_epi8(special) != 0)
-            break;
-        _mm_storel_epi64(reinterpret_cast<__m128i *>(to + i), _mm_packus_epi16(units, units));
+    // Packing turns units above 0xff into 0 or 0xff, none of which is plain.
+    for (; i + 16 <= length; i += 16) {
+        const __m128i bytes = _mm_packus_epi16(loadUnits(from + i), loadUnits(from + i + 8));
+        _mm_storeu_si128(reinterpret_cast<__m128i *>(to + i), bytes);
+        if (const unsigned found = specials(bytes))
+            return i + std::countr_zero(found);
+    }
+    if (i + 8 <= length) {
+        const __m128i units = loadUnits(from + i);
+        const __m128i bytes = _mm_packus_epi16(units, units);
+        _mm_storel_epi64(reinterpret_cast<__m128i *>(to + i), bytes);
+        if (const unsigned found = specials(bytes))
+            return i + std::countr_zero(found);
+        i += 8;
     }
 #endif
-    for (; i < length; ++i) {
-        const char16_t unit = from[i];
-        if (unit < 0x20 || unit > 0x7f || unit == '"' || unit == '/' || unit == '\\')
-            break;
-        to[i] = char(unit);
-    }
+    for (; i < length && isPlain(from[i]); ++i)
+        to[i] = char(from[i]);
     return i;
 }
 
@@ -96,124 +123,115 @@ char *putEscape(char16_t unit, char *to)
 
 JsonWriter::JsonWriter(qsizetype expectedSize)
 {
-    m_bytes.resize(std::max<qsizetype>(expectedSize, 64));
+    grow(std::max<qsizetype>(expectedSize, 64));
 }
 
 void JsonWriter::beginObject()
 {
-    separate();
-    put('{');
-    m_needsComma = false;
+    open('{');
 }
 
 void JsonWriter::endObject()
 {
-    put('}');
-    m_needsComma = true;
+    close('}');
 }
 
 void JsonWriter::beginArray()
 {
-    separate();
-    put('[');
-    m_needsComma = false;
+    open('[');
 }
 
 void JsonWriter::endArray()
 {
-    put(']');
-    m_needsComma = true;
+    close(']');
 }
 
 void JsonWriter::fieldName(std::string_view plainName)
 {
-    char *to = room(qsizetype(plainName.size()) + 4);
-    char *const start = to;
-    if (m_needsComma)
-        *to++ = ',';
+    char *to = startValue(qsizetype(plainName.size()) + 3);
     *to++ = '"';
-    to = std::copy(plainName.begin(), plainName.end(), to);
+    std::memcpy(to, plainName.data(), plainName.size());
+    to += plainName.size();
     *to++ = '"';
     *to++ = ':';
-    m_size += to - start;
+    m_at = to;
     m_needsComma = false;
 }
 
 void JsonWriter::key(QStringView name)
 {
     text(name);
-    put(':');
+    *room(1) = ':';
+    ++m_at;
     m_needsComma = false;
 }
 
 void JsonWriter::text(QStringView value)
 {
-    separate();
-    put('"');
+    char *const to = startValue(1);
+    *to = '"';
+    m_at = to + 1;
     escaped(value);
-    put('"');
-    m_needsComma = true;
+    *room(1) = '"';
+    ++m_at;
 }
 
 void JsonWriter::plainText(std::string_view value)
 {
-    separate();
-    put('"');
-    put(value);
-    put('"');
-    m_needsComma = true;
+    char *to = startValue(qsizetype(value.size()) + 2);
+    *to++ = '"';
+    std::memcpy(to, value.data(), value.size());
+    to += value.size();
+    *to++ = '"';
+    m_at = to;
 }
 
 void JsonWriter::boolean(bool value)
 {
-    separate();
-    put(value ? std::string_view("true") : std::string_view("false"));
-    m_needsComma = true;
+    const std::string_view word = value ? "true" : "false";
+    char *const to = startValue(5);
+    m_at = to + word.copy(to, word.size());
 }
 
 void JsonWriter::integer(qint64 value)
 {
-    separate();
-    char *const to = room(24);
-    m_size += std::to_chars(to, to + 24, value).ptr - to;
-    m_needsComma = true;
+    char *const to = startValue(24);
+    m_at = std::to_chars(to, to + 24, value).ptr;
 }
 
 void JsonWriter::number(double value)
 {
     // Readers take digits without an exponent for an integer, and refuse one that 64 bits can't hold.
     static constexpr double integerLimit = 9223372036854775808.0;
-    separate();
-    char *const to = room(32);
+    char *const to = startValue(32);
     const double finite = std::isfinite(value) ? value : 0.0;
     const bool needsExponent = std::abs(finite) >= integerLimit;
     const auto end = needsExponent ? std::to_chars(to, to + 32, finite, std::chars_format::scientific)
                                    : std::to_chars(to, to + 32, finite);
-    m_size += end.ptr - to;
-    m_needsComma = true;
+    m_at = end.ptr;
 }
 
 void JsonWriter::uuid(const QUuid &value)
 {
     static constexpr char hex[] = "0123456789ABCDEF";
-    std::array<char, 36> text;
-    char *to = text.data();
+    char *to = startValue(38);
     const auto putBytes = [&to](quint64 bits, int bytes) {
         for (int shift = bytes * 8 - 4; shift >= 0; shift -= 4)
             *to++ = hex[(bits >> shift) & 0xf];
     };
+    *to++ = '"';
     putBytes(value.data1, 4);
     *to++ = '-';
     putBytes(value.data2, 2);
     *to++ = '-';
     putBytes(value.data3, 2);
     *to++ = '-';
-    putBytes(value.data4[0], 1);
-    putBytes(value.data4[1], 1);
+    const quint64 rest = qFromBigEndian<quint64>(value.data4);
+    putBytes(rest >> 48, 2);
     *to++ = '-';
-    for (int i = 2; i < 8; ++i)
-        putBytes(value.data4[i], 1);
-    plainText({text.data(), text.size()});
+    putBytes(rest, 6);
+    *to++ = '"';
+    m_at = to;
 }
 
 void JsonWriter::timestamp(Timestamp value)
@@ -224,35 +242,33 @@ void JsonWriter::timestamp(Timestamp value)
 
 QByteArray JsonWriter::take()
 {
-    m_bytes.truncate(m_size);
-    m_size = 0;
+    m_bytes.truncate(used());
+    m_at = m_end = nullptr;
     m_needsComma = false;
     return std::exchange(m_bytes, QByteArray());
 }
 
-void JsonWriter::separate()
+void JsonWriter::grow(qsizetype bytes)
 {
-    if (m_needsComma)
-        put(',');
+    const qsizetype size = used();
+    m_bytes.resize(std::max(m_bytes.size() * 2, size + bytes));
+    m_at = m_bytes.data() + size;
+    m_end = m_bytes.data() + m_bytes.size();
 }
 
-char *JsonWriter::room(qsizetype bytes)
+void JsonWriter::open(char bracket)
 {
-    if (m_size + bytes > m_bytes.size())
-        m_bytes.resize(std::max(m_bytes.size() * 2, m_size + bytes));
-    return m_bytes.data() + m_size;
+    char *const to = startValue(1);
+    *to = bracket;
+    m_at = to + 1;
+    m_needsComma = false;
 }
 
-void JsonWriter::put(char c)
+void JsonWriter::close(char bracket)
 {
-    *room(1) = c;
-    ++m_size;
-}
-
-void JsonWriter::put(std::string_view bytes)
-{
-    std::memcpy(room(qsizetype(bytes.size())), bytes.data(), bytes.size());
-    m_size += qsizetype(bytes.size());
+    *room(1) = bracket;
+    ++m_at;
+    m_needsComma = true;
 }
 
 void JsonWriter::escaped(QStringView value)
@@ -260,8 +276,7 @@ void JsonWriter::escaped(QStringView value)
     const char16_t *from = value.utf16();
     const char16_t *const end = from + value.size();
     while (from < end) {
-        char *to = room((pieceLength + 1) * longestEscape);
-        char *const start = to;
+        char *to = room(std::min<qsizetype>(pieceLength + 1, end - from) * longestEscape + overwritten);
         const char16_t *const pieceEnd = from + std::min<qsizetype>(pieceLength, end - from);
         while (from < pieceEnd) {
             const qsizetype plain = copyPlain(from, pieceEnd - from, to);
@@ -280,6 +295,6 @@ void JsonWriter::escaped(QStringView value)
                 to = putUtf8(QChar::ReplacementCharacter, to);
             }
         }
-        m_size += to - start;
+        m_at = to;
     }
 }

@@ -7,6 +7,7 @@
 #include <QUuid>
 
 #include <string_view>
+#include <utility>
 
 /// Streams compact JSON as UTF-8: no blanks, a slash written as `\/`, upper-case ids, keys in the order in
 /// which they are given. The caller keeps the brackets balanced.
@@ -42,14 +43,30 @@ public:
     QByteArray take();
 
 private:
-    void separate();
+    /// Makes room for a value of at most this many bytes, puts the comma that it may need before it and
+    /// returns where it goes.
+    char *startValue(qsizetype bytes)
+    {
+        char *const to = room(bytes + 1);
+        *to = ',';
+        return to + std::exchange(m_needsComma, true);
+    }
     /// Makes room for this many more bytes and returns where they go.
-    char *room(qsizetype bytes);
-    void put(char c);
-    void put(std::string_view bytes);
+    char *room(qsizetype bytes)
+    {
+        if (m_end - m_at < bytes)
+            grow(bytes);
+        return m_at;
+    }
+    void grow(qsizetype bytes);
+    qsizetype used() const { return m_at ? m_at - m_bytes.constData() : 0; }
+    void open(char bracket);
+    void close(char bracket);
     void escaped(QStringView value);
 
     QByteArray m_bytes;
-    qsizetype m_size = 0;
+    /// Where the next byte goes, and the end of the room there is.
+    char *m_at = nullptr;
+    char *m_end = nullptr;
     bool m_needsComma = false;
 };

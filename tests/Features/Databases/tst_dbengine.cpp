@@ -1,6 +1,6 @@
 #include "Features/Databases/DBEngine.h"
 #include "Features/Databases/DBValue.h"
-#include "Features/Databases/DatabaseTemplates.h"
+#include "Support/DatabaseTemplates.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "Features/Databases/DatabaseTemplates.h"
+#include "Support/DatabaseTemplates.h"
 
 namespace
 {

@@ -59,6 +59,24 @@ public:
         return nullptr;
     }
 
+    /// Changes the row with this id where it stands; the edit keeps its id. Without such a row it does
+    /// nothing.
+    template <typename Edit>
+    void changeRow(const QUuid &id, Edit edit)
+    {
+        const auto found = std::ranges::find(m_rows, id, &Row::id);
+        if (found == m_rows.end())
+            return;
+        Row next = *found;
+        edit(next);
+        const QList<int> roles = changedRoles(*found, next);
+        if (roles.isEmpty())
+            return;
+        const QModelIndex place = index(int(found - m_rows.begin()));
+        *found = std::move(next);
+        emit dataChanged(place, place, roles);
+    }
+
     /// Replaces the rows. Ids have to be unique; of several rows with one id the first is taken.
     void setRows(QList<Row> next)
     {

@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// The first modules as tabs below the detail pane, everything else under "More".
+FocusScope {
+    id: root
+
+    required property NavigationViewModel navigation
+
+    implicitHeight: more.implicitHeight + 2 * Theme.space4
+
+    ShellGround {
+        anchors.fill: parent
+        edge: Qt.TopEdge
+    }
+
+    ShellWorkspaceMenu {
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.space8
+        anchors.verticalCenter: parent.verticalCenter
+        compact: true
+        navigation: root.navigation
+        opensUpwards: true
+    }
+
+    Row {
+        anchors.centerIn: parent
+        spacing: Theme.space8
+
+        TabStrip {
+            height: more.implicitHeight
+            model: root.navigation.inlineTabs
+            spacing: Theme.space8
+
+            delegate: BottomTab {
+                required property string title
+                required property string destination
+
+                activeFocusOnTab: false
+                chosen: destination === root.navigation.selection
+                text: title
+                onClicked: Orvel.ui.select(destination)
+            }
+        }
+
+        BottomTab {
+            id: more
+
+            chosen: root.navigation.isMoreChosen
+            symbol: "ellipsis"
+            text: qsTr("More")
+            Accessible.role: Accessible.ButtonMenu
+            onClicked: menu.visible ? menu.close() : menu.open()
+
+            ShellOverflowMenu {
+                id: menu
+
+                listsModules: true
+                x: Math.round((more.width - width) / 2)
+                y: -height - Theme.space8
+            }
+        }
+    }
+
+    OVIconButton {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space16
+        anchors.verticalCenter: parent.verticalCenter
+        iconSize: Theme.iconHeader
+        symbol: "magnifyingglass"
+        text: qsTr("Search")
+        onClicked: Orvel.ui.isSearchPresented = true
+    }
+
+    component BottomTab: ShellTab {
+        implicitWidth: Math.round(84 * Theme.fontScale)
+        labelled: Theme.tabBarLabels
+        upright: true
+    }
+}

@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// A floating dock of all visible modules below the detail pane, with the workspace menu, search and overflow.
+FocusScope {
+    id: root
+
+    required property NavigationViewModel navigation
+
+    implicitHeight: dock.implicitHeight + Theme.space8 + Theme.space16
+
+    OVGlassCapsule {
+        id: dock
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        implicitHeight: row.implicitHeight + 2 * Theme.space4
+        implicitWidth: row.implicitWidth + 2 * Theme.space8
+        radius: Math.min(height / 2, Theme.cornerSheet + Theme.space4)
+        y: Theme.space8
+
+        OVShadow {
+            radius: dock.radius
+        }
+
+        Row {
+            id: row
+
+            anchors.centerIn: parent
+            spacing: Theme.space4
+
+            ShellWorkspaceMenu {
+                id: workspace
+
+                anchors.verticalCenter: parent.verticalCenter
+                compact: true
+                navigation: root.navigation
+                opensUpwards: true
+            }
+
+            Line { }
+
+            TabStrip {
+                anchors.verticalCenter: parent.verticalCenter
+                clip: interactive
+                height: search.implicitHeight
+                model: root.navigation.tabs
+                width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
+
+                delegate: DockButton {
+                    required property int index
+                    required property string title
+                    required property string destination
+
+                    activeFocusOnTab: false
+                    chosen: destination === root.navigation.selection
+                    text: title
+                    onChosenChanged: if (chosen) ListView.view.reveal(index)
+                    onClicked: Orvel.ui.select(destination)
+                }
+            }
+
+            Line { }
+
+            DockButton {
+                id: search
+
+                symbol: "magnifyingglass"
+                text: qsTr("Search")
+                Accessible.role: Accessible.Button
+                onClicked: Orvel.ui.isSearchPresented = true
+            }
+
+            DockButton {
+                id: more
+
+                symbol: "ellipsis"
+                text: qsTr("More")
+                toolTip: menu.visible ? "" : text
+                Accessible.role: Accessible.ButtonMenu
+                onClicked: menu.visible ? menu.close() : menu.open()
+
+                ShellOverflowMenu {
+                    id: menu
+
+                    x: more.width - width
+                    y: -height - Theme.space12
+                }
+            }
+        }
+    }
+
+    component Line: Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.ovBorder
+        height: Theme.iconTile
+        width: Theme.lineWidth
+    }
+}

@@ -1,0 +1,78 @@
+#include "Features/Shell/NavigationViewModel.h"
+
+#include "Features/Shell/PageActions.h"
+#include "Support/OrvelNavigation.h"
+
+namespace
+{
+QList<ModuleTab> tabsOf(const QList<OrvelModule> &modules)
+{
+    QList<ModuleTab> tabs;
+    for (OrvelModule module : modules)
+        tabs.append({QUuid::createUuidV5(QUuid(), enumRawText(module)), enumLabel(module), enumSymbol(module),
+                     OrvelNavigation::destination(module).text()});
+    return tabs;
+}
+} // namespace
+
+void NavigationViewModel::setStore(WorkspaceStore *store)
+{
+    if (m_store == store)
+        return;
+    m_store = store;
+    connect(store, &WorkspaceStore::settingsChanged, &m_followSettings, &CoalescedCall::request);
+    followSettings();
+    emit storeChanged();
+}
+
+void NavigationViewModel::setUi(UIState *ui)
+{
+    if (m_ui == ui)
+        return;
+    m_ui = ui;
+    connect(ui, &UIState::selectionChanged, this, &NavigationViewModel::followSelection);
+    followSelection();
+    emit uiChanged();
+}
+
+void NavigationViewModel::newPage()
+{
+    PageActions::create(*m_store, *m_ui, PageKind::page);
+}
+
+void NavigationViewModel::newNote()
+{
+    PageActions::create(*m_store, *m_ui, PageKind::note);
+}
+
+void NavigationViewModel::followSettings()
+{
+    const AppSettings &settings = m_store->settings();
+    const QList<OrvelModule> visible = settings.visibleModules();
+    m_tabs.setRows(tabsOf(visible));
+    m_inlineTabs.setRows(tabsOf(OrvelNavigation::splitTabs(visible).inlineModules));
+    const auto before = std::tuple(m_style, m_workspaceName, m_workspaceIcon);
+    m_style = enumRawText(settings.theme.navigation);
+    m_workspaceName = OrvelNavigation::windowTitle(settings);
+    m_workspaceIcon = settings.workspaceIcon;
+    if (before != std::tuple(m_style, m_workspaceName, m_workspaceIcon))
+        emit changed();
+    findMore();
+}
+
+void NavigationViewModel::followSelection()
+{
+    m_selection = m_ui->selection().text();
+    emit selectionChanged();
+    findMore();
+}
+
+void NavigationViewModel::findMore()
+{
+    const auto stands = [this](const QList<ModuleTab> &tabs) {
+        return std::ranges::find(tabs, m_selection, &ModuleTab::destination) != tabs.end();
+    };
+    const bool isMoreChosen = stands(tabList()) && !stands(inlineTabList());
+    if (std::exchange(m_isMoreChosen, isMoreChosen) != isMoreChosen)
+        emit isMoreChosenChanged();
+}

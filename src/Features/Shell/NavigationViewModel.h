@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Features/Shell/KeyText.h"
+#include "Features/Shell/ModuleTab.h"
+#include "Foundation/CoalescedCall.h"
+#include "Foundation/KeyedListModel.h"
+#include "Session/SessionTypes.h"
+
+#include <QtQml/qqmlregistration.h>
+
+/// What stands around the detail pane: the style of navigation, the tabs, and the workspace's name.
+class NavigationViewModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
+    Q_PROPERTY(UIState *ui READ ui WRITE setUi NOTIFY uiChanged REQUIRED FINAL)
+    /// Raw text of the `NavigationStyle`.
+    Q_PROPERTY(QString style READ style NOTIFY changed FINAL)
+    Q_PROPERTY(QString workspaceName READ workspaceName NOTIFY changed FINAL)
+    Q_PROPERTY(QString workspaceIcon READ workspaceIcon NOTIFY changed FINAL)
+    /// `Destination::text()` of what the window shows.
+    Q_PROPERTY(QString selection READ selection NOTIFY selectionChanged FINAL)
+    /// Whether the window shows a module that has no tab of its own in the bottom bar.
+    Q_PROPERTY(bool isMoreChosen READ isMoreChosen NOTIFY isMoreChosenChanged FINAL)
+    /// All visible modules, and those with a tab of their own in the bottom bar.
+    Q_PROPERTY(QAbstractItemModel *tabs READ tabs CONSTANT FINAL)
+    Q_PROPERTY(QAbstractItemModel *inlineTabs READ inlineTabs CONSTANT FINAL)
+    Q_PROPERTY(QString searchKeys READ searchKeys CONSTANT FINAL)
+    Q_PROPERTY(QString newPageKeys READ newPageKeys CONSTANT FINAL)
+    Q_PROPERTY(QString newNoteKeys READ newNoteKeys CONSTANT FINAL)
+    Q_PROPERTY(QString shortcutsKeys READ shortcutsKeys CONSTANT FINAL)
+    Q_PROPERTY(QString settingsKeys READ settingsKeys CONSTANT FINAL)
+
+public:
+    explicit NavigationViewModel(QObject *parent = nullptr) : QObject(parent) {}
+
+    WorkspaceStore *store() const { return m_store; }
+    void setStore(WorkspaceStore *store);
+    UIState *ui() const { return m_ui; }
+    void setUi(UIState *ui);
+
+    QString style() const { return m_style; }
+    QString workspaceName() const { return m_workspaceName; }
+    QString workspaceIcon() const { return m_workspaceIcon; }
+    QString selection() const { return m_selection; }
+    bool isMoreChosen() const { return m_isMoreChosen; }
+    QAbstractItemModel *tabs() { return &m_tabs; }
+    QAbstractItemModel *inlineTabs() { return &m_inlineTabs; }
+    const QList<ModuleTab> &tabList() const { return m_tabs.rows(); }
+    const QList<ModuleTab> &inlineTabList() const { return m_inlineTabs.rows(); }
+
+    QString searchKeys() const { return KeyText::search(); }
+    QString newPageKeys() const { return KeyText::newPage(); }
+    QString newNoteKeys() const { return KeyText::newNote(); }
+    QString shortcutsKeys() const { return KeyText::shortcuts(); }
+    QString settingsKeys() const { return KeyText::settings(); }
+
+    Q_INVOKABLE void newPage();
+    Q_INVOKABLE void newNote();
+
+signals:
+    void storeChanged();
+    void uiChanged();
+    void changed();
+    void selectionChanged();
+    void isMoreChosenChanged();
+
+private:
+    void followSettings();
+    void followSelection();
+    void findMore();
+
+    WorkspaceStore *m_store = nullptr;
+    UIState *m_ui = nullptr;
+    QString m_style;
+    QString m_workspaceName;
+    QString m_workspaceIcon;
+    QString m_selection;
+    bool m_isMoreChosen = false;
+    KeyedListModel<ModuleTab> m_tabs;
+    KeyedListModel<ModuleTab> m_inlineTabs;
+    CoalescedCall m_followSettings{[this] { followSettings(); }};
+};

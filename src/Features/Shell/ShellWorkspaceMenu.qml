@@ -1,0 +1,102 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// The workspace's icon and name, and behind them what concerns it as a whole.
+OVPressable {
+    id: root
+
+    required property NavigationViewModel navigation
+    /// Only the icon, for bars that have little room.
+    property bool compact: false
+    /// Whether the menu opens above the button.
+    property bool opensUpwards: false
+
+    implicitHeight: tile.implicitHeight + 2 * Theme.space8
+    implicitWidth: compact ? tile.implicitWidth + 2 * Theme.space8
+                           : label.x + label.implicitWidth + Theme.space4 + caret.width + leftPadding + rightPadding
+    leftPadding: Theme.space8
+    pressedScale: 1
+    rightPadding: Theme.space8
+    text: navigation.workspaceName
+    toolTip: compact ? text : ""
+    Accessible.name: qsTr("Workspace menu, %1").arg(text)
+    Accessible.role: Accessible.ButtonMenu
+    onClicked: {
+        menu.active = true
+        menu.item.popup(root, 0, opensUpwards ? -menu.item.implicitHeight - Theme.space4 : height + Theme.space4)
+    }
+
+    contentItem: Item {
+        WorkspaceTile {
+            id: tile
+
+            anchors.verticalCenter: parent.verticalCenter
+            emoji: root.navigation.workspaceIcon
+        }
+
+        OVText {
+            id: label
+
+            anchors.verticalCenter: parent.verticalCenter
+            font.weight: Font.DemiBold
+            maximumLineCount: 1
+            text: root.text
+            visible: !root.compact
+            width: Math.min(implicitWidth, parent.width - x - caret.width - Theme.space4)
+            x: tile.width + Theme.space8 + 2
+            Accessible.ignored: true
+        }
+
+        OVIcon {
+            id: caret
+
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInkTertiary
+            size: Theme.iconRow - 4
+            symbol: "chevron.down"
+            visible: !root.compact
+            x: label.x + label.width + Theme.space4
+        }
+    }
+
+    Loader {
+        id: menu
+
+        active: false
+
+        sourceComponent: OVMenu {
+            OVMenuItem {
+                shortcutText: root.navigation.newPageKeys
+                symbol: "doc.badge.plus"
+                text: qsTr("New page")
+                onTriggered: root.navigation.newPage()
+            }
+
+            OVMenuItem {
+                shortcutText: root.navigation.newNoteKeys
+                symbol: "note.text.badge.plus"
+                text: qsTr("New note")
+                onTriggered: root.navigation.newNote()
+            }
+
+            OVMenuSeparator { }
+
+            OVMenuItem {
+                shortcutText: root.navigation.settingsKeys
+                symbol: "gearshape"
+                text: qsTr("Workspace settings")
+                onTriggered: Orvel.ui.select("settings")
+            }
+
+            OVMenuItem {
+                shortcutText: root.navigation.shortcutsKeys
+                symbol: "keyboard"
+                text: qsTr("Keyboard shortcuts")
+                onTriggered: Orvel.ui.isShortcutsPresented = true
+            }
+        }
+    }
+}

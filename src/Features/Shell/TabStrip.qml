@@ -1,0 +1,53 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// A row of tabs that scrolls where it needs more room. Tab reaches it as a whole; within it the arrows go from tab
+/// to tab.
+ListView {
+    id: root
+
+    function goTo(tab: int) {
+        if (tab < 0 || tab >= count)
+            return
+        currentIndex = tab
+        positionViewAtIndex(tab, ListView.Contain)
+        currentItem?.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    /// Keeps the chosen tab in sight.
+    function reveal(tab: int) {
+        currentIndex = tab
+        positionViewAtIndex(tab, ListView.Contain)
+    }
+
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    // All of the few modules are made, so that the chosen one can be shown.
+    cacheBuffer: 4000
+    currentIndex: -1
+    highlightFollowsCurrentItem: false
+    implicitHeight: currentItem?.implicitHeight ?? contentItem.childrenRect.height
+    implicitWidth: contentWidth
+    interactive: contentWidth > width
+    keyNavigationEnabled: false
+    orientation: ListView.Horizontal
+    spacing: Theme.space4
+    Accessible.name: qsTr("Modules")
+    Accessible.role: Accessible.PageTabList
+    onActiveFocusChanged: {
+        if (activeFocus && currentIndex < 0)
+            goTo(0)
+    }
+
+    Keys.onLeftPressed: goTo(currentIndex - 1)
+    Keys.onRightPressed: goTo(currentIndex + 1)
+
+    // The wheel of a mouse turns the strip too.
+    WheelHandler {
+        acceptedDevices: PointerDevice.Mouse
+        onWheel: event => {
+            const end = Math.max(0, root.contentWidth - root.width)
+            root.contentX = Math.max(0, Math.min(end, root.contentX - event.angleDelta.y / 2))
+        }
+    }
+}

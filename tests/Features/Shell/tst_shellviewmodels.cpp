@@ -1,0 +1,225 @@
+#include "Features/Shell/DetailViewModel.h"
+#include "Features/Shell/NavigationViewModel.h"
+#include "Features/Shell/OverflowMenuViewModel.h"
+#include "Features/Shell/ScreenTable.h"
+#include "Harness/TestWorkspace.h"
+
+#include <QFile>
+#include <QtTest>
+
+/// What stands around the detail pane, and what it shows.
+class ShellViewModelsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void givesTabsToTheFirstModules_data();
+    void givesTabsToTheFirstModules();
+    void namesTheWorkspace();
+    void opensNewPagesAndNotes();
+    void overflowListsModulesFavouritesAndPages();
+    void overflowOpensPlacesOnly();
+    void routesToScreens();
+    void tellsWhatIsMissing();
+    void themeRebuildsAllButTheSettings();
+    void everyScreenOfTheTableExists();
+
+private:
+    void show(int modules);
+
+    std::unique_ptr<TestWorkspace> m_workspace;
+};
+
+void ShellViewModelsTest::init()
+{
+    m_workspace = std::make_unique<TestWorkspace>();
+    m_workspace->reset();
+}
+
+/// Hides all modules but the first ones.
+void ShellViewModelsTest::show(int modules)
+{
+    m_workspace->store().changeSettings([modules](AppSettings &settings) {
+        for (const EnumCase<OrvelModule> &module : enumCases<OrvelModule>())
+            settings.setModule(module.value, int(module.value) < modules);
+    });
+    QCoreApplication::processEvents();
+}
+
+void ShellViewModelsTest::givesTabsToTheFirstModules_data()
+{
+    QTest::addColumn<int>("modules");
+    QTest::addColumn<int>("inlineTabs");
+    QTest::addColumn<QStringList>("overflow");
+    QTest::newRow("none") << 0 << 0 << QStringList();
+    QTest::newRow("three") << 3 << 3 << QStringList();
+    QTest::newRow("four") << 4 << 4 << QStringList();
+    QTest::newRow("five") << 5 << 4 << QStringList{"Calendar"};
+    QTest::newRow("six") << 6 << 4 << QStringList{"Calendar", "Projects"};
+}
+
+void ShellViewModelsTest::givesTabsToTheFirstModules()
+{
+    QFETCH(int, modules);
+    QFETCH(int, inlineTabs);
+    QFETCH(QStringList, overflow);
+    m_workspace->addPage(QStringLiteral("Plan"));
+    NavigationViewModel navigation;
+    navigation.setStore(&m_workspace->store());
+    navigation.setUi(&m_workspace->ui());
+    OverflowMenuViewModel menu;
+    menu.setStore(&m_workspace->store());
+    menu.setListsModules(true);
+    menu.setShown(true);
+    show(modules);
+    QCOMPARE(navigation.tabList().size(), modules);
+    QCOMPARE(navigation.inlineTabList(), navigation.tabList().first(inlineTabs));
+    QStringList listed;
+    for (const OverflowRow &row : menu.rowList())
+        listed.append(row.title);
+    QCOMPARE(listed, overflow + QStringList({"Pages", "Plan"}));
+
+    m_workspace->ui().select(QStringLiteral("calendar"));
+    QCOMPARE(navigation.isMoreChosen(), modules > 4);
+    m_workspace->ui().select(QStringLiteral("settings"));
+    QVERIFY(!navigation.isMoreChosen());
+}
+
+void ShellViewModelsTest::namesTheWorkspace()
+{
+    NavigationViewModel navigation;
+    navigation.setStore(&m_workspace->store());
+    QCOMPARE(navigation.workspaceName(), QStringLiteral("My Workspace"));
+    m_workspace->setWorkspaceName(QStringLiteral(" \n"));
+    m_workspace->setNavigation(QStringLiteral("glassDock"));
+    QCoreApplication::processEvents();
+    QCOMPARE(navigation.workspaceName(), QStringLiteral("Orvel"));
+    QCOMPARE(navigation.style(), QStringLiteral("glassDock"));
+}
+
+void ShellViewModelsTest::opensNewPagesAndNotes()
+{
+    NavigationViewModel navigation;
+    navigation.setStore(&m_workspace->store());
+    navigation.setUi(&m_workspace->ui());
+    navigation.newNote();
+    QCOMPARE(m_workspace->store().pages().all().first().kind, PageKind::note);
+    navigation.newPage();
+    const Page page = m_workspace->store().pages().all().last();
+    QCOMPARE(page.kind, PageKind::page);
+    QCOMPARE(navigation.selection(), Destination::page(page.id).text());
+}
+
+void ShellViewModelsTest::overflowListsModulesFavouritesAndPages()
+{
+    OverflowMenuViewModel menu;
+    menu.setStore(&m_workspace->store());
+    menu.setShown(true);
+    QCOMPARE(menu.rowList().size(), 1);
+    m_workspace->addPage(QStringLiteral("Plan"), true);
+    m_workspace->addPage(QStringLiteral("Inside"), false, m_workspace->addFolder(QStringLiteral("Travel")));
+    QCoreApplication::processEvents();
+    QStringList listed;
+    for (const OverflowRow &row : menu.rowList())
+        listed.append(row.title);
+    QCOMPARE(listed, QStringList({"Favourites", "Plan", "Pages", "Plan"}));
+}
+
+void ShellViewModelsTest::overflowOpensPlacesOnly()
+{
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan"), true));
+    OverflowMenuViewModel menu;
+    menu.setStore(&m_workspace->store());
+    menu.setProperty("ui", QVariant::fromValue(&m_workspace->ui()));
+    menu.setShown(true);
+    QVERIFY(!menu.activate(0));
+    QCOMPARE(m_workspace->ui().selection(), Destination());
+    QCOMPARE(menu.neighbour(-1, 1), 1);
+    QCOMPARE(menu.neighbour(1, 1), 3);
+    QCOMPARE(menu.neighbour(3, 1), 3);
+    QVERIFY(menu.activate(1));
+    QCOMPARE(m_workspace->ui().selection(), Destination::page(page));
+}
+
+void ShellViewModelsTest::routesToScreens()
+{
+    DetailViewModel detail;
+    detail.setStore(&m_workspace->store());
+    detail.setUi(&m_workspace->ui());
+    QCoreApplication::processEvents();
+    // A hidden module is shown all the same.
+    show(0);
+    m_workspace->ui().select(QStringLiteral("relax"));
+    QCoreApplication::processEvents();
+    QCOMPARE(detail.properties().value(QStringLiteral("title")).toString(), QStringLiteral("Relax"));
+    QCOMPARE(detail.properties().value(QStringLiteral("blurb")).toString(),
+             QStringLiteral("Loops of calm to help you unwind."));
+    m_workspace->ui().select(QStringLiteral("tasks"));
+    QCoreApplication::processEvents();
+    QCOMPARE(detail.source(), ScreenTable::url("Orvel/Tasks/TasksView.qml"));
+    QVERIFY(detail.properties().isEmpty());
+}
+
+void ShellViewModelsTest::tellsWhatIsMissing()
+{
+    DetailViewModel detail;
+    detail.setStore(&m_workspace->store());
+    detail.setUi(&m_workspace->ui());
+    const auto shown = [&detail](const char *property) {
+        QCoreApplication::processEvents();
+        return detail.properties().value(QString::fromLatin1(property)).toString();
+    };
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
+    m_workspace->ui().selectPage(page);
+    QCOMPARE(shown("title"), QStringLiteral("Plan"));
+    m_workspace->store().erase<Page>(page);
+    QCOMPARE(shown("symbol"), QStringLiteral("doc.questionmark"));
+    QCOMPARE(shown("title"), QStringLiteral("Page not found"));
+    QCOMPARE(shown("message"), QStringLiteral("It may have been deleted."));
+    QCOMPARE(shown("actionTitle"), QStringLiteral("Back to dashboard"));
+    QCOMPARE(shown("destination"), QStringLiteral("dashboard"));
+    m_workspace->ui().selectProject(QUuid::createUuid());
+    QCOMPARE(shown("symbol"), QStringLiteral("target"));
+    QCOMPARE(shown("title"), QStringLiteral("Project not found"));
+    QCOMPARE(shown("actionTitle"), QStringLiteral("Back to projects"));
+    QCOMPARE(shown("destination"), QStringLiteral("projects"));
+}
+
+void ShellViewModelsTest::themeRebuildsAllButTheSettings()
+{
+    DetailViewModel detail;
+    detail.setStore(&m_workspace->store());
+    detail.setUi(&m_workspace->ui());
+    QSignalSpy rebuilt(&detail, &DetailViewModel::screenChanged);
+    m_workspace->ui().select(QStringLiteral("tasks"));
+    detail.setThemeRevision(3);
+    QCoreApplication::processEvents();
+    QCOMPARE(rebuilt.count(), 1);
+    QCOMPARE(detail.identity(), QStringLiteral("theme-3"));
+    detail.setThemeRevision(4);
+    QCoreApplication::processEvents();
+    QCOMPARE(rebuilt.count(), 2);
+    m_workspace->ui().select(QStringLiteral("settings"));
+    QCoreApplication::processEvents();
+    QCOMPARE(detail.identity(), QStringLiteral("settings"));
+    QCOMPARE(rebuilt.count(), 3);
+    detail.setThemeRevision(5);
+    QCoreApplication::processEvents();
+    QCOMPARE(rebuilt.count(), 3);
+    m_workspace->ui().select(QStringLiteral("tasks"));
+    QCoreApplication::processEvents();
+    QCOMPARE(detail.identity(), QStringLiteral("theme-5"));
+}
+
+void ShellViewModelsTest::everyScreenOfTheTableExists()
+{
+    for (const ScreenTable::Screen &screen : ScreenTable::screens)
+        QVERIFY2(QFile::exists(QStringLiteral(":") + ScreenTable::url(screen.file).path()),
+                 screen.file.data());
+    for (const char *own : {"Orvel/Shell/MissingRecord.qml", "Orvel/Shell/ModulePlaceholder.qml"})
+        QVERIFY2(QFile::exists(QStringLiteral(":") + ScreenTable::url(own).path()), own);
+}
+
+QTEST_MAIN(ShellViewModelsTest)
+#include "tst_shellviewmodels.moc"

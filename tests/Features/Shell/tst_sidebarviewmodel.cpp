@@ -1,0 +1,293 @@
+#include "Features/Shell/PageMenuViewModel.h"
+#include "Features/Shell/SidebarViewModel.h"
+#include "Harness/TestWorkspace.h"
+
+#include <QAbstractItemModelTester>
+#include <QtTest>
+
+class SidebarViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void laysOutTheWholeColumn();
+    void showsAGroupOnlyWithItsModules();
+    void foldsSectionsAndFolders();
+    void walksWithTheKeyboard();
+    void showsWhatChangesOnAPage();
+    void typingElsewhereChangesNoRow();
+    void countsOpenTasks();
+    void makesFoldersFromTrimmedNames();
+    void renamesFolders();
+    void deletesPagesAndFolders();
+    void offersWhatCanBeDoneWithAPage();
+    void followsNothingWhileHidden();
+
+private:
+    QStringList shown();
+    int rowOf(const QString &title);
+    void fold(const QString &title);
+
+    std::unique_ptr<TestWorkspace> m_workspace;
+    std::unique_ptr<SidebarViewModel> m_sidebar;
+};
+
+void SidebarViewModelTest::init()
+{
+    m_sidebar.reset();
+    m_workspace = std::make_unique<TestWorkspace>();
+    m_workspace->reset();
+    for (const EnumCase<OrvelModule> &module : enumCases<OrvelModule>())
+        if (module.value != OrvelModule::dashboard && module.value != OrvelModule::tasks)
+            m_workspace->hideModule(enumRawText(module.value));
+    m_sidebar = std::make_unique<SidebarViewModel>();
+    m_sidebar->setStore(&m_workspace->store());
+    m_sidebar->setUi(&m_workspace->ui());
+    new QAbstractItemModelTester(m_sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest,
+                                 m_sidebar.get());
+}
+
+/// The rows below the quick actions, each with what it would show.
+QStringList SidebarViewModelTest::shown()
+{
+    QCoreApplication::processEvents();
+    QStringList all;
+    for (const SidebarRow &row : m_sidebar->rowList().sliced(2)) {
+        QString text = QString(row.depth * 2, u' ') + row.title;
+        if (!row.detail.isEmpty())
+            text += u'|' + row.detail;
+        if (row.isCollapsed)
+            text += QStringLiteral(" +");
+        if (row.isEditing)
+            text += QStringLiteral(" ...");
+        all.append(text);
+    }
+    return all;
+}
+
+int SidebarViewModelTest::rowOf(const QString &title)
+{
+    QCoreApplication::processEvents();
+    const auto &rows = m_sidebar->rowList();
+    return int(std::ranges::find(rows, title, &SidebarRow::title) - rows.begin());
+}
+
+void SidebarViewModelTest::fold(const QString &title)
+{
+    m_sidebar->activate(rowOf(title));
+}
+
+void SidebarViewModelTest::laysOutTheWholeColumn()
+{
+    const QStringList empty{
+        "Dashboard", "Workspaces", "Tasks", "Pages", "No pages yet. Create your first one.", "New folder"};
+    QCOMPARE(shown(), empty);
+    QCOMPARE(m_sidebar->rowList().at(0).detail, QStringLiteral("Ctrl K"));
+
+    const QString later = m_workspace->addFolder(QStringLiteral("Travel"));
+    m_workspace->addPage(QStringLiteral("Loose"));
+    m_workspace->addPage(QStringLiteral("Pinned"), true, later);
+    m_workspace->store().change<Page>(m_workspace->store().newPage(PageKind::note), [](Page &note) {
+        note.title = QStringLiteral("Note");
+        note.isFavorite = true;
+        note.sortOrder = 0;
+    });
+    m_workspace->addPage(QStringLiteral("Lost"), false, QUuid::createUuid().toString());
+    const QStringList full{"Dashboard", "Workspaces", "Tasks",  "Favorites", "Note",      "Pinned",
+                           "Pages",     "Loose",      "Travel", "  Pinned",  "New folder"};
+    QCOMPARE(shown(), full);
+}
+
+void SidebarViewModelTest::showsAGroupOnlyWithItsModules()
+{
+    m_workspace->hideModule(QStringLiteral("tasks"));
+    QVERIFY(!shown().contains(QStringLiteral("Workspaces")));
+    m_workspace->hideModule(QStringLiteral("dashboard"));
+    QCOMPARE(shown().first(), QStringLiteral("Pages"));
+}
+
+void SidebarViewModelTest::foldsSectionsAndFolders()
+{
+    const QString folder = m_workspace->addFolder(QStringLiteral("Travel"));
+    m_workspace->addPage(QStringLiteral("Loose"), true);
+    m_workspace->addPage(QStringLiteral("Inside"), false, folder);
+    for (const char *title : {"Favorites", "Pages", "Travel"})
+        fold(QString::fromLatin1(title));
+    QCOMPARE(shown().sliced(3), (QStringList{"Favorites +", "Pages +", "Travel +", "New folder"}));
+    fold(QStringLiteral("Travel"));
+    QVERIFY(shown().contains(QStringLiteral("  Inside")));
+}
+
+void SidebarViewModelTest::walksWithTheKeyboard()
+{
+    const QString folder = m_workspace->addFolder(QStringLiteral("Travel"));
+    m_workspace->addPage(QStringLiteral("Inside"), false, folder);
+    const int dashboard = rowOf(QStringLiteral("Dashboard"));
+    const int tasks = rowOf(QStringLiteral("Tasks"));
+    QCOMPARE(tasks, dashboard + 2);
+    QCOMPARE(m_sidebar->neighbour(dashboard, 1), tasks);
+    QCOMPARE(m_sidebar->neighbour(tasks, -1), dashboard);
+    QCOMPARE(m_sidebar->neighbour(0, -1), 0);
+    QCOMPARE(m_sidebar->selectedRow(), dashboard);
+
+    const int travel = rowOf(QStringLiteral("Travel"));
+    QCOMPARE(m_sidebar->moveIn(travel), travel + 1);
+    QCOMPARE(m_sidebar->moveOut(travel + 1), travel);
+    QCOMPARE(m_sidebar->moveOut(travel), travel);
+    QVERIFY(shown().contains(QStringLiteral("Travel +")));
+    QCOMPARE(m_sidebar->moveIn(travel), travel);
+    QVERIFY(shown().contains(QStringLiteral("Travel")));
+    QCOMPARE(m_sidebar->moveOut(tasks), tasks);
+    QCOMPARE(m_sidebar->moveIn(rowOf(QStringLiteral("Pages"))), rowOf(QStringLiteral("Pages")));
+}
+
+void SidebarViewModelTest::showsWhatChangesOnAPage()
+{
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan"), true));
+    QCOMPARE(shown().count(QStringLiteral("Plan")), 2);
+    m_workspace->store().change<Page>(page, [](Page &changed) { changed.title = QStringLiteral("Plans"); });
+    QCOMPARE(shown().count(QStringLiteral("Plans")), 2);
+    m_workspace->store().change<Page>(page, [](Page &changed) { changed.title.clear(); });
+    QCOMPARE(shown().count(QStringLiteral("Untitled")), 2);
+    m_workspace->store().change<Page>(page, [](Page &changed) {
+        changed.title = QStringLiteral("Plan");
+        changed.icon = QStringLiteral("🌱");
+        changed.isFavorite = false;
+    });
+    QCOMPARE(shown().count(QStringLiteral("Plan")), 1);
+    QCOMPARE(m_sidebar->rowList().at(rowOf(QStringLiteral("Plan"))).emoji, QStringLiteral("🌱"));
+}
+
+void SidebarViewModelTest::typingElsewhereChangesNoRow()
+{
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan"), true));
+    const QUuid task(m_workspace->addTask(QStringLiteral("Write")));
+    shown();
+    QSignalSpy changed(m_sidebar->rows(), &QAbstractItemModel::dataChanged);
+    QSignalSpy laidOut(m_sidebar->rows(), &QAbstractItemModel::rowsInserted);
+    m_workspace->advanceHours(1);
+    m_workspace->store().change<Page>(page, [](Page &typed) {
+        typed.content[0].text = QStringLiteral("One more word");
+        typed.updatedDate += std::chrono::seconds(1);
+    });
+    m_workspace->store().renameTask(task, QStringLiteral("Write it"));
+    shown();
+    QVERIFY(changed.isEmpty() && laidOut.isEmpty());
+}
+
+void SidebarViewModelTest::countsOpenTasks()
+{
+    const QUuid task(m_workspace->addTask(QStringLiteral("Write")));
+    m_workspace->addTask(QStringLiteral("Read"), QStringLiteral("inProgress"));
+    m_workspace->addTask(QStringLiteral("Rest"), QStringLiteral("done"));
+    QVERIFY(shown().contains(QStringLiteral("Tasks|2")));
+    m_workspace->store().toggleTaskDone(task);
+    QVERIFY(shown().contains(QStringLiteral("Tasks|1")));
+}
+
+void SidebarViewModelTest::makesFoldersFromTrimmedNames()
+{
+    m_sidebar->activate(rowOf(QStringLiteral("New folder")));
+    QCOMPARE(shown().last(), QStringLiteral("New folder ..."));
+    m_sidebar->setFolderName(QStringLiteral("  \n"));
+    m_sidebar->commitFolder();
+    QCOMPARE(shown().last(), QStringLiteral("New folder"));
+    QVERIFY(m_workspace->store().folders().isEmpty());
+
+    m_sidebar->beginFolder();
+    m_sidebar->setFolderName(QStringLiteral(" Travel "));
+    m_sidebar->commitFolder();
+    QCOMPARE(m_workspace->store().folders().all().first().name, QStringLiteral("Travel"));
+    QCOMPARE(m_workspace->store().folders().all().first().icon, QStringLiteral("📁"));
+    QVERIFY(m_sidebar->folderName().isEmpty());
+    // The field may commit once more while it goes.
+    m_sidebar->commitFolder();
+    QCOMPARE(m_workspace->store().folders().size(), 1);
+}
+
+void SidebarViewModelTest::renamesFolders()
+{
+    m_workspace->addFolder(QStringLiteral("Travel"));
+    m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
+    QVERIFY(shown().contains(QStringLiteral("Travel ...")));
+    QCOMPARE(m_sidebar->renameText(), QStringLiteral("Travel"));
+    m_sidebar->setRenameText(QStringLiteral("   "));
+    m_sidebar->commitRename();
+    QVERIFY(shown().contains(QStringLiteral("Travel")));
+    m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
+    m_sidebar->setRenameText(QStringLiteral(" Journeys "));
+    m_sidebar->commitRename();
+    m_sidebar->setRenameText(QStringLiteral("Late"));
+    m_sidebar->commitRename();
+    QVERIFY(shown().contains(QStringLiteral("Journeys")));
+    m_sidebar->beginRename(rowOf(QStringLiteral("Tasks")));
+    QVERIFY(!shown().join(QString()).contains(QStringLiteral("...")));
+}
+
+void SidebarViewModelTest::deletesPagesAndFolders()
+{
+    const QString folder = m_workspace->addFolder(QStringLiteral("Travel"));
+    const QUuid inside(m_workspace->addPage(QStringLiteral("Inside"), false, folder));
+    const QUuid other(m_workspace->addPage(QStringLiteral("Other")));
+    m_workspace->ui().selectPage(inside);
+    m_sidebar->remove(rowOf(QStringLiteral("Other")));
+    QCOMPARE(m_workspace->ui().selection(), Destination::page(inside));
+    QVERIFY(!m_workspace->store().pages().first(other));
+
+    m_sidebar->remove(rowOf(QStringLiteral("Travel")));
+    QVERIFY(m_workspace->store().folders().isEmpty());
+    QVERIFY(shown().contains(QStringLiteral("Inside")));
+
+    // Whoever hears of the deletion already finds the window elsewhere.
+    QObject::connect(&m_workspace->store(), &WorkspaceStore::pagesChanged, this,
+                     [this] { QCOMPARE(m_workspace->ui().selection(), Destination()); });
+    m_sidebar->remove(rowOf(QStringLiteral("Inside")));
+    QVERIFY(m_workspace->store().pages().isEmpty());
+    m_sidebar->remove(rowOf(QStringLiteral("Tasks")));
+    m_sidebar->remove(-1);
+}
+
+void SidebarViewModelTest::offersWhatCanBeDoneWithAPage()
+{
+    WorkspaceStore &store = m_workspace->store();
+    const QUuid folder(m_workspace->addFolder(QStringLiteral("Travel")));
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
+    PageMenuViewModel menu;
+    menu.setProperty("store", QVariant::fromValue(&store));
+    menu.setProperty("ui", QVariant::fromValue(&m_workspace->ui()));
+    menu.open(page);
+    QCOMPARE(menu.favoriteTitle(), QStringLiteral("Add to favorites"));
+    const QList<FolderChoice> loose{{{}, "No folder", true}, {folder, "Travel", false}};
+    QCOMPARE(menu.folderList(), loose);
+    menu.toggleFavorite();
+    menu.moveTo(folder);
+    menu.open(page);
+    QCOMPARE(menu.favoriteTitle(), QStringLiteral("Remove from favorites"));
+    QVERIFY(menu.folderList().at(1).isCurrent);
+    menu.moveTo({});
+    QCOMPARE(store.loosePages().size(), 1);
+    menu.duplicate();
+    QCOMPARE(store.pages().all().last().title, QStringLiteral("Plan copy"));
+    m_workspace->ui().selectPage(page);
+    menu.remove();
+    QCOMPARE(m_workspace->ui().selection(), Destination());
+    QVERIFY(!store.pages().first(page));
+}
+
+void SidebarViewModelTest::followsNothingWhileHidden()
+{
+    const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
+    shown();
+    m_sidebar->setShown(false);
+    m_workspace->store().change<Page>(page, [](Page &changed) { changed.title = QStringLiteral("Plans"); });
+    m_workspace->addTask(QStringLiteral("Write"));
+    const QStringList before = shown();
+    QVERIFY(before.contains(QStringLiteral("Plan")) && before.contains(QStringLiteral("Tasks")));
+    m_sidebar->setShown(true);
+    const QStringList after = shown();
+    QVERIFY(after.contains(QStringLiteral("Plans")) && after.contains(QStringLiteral("Tasks|1")));
+}
+
+QTEST_MAIN(SidebarViewModelTest)
+#include "tst_sidebarviewmodel.moc"

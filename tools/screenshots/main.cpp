@@ -1,11 +1,14 @@
 // Draws pages of the program into pictures, in every look.
-// usage: orvel-screenshots FOLDER [--size=WIDTHxHEIGHT]
+// usage: orvel-screenshots FOLDER [BEGINNING OF A NAME]...
 
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
+#include "SampleWorkspace.h"
+#include "ScratchWorkspace.h"
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
 #include <QTextStream>
@@ -13,35 +16,127 @@
 
 #include <functional>
 
-namespace {
+namespace
+{
+using Look = std::function<void(AppSettings &)>;
+using Content = std::function<void(WorkspaceStore &, UIState &)>;
 
-struct Look {
+/// One picture: a page of QML, what lies in the workspace, and how it looks.
+struct Picture {
     QString name;
-    std::function<void(AppSettings &)> choose;
+    QByteArray page;
+    QSize size;
+    Content content;
+    Look look;
 };
 
-QList<Look> looks()
+constexpr QSize windowSize(1240, 820);
+constexpr QSize smallSize(900, 600);
+
+void light(AppSettings &settings)
+{
+    settings.appearance = AppearanceMode::light;
+}
+
+void dark(AppSettings &settings)
+{
+    settings.appearance = AppearanceMode::dark;
+}
+
+void huge(AppSettings &settings)
+{
+    settings.theme.fontScale = 1.4;
+}
+
+Look both(const Look &first, const Look &second)
+{
+    return [first, second](AppSettings &settings) {
+        first(settings);
+        second(settings);
+    };
+}
+
+Look preset(ThemePreset preset)
+{
+    return [preset](AppSettings &settings) { applyThemePreset(preset, settings.theme); };
+}
+
+Look navigation(NavigationStyle style)
+{
+    return [style](AppSettings &settings) { settings.theme.navigation = style; };
+}
+
+QList<std::pair<QString, Look>> looks()
 {
     return {
-        {QStringLiteral("light"), [](AppSettings &settings) { settings.appearance = AppearanceMode::light; }},
-        {QStringLiteral("dark"), [](AppSettings &settings) { settings.appearance = AppearanceMode::dark; }},
+        {QStringLiteral("light"), light},
+        {QStringLiteral("dark"), dark},
         {QStringLiteral("ink"), [](AppSettings &settings) { settings.inkMode = true; }},
-        {QStringLiteral("aurora"),
-         [](AppSettings &settings) {
-             settings.appearance = AppearanceMode::light;
-             applyThemePreset(ThemePreset::aurora, settings.theme);
-         }},
-        {QStringLiteral("aurora-dark"),
-         [](AppSettings &settings) {
-             settings.appearance = AppearanceMode::dark;
-             applyThemePreset(ThemePreset::aurora, settings.theme);
-         }},
-        {QStringLiteral("huge"),
-         [](AppSettings &settings) {
-             settings.appearance = AppearanceMode::light;
-             settings.theme.fontScale = 1.4;
-         }},
+        {QStringLiteral("aurora"), both(light, preset(ThemePreset::aurora))},
+        {QStringLiteral("aurora-dark"), both(dark, preset(ThemePreset::aurora))},
+        {QStringLiteral("huge"), both(light, huge)},
     };
+}
+
+QList<Picture> galleryPictures()
+{
+    const QByteArray page = "import Orvel.Gallery\nGallery { }";
+    QList<Picture> pictures;
+    for (const auto &[name, look] : looks())
+        pictures.append({QStringLiteral("gallery-") + name,
+                         page,
+                         {1240, 1500},
+                         [](WorkspaceStore &, UIState &) {},
+                         look});
+    return pictures;
+}
+
+QList<Picture> shellPictures()
+{
+    const QByteArray page =
+        "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Shell\n"
+        "Item { OVBackground { anchors.fill: parent } WorkspaceView { anchors.fill: parent } }";
+    const auto on = [](const char *place, void (*fill)(WorkspaceStore &)) {
+        return [place, fill](WorkspaceStore &store, UIState &ui) {
+            fill(store);
+            ui.select(QString::fromLatin1(place));
+        };
+    };
+    const Content sample = on("tasks", SampleWorkspace::fill);
+    const Content crowd = on("dashboard", SampleWorkspace::crowd);
+    const Content empty = on("today", [](WorkspaceStore &) {});
+    const Content missing = [](WorkspaceStore &store, UIState &ui) {
+        SampleWorkspace::fill(store);
+        ui.selectPage(QUuid::createUuid());
+    };
+    QList<Picture> pictures;
+    const auto add = [&](const QByteArray &name, QSize size, const Content &content, const Look &look) {
+        pictures.append({QStringLiteral("shell-") + QString::fromLatin1(name), page, size, content, look});
+    };
+    for (const auto &[name, look] : looks())
+        add(name.toLatin1(), windowSize, sample, look);
+    for (const EnumCase<NavigationStyle> &style : enumCases<NavigationStyle>()) {
+        const QByteArray name(style.raw.data(), qsizetype(style.raw.size()));
+        const Look look = both(light, navigation(style.value));
+        add(name + "-light", windowSize, sample, look);
+        add(name + "-dark", windowSize, sample, both(dark, navigation(style.value)));
+        add(name + "-small-huge", smallSize, crowd, both(look, huge));
+    }
+    add("empty", windowSize, empty, light);
+    add("crowded", windowSize, crowd, light);
+    add("crowded-small", smallSize, crowd, dark);
+    add("missing", windowSize, missing, light);
+    add("compact", windowSize, sample, [](AppSettings &settings) {
+        light(settings);
+        settings.theme.compactSidebar = true;
+        settings.theme.accentIcons = true;
+        settings.theme.accent = AccentPalette::blue;
+    });
+    add("no-icons", windowSize, sample, [](AppSettings &settings) {
+        light(settings);
+        settings.sidebarShowsIcons = false;
+    });
+    return pictures;
 }
 
 /// Lets bindings, animations and images settle.
@@ -52,6 +147,36 @@ void settle(int milliseconds)
     loop.exec();
 }
 
+bool draw(const Picture &picture, const QString &file)
+{
+    ScratchWorkspace workspace;
+    workspace.store.changeSettings(picture.look);
+    picture.content(workspace.store, workspace.ui);
+    OVTheme::apply(workspace.store.settings());
+
+    QQuickView view;
+    view.engine()->addImportPath(QStringLiteral(":/qt/qml"));
+    workspace.session.provideTo(*view.engine());
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.resize(picture.size);
+    auto *const component = new QQmlComponent(view.engine(), &view);
+    component->setData(picture.page, QUrl());
+    view.setContent(QUrl(), component, component->create());
+    if (view.status() != QQuickView::Ready) {
+        QTextStream(stderr) << component->errorString();
+        return false;
+    }
+    view.show();
+    settle(900);
+    return view.grabWindow().save(file);
+}
+
+bool isWanted(const QString &name, const QStringList &beginnings)
+{
+    return beginnings.isEmpty() || std::ranges::any_of(beginnings, [&name](const QString &beginning) {
+               return name.startsWith(beginning);
+           });
+}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -60,7 +185,7 @@ int main(int argc, char *argv[])
     const QStringList arguments = application.arguments();
     QTextStream err(stderr);
     if (arguments.size() < 2) {
-        err << "usage: orvel-screenshots FOLDER\n";
+        err << "usage: orvel-screenshots FOLDER [BEGINNING OF A NAME]...\n";
         return 2;
     }
     const QDir folder(arguments.at(1));
@@ -68,24 +193,12 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-
-    QQuickView view;
-    view.engine()->addImportPath(QStringLiteral(":/qt/qml"));
-    view.setResizeMode(QQuickView::SizeRootObjectToView);
-    view.resize(1240, 1500);
-    view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Orvel/Gallery/Gallery.qml")));
-    if (view.status() != QQuickView::Ready)
-        return 1;
-    view.show();
-
-    for (const Look &look : looks()) {
-        AppSettings settings;
-        look.choose(settings);
-        OVTheme::apply(settings);
-        settle(900);
-        const QString file = folder.filePath(QStringLiteral("gallery-%1.png").arg(look.name));
-        if (!view.grabWindow().save(file)) {
-            err << "The picture " << file << " cannot be written.\n";
+    for (const Picture &picture : galleryPictures() + shellPictures()) {
+        if (!isWanted(picture.name, arguments.sliced(2)))
+            continue;
+        const QString file = folder.filePath(picture.name + QStringLiteral(".png"));
+        if (!draw(picture, file)) {
+            err << "The picture " << file << " cannot be made.\n";
             return 1;
         }
     }

@@ -1,18 +1,17 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The detail pane with what the chosen style of navigation puts around it. The pane itself stays where the style
 /// changes, so that the settings are not built anew while the person chooses among the styles.
 FocusScope {
     id: root
 
-    readonly property bool hasSidebar: navigation.style === "sidebar"
+    readonly property bool hasSidebar: navigationModel.style === "sidebar"
 
     NavigationViewModel {
-        id: navigation
+        id: navigationModel
 
         store: Orvel.store
         ui: Orvel.ui
@@ -38,7 +37,7 @@ FocusScope {
             width: Theme.sidebarWidth
 
             sourceComponent: SidebarView {
-                navigation: navigation
+                navigation: navigationModel
                 shown: column.visible
             }
         }
@@ -47,11 +46,11 @@ FocusScope {
     Loader {
         id: top
 
-        active: navigation.style === "tabsTop"
+        active: navigationModel.style === "tabsTop"
         width: root.width
 
         sourceComponent: ShellTopArea {
-            navigation: navigation
+            navigation: navigationModel
         }
     }
 
@@ -66,7 +65,7 @@ FocusScope {
         id: bottom
 
         anchors.bottom: parent.bottom
-        sourceComponent: navigation.style === "tabsBottom" ? bottomTabs : navigation.style === "glassDock" ? dock : null
+        sourceComponent: navigationModel.style === "tabsBottom" ? bottomTabs : navigationModel.style === "glassDock" ? dock : null
         width: root.width
     }
 
@@ -83,7 +82,7 @@ FocusScope {
         id: bottomTabs
 
         BottomTabBar {
-            navigation: navigation
+            navigation: navigationModel
         }
     }
 
@@ -91,7 +90,7 @@ FocusScope {
         id: dock
 
         GlassDockBar {
-            navigation: navigation
+            navigation: navigationModel
         }
     }
 }

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The first modules as tabs below the detail pane, everything else under "More".
 FocusScope {

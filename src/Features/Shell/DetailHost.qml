@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The detail pane: one screen at a time, the next one fading in over the last.
 T.StackView {

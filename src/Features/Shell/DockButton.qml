@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// A module in the dock: it rises a little under the pointer, and a dot marks the chosen one.
 OVPressable {

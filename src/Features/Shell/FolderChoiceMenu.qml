@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// The folders to which a page can be moved, the one it lies in with a check mark.
 OVMenu {

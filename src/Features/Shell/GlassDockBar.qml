@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// A floating dock of all visible modules below the detail pane, with the workspace menu, search and overflow.
 FocusScope {

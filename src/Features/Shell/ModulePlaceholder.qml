@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// Stands for a place that has no screen yet.
 FocusScope {

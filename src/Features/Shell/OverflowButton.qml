@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// Opens the overflow menu.
 OVIconButton {

@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// A line of the overflow menu: a place, or the heading over some.
 OVPressable {

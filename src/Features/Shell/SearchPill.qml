@@ -1,6 +1,7 @@
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// Opens the search; it looks like the field that then comes.
 OVPressable {

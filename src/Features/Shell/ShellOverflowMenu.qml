@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The menu of places without a button of their own. It may hold thousands of pages, so it is a list that makes only
 /// the lines in sight.

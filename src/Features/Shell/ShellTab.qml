@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// A tab of a bar: an icon with its name beside it or below, or alone.
 OVPressable {

@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// The top bar and the tabs below it, on one ground.
 FocusScope {

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The bar above the tabs: workspace menu, search and overflow.
 Item {

@@ -1,8 +1,7 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The workspace's icon and name, and behind them what concerns it as a whole.
 OVPressable {

@@ -1,7 +1,6 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// A line of the sidebar's list: the row, or the field in which a folder is named.
 FocusScope {

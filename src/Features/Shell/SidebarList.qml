@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Qt.labs.qmlmodels
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// The scrolling part of the sidebar. Tab reaches it as a whole; within it the arrows go from row to row.
 Item {

@@ -1,7 +1,6 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// One line of the sidebar that opens, folds or does something.
 OVPressable {

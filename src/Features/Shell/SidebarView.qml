@@ -1,8 +1,7 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// The column of everything that can be opened: quick actions, modules, favourites, pages and folders.
 FocusScope {

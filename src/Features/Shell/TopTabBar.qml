@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
+import Orvel.Shell
 
 /// A strip of all visible modules below the top bar.
 TabStrip {

@@ -1,4 +1,5 @@
 import QtQuick
+import Orvel.Shell
 
 /// Everything in the window once the onboarding is done, in layers: the shell, the palette over it, and a presented
 /// deck over both.

@@ -1,0 +1,71 @@
+#include "SampleWorkspace.h"
+
+#include "Store/WorkspaceStore.h"
+
+namespace
+{
+QUuid addPage(WorkspaceStore &store, const QString &title, const QString &icon, bool isFavorite = false,
+              std::optional<QUuid> folderID = std::nullopt)
+{
+    const QUuid id = store.newPage(PageKind::page);
+    store.change<Page>(id, [&](Page &page) {
+        page.title = title;
+        page.isFavorite = isFavorite;
+        page.folderID = folderID;
+        if (!icon.isEmpty())
+            page.icon = icon;
+    });
+    return id;
+}
+
+void addTasks(WorkspaceStore &store)
+{
+    const Timestamp now = store.clock().now();
+    const auto inDays = [now](int days) { return now + std::chrono::hours(24 * days); };
+    store.newTask(QStringLiteral("Write the quarterly letter"), TaskPriority::high, now);
+    store.cycleTaskStatus(store.newTask(QStringLiteral("Plan the week"), TaskPriority::medium, inDays(3)));
+    store.newTask(QStringLiteral("Read the onboarding tips"), TaskPriority::low, std::nullopt);
+    store.newTask(QStringLiteral("Call the print shop about the covers, paper stock and the long lead time"),
+                  TaskPriority::medium, inDays(-3));
+    store.newTask(QStringLiteral("Explore databases"), TaskPriority::low, inDays(10));
+    store.toggleTaskDone(store.newTask(QStringLiteral("Try the block editor"), TaskPriority::medium, now));
+}
+} // namespace
+
+void SampleWorkspace::fill(WorkspaceStore &store)
+{
+    store.changeSettings([](AppSettings &settings) { settings.userName = QStringLiteral("Zoë"); });
+    addTasks(store);
+    addPage(store, QStringLiteral("Welcome to Zoë's Workspace"), {}, true);
+    addPage(store, QStringLiteral("Reading list"), QStringLiteral("📚"), true);
+    addPage(store, QStringLiteral("Weekly review"), {});
+    addPage(store, QStringLiteral("Garden plan"), QStringLiteral("🌱"));
+    const QUuid work = store.newFolder(QStringLiteral("Work"), QStringLiteral("📁")).id;
+    addPage(store, QStringLiteral("Meeting notes"), {}, false, work);
+    addPage(store, QStringLiteral("Launch checklist"), QStringLiteral("🚀"), false, work);
+    const QUuid travel = store.newFolder(QStringLiteral("Travel"), QStringLiteral("🧭")).id;
+    addPage(store, QStringLiteral("Lisbon in spring"), {}, false, travel);
+}
+
+void SampleWorkspace::crowd(WorkspaceStore &store)
+{
+    store.changeSettings([](AppSettings &settings) {
+        settings.workspaceName =
+            QStringLiteral("The workspace of the whole extended family and of its friends");
+    });
+    addTasks(store);
+    QList<QUuid> folders;
+    for (int i = 1; i <= 8; ++i) {
+        const QString name = i == 3 ? QStringLiteral("Folder with a rather long name ").repeated(7)
+                                    : QStringLiteral("Folder %1").arg(i);
+        folders.append(store.newFolder(name, QStringLiteral("📁")).id);
+    }
+    for (int i = 1; i <= 60; ++i) {
+        const QString title = i % 7 == 3
+                                  ? QStringLiteral("A title that goes on and on ").repeated(8).left(200)
+                                  : QStringLiteral("Page %1").arg(i);
+        const bool isLoose = i % 3 == 0;
+        addPage(store, title, i % 5 == 0 ? QStringLiteral("🌊") : QString(), i % 20 == 0,
+                isLoose ? std::nullopt : std::optional(folders.at(i % folders.size())));
+    }
+}

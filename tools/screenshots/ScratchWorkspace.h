@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Foundation/SystemClock.h"
+#include "Session/OrvelSession.h"
+#include "Store/WorkspaceStore.h"
+#include "Support/UIState.h"
+
+#include <QTemporaryDir>
+
+/// A workspace that is gone with the program.
+struct ScratchWorkspace {
+    QTemporaryDir folder;
+    SystemClock clock;
+    WorkspaceStore store{{.filePath = folder.filePath(QStringLiteral("workspace.json")), .clock = &clock}};
+    UIState ui;
+    OrvelSession session{&store, &ui};
+};

@@ -45,20 +45,19 @@ FocusScope {
 
             TabStrip {
                 anchors.verticalCenter: parent.verticalCenter
+                chosenTab: root.navigation.chosenTab
                 clip: interactive
                 height: search.implicitHeight
                 model: root.navigation.tabs
                 width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
 
                 delegate: DockButton {
-                    required property int index
                     required property string title
                     required property string destination
 
                     activeFocusOnTab: false
                     chosen: destination === root.navigation.selection
                     text: title
-                    onChosenChanged: if (chosen) ListView.view.reveal(index)
                     onClicked: Orvel.ui.select(destination)
                 }
             }

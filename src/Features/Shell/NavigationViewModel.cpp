@@ -57,22 +57,19 @@ void NavigationViewModel::followSettings()
     m_workspaceIcon = settings.workspaceIcon;
     if (before != std::tuple(m_style, m_workspaceName, m_workspaceIcon))
         emit changed();
-    findMore();
+    findChosenTab();
 }
 
 void NavigationViewModel::followSelection()
 {
     m_selection = m_ui->selection().text();
     emit selectionChanged();
-    findMore();
+    findChosenTab();
 }
 
-void NavigationViewModel::findMore()
+void NavigationViewModel::findChosenTab()
 {
-    const auto stands = [this](const QList<ModuleTab> &tabs) {
-        return std::ranges::find(tabs, m_selection, &ModuleTab::destination) != tabs.end();
-    };
-    const bool isMoreChosen = stands(tabList()) && !stands(inlineTabList());
-    if (std::exchange(m_isMoreChosen, isMoreChosen) != isMoreChosen)
-        emit isMoreChosenChanged();
+    const auto found = std::ranges::find(tabList(), m_selection, &ModuleTab::destination);
+    m_chosenTab = found == tabList().end() ? -1 : int(found - tabList().begin());
+    emit chosenTabChanged();
 }

@@ -21,8 +21,10 @@ class NavigationViewModel : public QObject
     Q_PROPERTY(QString workspaceIcon READ workspaceIcon NOTIFY changed FINAL)
     /// `Destination::text()` of what the window shows.
     Q_PROPERTY(QString selection READ selection NOTIFY selectionChanged FINAL)
+    /// The place of the shown module in `tabs`; -1 where it has none.
+    Q_PROPERTY(int chosenTab READ chosenTab NOTIFY chosenTabChanged FINAL)
     /// Whether the window shows a module that has no tab of its own in the bottom bar.
-    Q_PROPERTY(bool isMoreChosen READ isMoreChosen NOTIFY isMoreChosenChanged FINAL)
+    Q_PROPERTY(bool isMoreChosen READ isMoreChosen NOTIFY chosenTabChanged FINAL)
     /// All visible modules, and those with a tab of their own in the bottom bar.
     Q_PROPERTY(QAbstractItemModel *tabs READ tabs CONSTANT FINAL)
     Q_PROPERTY(QAbstractItemModel *inlineTabs READ inlineTabs CONSTANT FINAL)
@@ -44,7 +46,8 @@ public:
     QString workspaceName() const { return m_workspaceName; }
     QString workspaceIcon() const { return m_workspaceIcon; }
     QString selection() const { return m_selection; }
-    bool isMoreChosen() const { return m_isMoreChosen; }
+    int chosenTab() const { return m_chosenTab; }
+    bool isMoreChosen() const { return m_chosenTab >= m_inlineTabs.rows().size(); }
     QAbstractItemModel *tabs() { return &m_tabs; }
     QAbstractItemModel *inlineTabs() { return &m_inlineTabs; }
     const QList<ModuleTab> &tabList() const { return m_tabs.rows(); }
@@ -64,12 +67,12 @@ signals:
     void uiChanged();
     void changed();
     void selectionChanged();
-    void isMoreChosenChanged();
+    void chosenTabChanged();
 
 private:
     void followSettings();
     void followSelection();
-    void findMore();
+    void findChosenTab();
 
     WorkspaceStore *m_store = nullptr;
     UIState *m_ui = nullptr;
@@ -77,7 +80,7 @@ private:
     QString m_workspaceName;
     QString m_workspaceIcon;
     QString m_selection;
-    bool m_isMoreChosen = false;
+    int m_chosenTab = -1;
     KeyedListModel<ModuleTab> m_tabs;
     KeyedListModel<ModuleTab> m_inlineTabs;
     CoalescedCall m_followSettings{[this] { followSettings(); }};

@@ -16,8 +16,8 @@ OVPressable {
 
     implicitHeight: upright ? Theme.iconHeader + label.implicitHeight + Theme.space16 : Theme.buttonHeight
     implicitWidth: content.implicitWidth + leftPadding + rightPadding
-    leftPadding: Theme.space12
-    rightPadding: Theme.space12
+    leftPadding: upright ? Theme.space4 : Theme.space8 + 2
+    rightPadding: leftPadding
     toolTip: labelled ? "" : text
     Accessible.name: text
     Accessible.role: Accessible.PageTab

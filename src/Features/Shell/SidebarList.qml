@@ -78,6 +78,22 @@ Item {
         delegate: chooser
     }
 
+    // Lines where the list goes on behind what stands above and below it.
+    Rectangle {
+        color: Theme.ovBorder
+        height: Theme.lineWidth
+        opacity: list.atYBeginning ? 0 : 1
+        width: parent.width
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        color: Theme.ovBorder
+        height: Theme.lineWidth
+        opacity: list.atYEnd ? 0 : 1
+        width: parent.width
+    }
+
     OVScrollBar {
         id: scrollBar
 

@@ -7,6 +7,9 @@ import Orvel.Shell
 ListView {
     id: root
 
+    /// The tab to be kept in sight; -1 for none.
+    property int chosenTab: -1
+
     function goTo(tab: int) {
         if (tab < 0 || tab >= count)
             return
@@ -15,10 +18,11 @@ ListView {
         currentItem?.forceActiveFocus(Qt.TabFocusReason)
     }
 
-    /// Keeps the chosen tab in sight.
-    function reveal(tab: int) {
-        currentIndex = tab
-        positionViewAtIndex(tab, ListView.Contain)
+    function reveal() {
+        if (chosenTab >= 0 && !activeFocus)
+            currentIndex = chosenTab
+        if (chosenTab >= 0)
+            positionViewAtIndex(chosenTab, ListView.Contain)
     }
 
     activeFocusOnTab: true
@@ -35,6 +39,8 @@ ListView {
     spacing: Theme.space4
     Accessible.name: qsTr("Modules")
     Accessible.role: Accessible.PageTabList
+    onChosenTabChanged: reveal()
+    onWidthChanged: reveal()
     onActiveFocusChanged: {
         if (activeFocus && currentIndex < 0)
             goTo(0)

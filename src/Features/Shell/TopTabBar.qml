@@ -11,11 +11,12 @@ TabStrip {
 
     required property NavigationViewModel navigation
 
+    chosenTab: navigation.chosenTab
     implicitHeight: Theme.buttonHeight
+    spacing: 2
     model: navigation.tabs
 
     delegate: ShellTab {
-        required property int index
         required property string title
         required property string destination
 
@@ -23,8 +24,6 @@ TabStrip {
         chosen: destination === root.navigation.selection
         labelled: Theme.tabBarLabels
         text: title
-        onChosenChanged: if (chosen) root.reveal(index)
         onClicked: Orvel.ui.select(destination)
-        Component.onCompleted: if (chosen) Qt.callLater(root.reveal, index)
     }
 }

@@ -42,7 +42,7 @@ T.AbstractButton {
         scale: swatch.down ? 0.92 : 1
 
         OVCheckMark {
-            anchors.centerIn: parent
+            anchors.fill: parent
             shown: swatch.chosen
             color: swatch.markColor
         }

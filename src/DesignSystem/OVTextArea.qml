@@ -17,8 +17,10 @@ FocusScope {
     property alias font: area.font
     property alias textFormat: area.textFormat
     property alias input: area
-    readonly property int lineHeight: Math.max(metrics.lineSpacing, Math.round(area.font.pixelSize * 1.5))
-    readonly property real framePadding: plain ? 0 : Theme.space8
+    readonly property int lineHeight: Math.max(Math.ceil(metrics.lineSpacing), Math.round(area.font.pixelSize * 1.5))
+    readonly property int framePadding: plain ? 0 : Theme.space8
+    /// The lines' spacing lies below each; half of the last one's goes above the first.
+    readonly property int lead: plain ? 0 : Math.floor((lineHeight - metrics.lineSpacing) / 2)
     readonly property real contentLimit: maximumLines > 0 ? maximumLines * lineHeight : Infinity
 
     signal editingFinished()
@@ -41,7 +43,7 @@ FocusScope {
 
     LineSpacing {
         document: area.textDocument
-        distance: root.lineHeight - metrics.lineSpacing
+        distance: root.lineHeight - Math.ceil(metrics.lineSpacing)
     }
 
     OVFieldSurface {
@@ -59,8 +61,8 @@ FocusScope {
     Flickable {
         id: flickable
         anchors.fill: parent
-        anchors.topMargin: root.framePadding
-        anchors.bottomMargin: root.framePadding
+        anchors.topMargin: root.framePadding + root.lead
+        anchors.bottomMargin: root.framePadding - root.lead
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
@@ -90,7 +92,7 @@ FocusScope {
 
     OVText {
         x: area.leftPadding
-        y: root.framePadding
+        y: root.framePadding + root.lead
         width: root.width - area.leftPadding - area.rightPadding
         visible: area.length === 0 && area.preeditText === ""
         text: root.placeholderText

@@ -30,6 +30,8 @@ T.TextField {
     rightPadding: (plain ? 0 : Theme.space12) + (clearButton.visible ? clearButton.width : 0)
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
+    // A long text shows its beginning until it is edited.
+    autoScroll: activeFocus || (contextMenu.openMenu?.visible ?? false)
     hoverEnabled: true
     font.family: Theme.fontFamily
     font.pixelSize: Theme.sizeBody

@@ -1,0 +1,53 @@
+# Installs with apt what the scripts need and the machine lacks. Sourced after common.sh.
+
+packages_build=(
+    ca-certificates ccache cmake g++ git ninja-build pkg-config
+    libdeflate-dev libgl-dev libsimdjson-dev zlib1g-dev
+    qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
+    qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
+    fonts-crosextra-caladea fonts-inter fonts-jetbrains-mono fonts-noto-color-emoji fonts-quicksand fonts-vollkorn
+)
+packages_picture=(imagemagick xauth xvfb)
+packages_test=(
+    appstream clang-format-19 dbus-daemon desktop-file-utils poppler-utils python3 qml6-module-qttest unzip
+)
+packages_bench=(rapidjson-dev)
+packages_fuzz=(clang-19 libclang-rt-19-dev)
+
+# install_packages SET...: makes sure of the packages of these sets; without network when they are there.
+install_packages() {
+    local wanted=() missing=() set
+    for set in "$@"; do
+        local -n packages="packages_$set"
+        wanted+=("${packages[@]}")
+    done
+    # The icons come from npm. A machine may have it from elsewhere than Debian.
+    command -v npm >/dev/null || wanted+=(npm)
+
+    if ! command -v apt-get >/dev/null; then
+        say "This system has no apt, so nothing is installed. Needed are the counterparts of: ${wanted[*]}"
+        return
+    fi
+    local package installed
+    installed=" $(dpkg-query -W -f='${db:Status-Status}:${Package} ' "${wanted[@]}" 2>/dev/null || true)"
+    for package in "${wanted[@]}"; do
+        [[ $installed == *" installed:$package "* ]] || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+
+    local root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || fail "Some packages are missing and there is no sudo to install them." \
+            "as root, run: apt-get install --no-install-recommends ${missing[*]}"
+        root=(sudo)
+    fi
+    local apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o Acquire::Retries=3 -o Dpkg::Use-Pty=0)
+    step "Refreshing the list of Debian packages" \
+        "check the network and the entries in /etc/apt/sources.list, then start again" \
+        "${apt[@]}" update
+    step "Installing ${#missing[@]} missing Debian packages: ${missing[*]}" \
+        "read the message above; a half-installed package is mended by: ${root[*]:+sudo }apt-get --fix-broken install" \
+        "${apt[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null
+}

@@ -45,6 +45,14 @@ function(orvel_add_qml_module name)
     if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
         set(cachegen NO_CACHEGEN)
     endif()
+    # What the C++ types stand on, for the tools that read their descriptions.
+    set(dependencies QtQuick QtQml.Models)
+    foreach(link IN LISTS ARG_LINKS ARG_BUILDS_ON)
+        get_property(uri GLOBAL PROPERTY "ORVEL_URI_${link}")
+        list(APPEND dependencies ${uri})
+    endforeach()
+    set_property(GLOBAL PROPERTY "ORVEL_URI_${name}" "${ARG_URI}")
+
     qt_add_library(${name} STATIC)
     qt_add_qml_module(${name}
         URI ${ARG_URI}
@@ -54,6 +62,7 @@ function(orvel_add_qml_module name)
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
         RESOURCES ${ARG_RESOURCES}
         IMPORTS ${ARG_IMPORTS}
+        DEPENDENCIES ${dependencies}
         ${cachegen})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_LINKS} ${ARG_BUILDS_ON})

@@ -8,6 +8,7 @@
 /// One entry of the menu bar.
 struct OrvelCommand {
     Q_GADGET
+    QML_ANONYMOUS
     Q_PROPERTY(QString id MEMBER id FINAL)
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString keys MEMBER keys FINAL)

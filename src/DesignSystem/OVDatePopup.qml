@@ -24,7 +24,12 @@ OVPopup {
     y: (parent?.height ?? 0) + Theme.space4
     focus: true
 
-    onAboutToShow: (showsDate ? datePicker : timePicker).focusFirst()
+    onAboutToShow: {
+        if (showsDate)
+            datePicker.focusFirst()
+        else
+            timePicker.focusFirst()
+    }
 
     contentItem: Column {
         spacing: Theme.space12

@@ -13,7 +13,7 @@ Image {
 
     height: size
     source: symbol === "" ? "" : "image://orvel-icons/" + symbol + (filled ? ".fill" : "") + "/" + String(color).slice(1)
-    sourceSize: Qt.size(size, size)
+    sourceSize { width: size; height: size }
     width: size
     Accessible.ignored: true
 }

@@ -6,7 +6,7 @@ OVMenu {
     id: menu
 
     /// A TextInput or TextEdit.
-    required property Item target
+    required property var target
 
     OVMenuItem {
         text: qsTr("Undo")

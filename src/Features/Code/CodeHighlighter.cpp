@@ -1,0 +1,168 @@
+#include "Features/Code/CodeHighlighter.h"
+
+#include "Features/Code/CodeSyntax.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <limits>
+#include <utility>
+
+namespace
+{
+using CodeSyntax::Open;
+using Ranges = QList<QTextLayout::FormatRange>;
+
+/// What one portion may cost; an empty line counts for something too.
+constexpr qsizetype portionUnits = 4000, unitsPerLine = 20;
+
+/// What a block remembers: with what it was coloured, and what it leaves open to the next one.
+struct BlockState {
+    Open before;
+    Open after;
+
+    static constexpr int unknown = -1;
+
+    static int packed(Open open)
+    {
+        static_assert(int(Open::Construct::quote) < 4);
+        // Quotes are ASCII.
+        return int(open.construct) | int(open.quote) << 2;
+    }
+    static Open unpacked(int bits) { return {Open::Construct(bits & 3), char16_t(bits >> 2 & 0x7f)}; }
+    int toUserState() const { return packed(before) | packed(after) << 9; }
+    static BlockState of(const QTextBlock &block)
+    {
+        return {unpacked(block.userState() & 0x1ff), unpacked(block.userState() >> 9)};
+    }
+};
+
+/// The text of the block with the line feeds that a document keeps within a block.
+QString textOf(const QTextBlock &block)
+{
+    QString text = block.text();
+    for (const QChar inner : {QChar(QChar::LineSeparator), QChar(0xfdd0), QChar(0xfdd1)})
+        if (text.contains(inner))
+            text.replace(inner, QLatin1Char('\n'));
+    return text;
+}
+
+/// Puts the ranges around the text that an input method is still composing, whose own formats stay.
+Ranges aroundComposition(Ranges ranges, const QTextLayout &layout)
+{
+    const int start = layout.preeditAreaPosition(), length = int(layout.preeditAreaText().size());
+    if (length == 0)
+        return ranges;
+    for (QTextLayout::FormatRange &range : ranges) {
+        if (range.start >= start)
+            range.start += length;
+        else if (range.start + range.length > start)
+            range.length += length;
+    }
+    const Ranges present = layout.formats();
+    for (const QTextLayout::FormatRange &range : present)
+        if (range.start >= start && range.start + range.length <= start + length)
+            ranges.append(range);
+    return ranges;
+}
+} // namespace
+
+CodeHighlighter::CodeHighlighter(QTextDocument *document, QObject *parent)
+    : QObject(parent), m_document(document)
+{
+    // Without a layout a document does not tell what changed.
+    m_document->documentLayout();
+    m_formats[std::size_t(CodeTokenKind::keyword)].setFontWeight(QFont::DemiBold);
+    m_formats[std::size_t(CodeTokenKind::typeName)].setFontWeight(QFont::Medium);
+    m_portions.setSingleShot(true);
+    m_portions.setInterval(0);
+    connect(&m_portions, &QTimer::timeout, this, [this] { colorPortion(portionUnits); });
+    connect(m_document, &QTextDocument::contentsChange, this, &CodeHighlighter::recolor);
+    recolorAll();
+}
+
+void CodeHighlighter::setLanguage(CodeLanguage language)
+{
+    if (std::exchange(m_language, language) != language)
+        recolorAll();
+}
+
+void CodeHighlighter::setColors(const Colors &colors)
+{
+    bool isChanged = false;
+    for (std::size_t kind = 0; kind < colors.size(); ++kind) {
+        isChanged = isChanged || m_formats[kind].foreground() != QBrush(colors[kind]);
+        m_formats[kind].setForeground(colors[kind]);
+    }
+    if (isChanged)
+        recolorAll();
+}
+
+void CodeHighlighter::settle()
+{
+    if (!isSettled())
+        colorPortion(std::numeric_limits<qsizetype>::max());
+}
+
+void CodeHighlighter::recolorAll()
+{
+    recolor(0, 0, m_document->characterCount());
+}
+
+void CodeHighlighter::recolor(int from, int, int added)
+{
+    const QTextBlock first = m_document->findBlock(from);
+    // A document that was replaced as a whole counts one unit too many.
+    const QTextBlock last = m_document->findBlock(qMin(from + added, m_document->characterCount() - 1));
+    for (QTextBlock block = first; block.isValid() && block.blockNumber() <= last.blockNumber();
+         block = block.next())
+        block.setUserState(BlockState::unknown);
+    if (m_next.isNull() || m_next.position() > first.position())
+        m_next = QTextCursor(first);
+    if (m_lastChanged.isNull() || m_lastChanged.position() < last.position())
+        m_lastChanged = QTextCursor(last);
+    colorPortion(portionUnits);
+}
+
+void CodeHighlighter::colorPortion(qsizetype units)
+{
+    QTextBlock block = m_next.block();
+    const int start = block.position();
+    const QTextBlock previous = block.previous();
+    Open open = previous.isValid() ? BlockState::of(previous).after : Open{};
+    for (; block.isValid() && units > 0; block = block.next()) {
+        if (block.userState() != BlockState::unknown && BlockState::of(block).before == open) {
+            if (block.position() > m_lastChanged.position())
+                break;
+            open = BlockState::of(block).after;
+            --units;
+            continue;
+        }
+        m_tokens.clear();
+        const QString text = textOf(block);
+        const bool isLast = !block.next().isValid();
+        const Open after = CodeSyntax::scanLine(text, !isLast, open, m_language, m_tokens);
+        Ranges ranges;
+        for (const CodeToken &token : std::as_const(m_tokens))
+            ranges.append({int(token.location), int(token.length), m_formats[std::size_t(token.kind)]});
+        block.layout()->setFormats(aroundComposition(ranges, *block.layout()));
+        block.setUserState(BlockState{open, after}.toUserState());
+        open = after;
+        units -= text.size() + unitsPerLine;
+    }
+
+    const int end = block.isValid() ? block.position() : m_document->characterCount();
+    if (block.isValid() && units <= 0) {
+        m_next = QTextCursor(block);
+        if (m_lastChanged.position() < block.position())
+            m_lastChanged = m_next;
+        m_portions.start();
+    } else {
+        m_next = m_lastChanged = QTextCursor();
+        m_portions.stop();
+    }
+    if (end > start)
+        m_document->markContentsDirty(start, end - start - 1);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Features/Code/CodeToken.h"
+#include "Models/CodeLanguage.h"
+
+#include <QColor>
+#include <QObject>
+#include <QTextCharFormat>
+#include <QTextCursor>
+#include <QTimer>
+
+#include <array>
+
+class QTextDocument;
+
+/// Colours a document as `CodeSyntax::tokens` of its whole text says, and keeps it so while it is edited. A
+/// key costs the lines it changed. What a key changes further down, as when a comment is opened, follows in
+/// small portions, one a turn of the event loop, so that no key has to wait for a long document.
+///
+/// The text's own font and colour are left to the document; tokens differ from it by colour and weight.
+/// It keeps its notes in the blocks' user state, which belongs to it alone.
+class CodeHighlighter : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// One for each kind of token, in the order of `CodeTokenKind`.
+    using Colors = std::array<QColor, 5>;
+
+    /// @param document lives at least as long
+    explicit CodeHighlighter(QTextDocument *document, QObject *parent = nullptr);
+
+    /// Colours anew if the language is another one.
+    void setLanguage(CodeLanguage language);
+    /// Colours anew if a colour is another one.
+    void setColors(const Colors &colors);
+
+    /// Whether everything has its colours.
+    bool isSettled() const { return m_next.isNull(); }
+    /// Colours at once what is still to be done.
+    void settle();
+
+private:
+    void recolor(int from, int removed, int added);
+    void recolorAll();
+    /// Goes on from `m_next` for about this many units of text.
+    void colorPortion(qsizetype units);
+
+    QTextDocument *m_document;
+    CodeLanguage m_language = CodeLanguage::plain;
+    std::array<QTextCharFormat, 5> m_formats;
+    /// The first line that may have wrong colours; null if all are right.
+    QTextCursor m_next;
+    /// The last line that was changed since it got its colours.
+    QTextCursor m_lastChanged;
+    QTimer m_portions;
+    QList<CodeToken> m_tokens;
+};

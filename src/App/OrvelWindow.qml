@@ -61,6 +61,5 @@ Window {
         anchors.fill: parent
         commands: commands
         model: rootModel
-        showsMenuBar: window.visibility !== Window.FullScreen
     }
 }

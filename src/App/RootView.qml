@@ -4,45 +4,37 @@ import QtQuick
 import Orvel.App
 import Orvel.DesignSystem
 
-/// The layers of the window: the background, the workspace below its menu bar, and for a moment after the start
-/// the intro on top of all.
+/// The layers of the window: the background, the workspace, and for a moment after the start the intro on top of
+/// all.
 FocusScope {
     id: root
 
     required property OrvelCommands commands
     required property RootViewModel model
-    required property bool showsMenuBar
     /// Once a launch, and not where motion is unwanted.
-    property bool showIntro: true
+    property bool showIntro: Theme.motionEnabled
 
     focus: true
 
     Component.onCompleted: {
-        if (!Theme.motionEnabled)
-            showIntro = false
+        // From here on the choice of motion has no say in it.
+        showIntro = showIntro
+        workspace.setSource("WorkspaceLayer.qml", { "commands": root.commands })
     }
 
     OVBackground {
         anchors.fill: parent
+        // The intro stands on a background of its own.
+        visible: !root.showIntro
     }
 
     FadingLayer {
+        id: workspace
+
         anchors.fill: parent
         shown: true
-        // Behind the intro there is time to build the workspace piece by piece.
-        asynchronous: root.showIntro
-
-        sourceComponent: FocusScope {
-            focus: true
-
-            OrvelMenuBar {
-                id: menuBar
-                anchors { left: parent.left; right: parent.right; top: parent.top }
-                commands: root.commands
-                height: visible ? implicitHeight : 0
-                visible: root.showsMenuBar
-            }
-        }
+        // The first frame need not wait for the workspace, and the intro runs on while it is built.
+        asynchronous: true
     }
 
     FadingLayer {

@@ -1,0 +1,19 @@
+import QtQuick
+import Orvel.App
+
+/// The workspace below its menu bar, which gives way in full screen.
+FocusScope {
+    id: root
+
+    required property OrvelCommands commands
+
+    focus: true
+
+    OrvelMenuBar {
+        id: menuBar
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        commands: root.commands
+        height: visible ? implicitHeight : 0
+        visible: root.Window.visibility !== Window.FullScreen
+    }
+}

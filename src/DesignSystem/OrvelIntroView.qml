@@ -45,7 +45,7 @@ FocusScope {
         anchors.centerIn: mark
         height: width
         opacity: root.glow * (Theme.dark ? 0.35 : 0.22)
-        source: "image://orvel-glows/" + String(Theme.accent).slice(1)
+        source: root.glow > 0 ? "image://orvel-glows/" + String(Theme.accent).slice(1) : ""
         width: 420
     }
 
@@ -62,15 +62,20 @@ FocusScope {
         width: 112
     }
 
-    OVText {
+    // The first frame waits for no font.
+    Loader {
+        active: root.captionOpacity > 0
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: mark.bottom
         anchors.topMargin: 28
-        font.letterSpacing: 2
-        font.weight: Font.DemiBold
-        opacity: root.captionOpacity
-        role: OVText.CardTitle
-        text: "Orvel"
+
+        sourceComponent: OVText {
+            font.letterSpacing: 2
+            font.weight: Font.DemiBold
+            opacity: root.captionOpacity
+            role: OVText.CardTitle
+            text: "Orvel"
+        }
     }
 
     TapHandler {

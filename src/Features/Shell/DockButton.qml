@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// A module in the dock: it rises a little under the pointer, and a dot marks the chosen one.
 OVPressable {

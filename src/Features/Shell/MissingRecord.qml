@@ -1,7 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
-import Orvel.Shell
 
 /// Stands where a record was selected that is no more.
 FocusScope {

@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// Stands for a place that has no screen yet.
 FocusScope {

@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// The icon before a line: a symbol, or an emoji at its size.
 Item {

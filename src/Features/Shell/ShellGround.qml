@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// What the sidebar and the bars stand on: glass where the person likes it, with a hair line towards the screen.
 Rectangle {

@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// A tab of a bar: an icon with its name beside it or below, or alone.
 OVPressable {

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
 import Orvel.DesignSystem
-import Orvel.Session
 import Orvel.Shell
 
 /// The bar above the tabs: workspace menu, search and overflow.

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
@@ -25,7 +27,8 @@ OVPressable {
     Accessible.role: Accessible.ButtonMenu
     onClicked: {
         menu.active = true
-        menu.item.popup(root, 0, opensUpwards ? -menu.item.implicitHeight - Theme.space4 : height + Theme.space4)
+        const opened = menu.item as OVMenu
+        opened.popup(root, 0, opensUpwards ? -opened.implicitHeight - Theme.space4 : height + Theme.space4)
     }
 
     contentItem: Item {

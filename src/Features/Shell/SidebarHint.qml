@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// The quiet line where there are no pages yet; pressing it makes the first.
 OVPressable {

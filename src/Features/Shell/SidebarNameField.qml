@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// The field that stands in place of a row while a folder is named. Losing the focus keeps what was typed.
 Item {

@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// The small title over a part of the sidebar. Where it folds, it is pressed to do so.
 FocusScope {

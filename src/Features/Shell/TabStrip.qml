@@ -1,6 +1,5 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
 
 /// A row of tabs that scrolls where it needs more room. Tab reaches it as a whole; within it the arrows go from tab
 /// to tab.

@@ -175,8 +175,7 @@ void TasksViewModelTest::rowsTellHowTheyLook_data()
     QTest::newRow("undated") << "todo" << "low" << qQNaN() << "To do circle 0/low 0/";
     QTest::newRow("an hour ago today")
         << "inProgress" << "medium" << -1.0 << "In progress circle.dotted 2/medium 2/Today";
-    QTest::newRow("overdue") << "todo" << "high" << -24.0
-                             << "To do circle 0/high 4/Mar 12 overdue";
+    QTest::newRow("overdue") << "todo" << "high" << -24.0 << "To do circle 0/high 4/Mar 12 overdue";
     QTest::newRow("done is never overdue")
         << "done" << "high" << -24.0 << "Done checkmark.circle.fill 3/high 4/Mar 12";
     QTest::newRow("next week") << "todo" << "low" << 24.0 * 7 << "To do circle 0/low 0/Mar 20";

@@ -1,8 +1,7 @@
 #include "Features/Decks/DeckOutline.h"
 
 #include "Features/Decks/DeckLayout.h"
-
-#include <QTextBoundaryFinder>
+#include "Foundation/Graphemes.h"
 
 #include <algorithm>
 
@@ -109,22 +108,12 @@ QString slideMarkdown(const Slide &slide)
     }
     return text;
 }
-
-/// Characters as a person counts them: a letter with its accents, an emoji with its parts, are one.
-qsizetype characterCount(const QString &text)
-{
-    qsizetype count = 0;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    while (finder.toNextBoundary() >= 0)
-        ++count;
-    return count;
-}
 } // namespace
 
 QString DeckOutline::plainText(const Deck &deck)
 {
     QString text =
-        deck.title + u'\n' + QString(std::max<qsizetype>(characterCount(deck.title), 3), u'=') + u'\n';
+        deck.title + u'\n' + QString(std::max<qsizetype>(Graphemes::count(deck.title), 3), u'=') + u'\n';
     if (!deck.summary.isEmpty())
         text += u'\n' + deck.summary + u'\n';
     if (!deck.author.isEmpty())

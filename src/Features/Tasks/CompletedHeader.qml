@@ -1,0 +1,71 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Tasks
+
+/// The row over the completed tasks, which folds and unfolds them.
+ScreenListRow {
+    id: row
+
+    required property int count
+    required property TasksViewModel viewModel
+
+    rowHeight: Theme.space16 + Theme.rowHeight + Theme.space4
+
+    Keys.onPressed: event => {
+        switch (event.key) {
+        case Qt.Key_Space:
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+            button.click()
+            event.accepted = true
+            break
+        default:
+            event.accepted = row.list.moveFocus(event.key)
+        }
+    }
+
+    OVPressable {
+        id: button
+        activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
+        height: Theme.rowHeight
+        leftPadding: Theme.space8
+        rightPadding: Theme.space8
+        y: Theme.space16
+        Accessible.checkable: true
+        Accessible.checked: row.viewModel.showDone
+        Accessible.name: qsTr("Completed, %1").arg(row.count)
+        onClicked: row.viewModel.showDone = !row.viewModel.showDone
+
+        contentItem: Row {
+            spacing: Theme.space8
+
+            OVIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                rotation: row.viewModel.showDone ? 0 : -90
+                size: Theme.sizeCaption + 2
+                symbol: "chevron.down"
+
+                Behavior on rotation {
+                    NumberAnimation { duration: Theme.durationScreen; easing.type: Easing.OutCubic }
+                }
+            }
+
+            OVText {
+                anchors.verticalCenter: parent.verticalCenter
+                role: OVText.Section
+                text: qsTr("Completed")
+            }
+
+            OVText {
+                anchors.verticalCenter: parent.verticalCenter
+                role: OVText.Caption
+                text: row.count
+            }
+        }
+
+        OVFocusRing {
+            shown: row.visualFocus
+        }
+    }
+}

@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Tasks
+
+/// The filters of the list, one stop for Tab, and how many tasks the chosen one takes.
+Item {
+    id: bar
+
+    required property TasksViewModel viewModel
+
+    function choose(filter: int) {
+        viewModel.filter = Math.max(0, Math.min(filter, chips.count - 1))
+        chips.itemAt(viewModel.filter).forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    implicitHeight: row.height
+
+    Row {
+        id: row
+        spacing: Theme.space8
+        Accessible.name: qsTr("Filter")
+        Accessible.role: Accessible.Grouping
+
+        Repeater {
+            id: chips
+            model: bar.viewModel.filterTexts
+
+            OVChip {
+                required property int index
+                required property string modelData
+
+                activeFocusOnTab: checked
+                checked: index === bar.viewModel.filter
+                text: modelData
+                Accessible.role: Accessible.RadioButton
+                Keys.onLeftPressed: bar.choose(index - 1)
+                Keys.onRightPressed: bar.choose(index + 1)
+                onClicked: bar.viewModel.filter = index
+            }
+        }
+    }
+
+    OVText {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.ovInkSecondary
+        role: OVText.Caption
+        text: bar.viewModel.countText
+    }
+}

@@ -1,0 +1,205 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Tasks
+
+/// One task in the list.
+ScreenListRow {
+    id: row
+
+    required property var taskID
+    required property string title
+    required property int status
+    required property string statusText
+    required property string statusSymbol
+    required property int statusTone
+    required property bool isDone
+    required property date due
+    required property string dueText
+    required property bool isOverdue
+    required property int priority
+    required property string priorityText
+    required property int priorityTone
+    required property bool isFirst
+    required property bool isLast
+    required property TasksViewModel viewModel
+
+    readonly property bool editing: titleItem.editing
+    readonly property bool actionsShown: hovered || activeFocus || (contextMenu.openMenu?.visible ?? false)
+                                         || (dueLabel.popup?.visible ?? false)
+
+    /// Removes the task; the focus goes to its neighbour.
+    function remove() {
+        if (focus)
+            list.focusRow(index + 1 < list.count ? index + 1 : index - 1,
+                          list.focusVisible ? Qt.TabFocusReason : Qt.MouseFocusReason)
+        viewModel.deleteTask(taskID)
+    }
+
+    /// Does what the key stands for; false for any other key.
+    function act(key: int): bool {
+        switch (key) {
+        case Qt.Key_Space:
+            viewModel.cycleTaskStatus(taskID)
+            return true
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_F2:
+            titleItem.edit()
+            return true
+        case Qt.Key_P:
+            viewModel.cycleTaskPriority(taskID)
+            return true
+        case Qt.Key_D:
+            dueLabel.open()
+            return true
+        case Qt.Key_Delete:
+        case Qt.Key_Backspace:
+            remove()
+            return true
+        }
+        return false
+    }
+
+    rowHeight: Theme.fieldHeight + Theme.space12
+    Accessible.name: dueText === "" ? title : title + ", " + dueText
+    Accessible.role: Accessible.ListItem
+
+    onFocusChanged: {
+        if (!focus)
+            titleItem.editing = false
+    }
+
+    Keys.onPressed: event => {
+        const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
+        event.accepted = plain && (list.moveFocus(event.key) || (!editing && act(event.key)))
+        if (!event.accepted && !editing)
+            contextMenu.handleKey(event)
+    }
+
+    OVCardSlice {
+        anchors.fill: parent
+        dividerLeft: titleItem.x
+        dividerRight: Theme.space16
+        isFirst: row.isFirst
+        isLast: row.isLast
+    }
+
+    HoverWash {
+        anchors.margins: Theme.space4
+        hovered: row.actionsShown
+
+        OVFocusRing {
+            anchors.margins: 0
+            shown: row.visualFocus && !row.editing
+        }
+    }
+
+    OVContextMenuArea {
+        id: contextMenu
+        menu: TaskMenu {
+            hasDue: row.dueText !== ""
+            priority: row.priority
+            status: row.status
+            taskID: row.taskID
+            viewModel: row.viewModel
+            onDeleteRequested: row.remove()
+            onDueRequested: dueLabel.open()
+            onEditRequested: titleItem.edit()
+        }
+    }
+
+    OVPressable {
+        id: statusButton
+        activeFocusOnTab: false
+        anchors.verticalCenter: parent.verticalCenter
+        focusPolicy: Qt.NoFocus
+        height: Theme.iconButtonSize
+        pressedScale: 0.9
+        radius: height / 2
+        toolTip: row.statusText
+        width: height
+        x: Theme.space12
+        Accessible.name: qsTr("Status: %1, %2").arg(row.statusText).arg(row.title)
+        onClicked: row.viewModel.cycleTaskStatus(row.taskID)
+
+        contentItem: Item {
+            TaskStatusMark {
+                anchors.centerIn: parent
+                isDone: row.isDone
+                symbol: row.statusSymbol
+                tone: row.statusTone
+            }
+        }
+    }
+
+    TaskTitle {
+        id: titleItem
+        anchors.left: statusButton.right
+        anchors.leftMargin: Theme.space8
+        anchors.right: trailing.left
+        anchors.rightMargin: Theme.space16
+        height: parent.height
+        isDone: row.isDone
+        title: row.title
+        onEdited: title => row.viewModel.renameTask(row.taskID, title)
+        onFinished: {
+            editing = false
+            row.list.focusRow(row.index, Qt.TabFocusReason)
+        }
+        onPointed: row.list.focusVisible = false
+    }
+
+    Row {
+        id: trailing
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space8
+        height: parent.height
+        spacing: Theme.space8
+
+        TaskDueLabel {
+            id: dueLabel
+            anchors.verticalCenter: parent.verticalCenter
+            due: row.due
+            isOverdue: row.isOverdue
+            text: row.dueText
+            Accessible.name: qsTr("Due: %1, %2").arg(row.dueText).arg(row.title)
+            onCleared: row.viewModel.setTaskDue(row.taskID, new Date(NaN))
+            onPicked: moment => row.viewModel.setTaskDue(row.taskID, moment)
+        }
+
+        OVPressable {
+            activeFocusOnTab: false
+            anchors.verticalCenter: parent.verticalCenter
+            focusPolicy: Qt.NoFocus
+            radius: Theme.cornerMark
+            toolTip: qsTr("Priority")
+            washed: false
+            Accessible.name: qsTr("Priority: %1, %2").arg(row.priorityText).arg(row.title)
+            onClicked: row.viewModel.cycleTaskPriority(row.taskID)
+
+            contentItem: OVBadge {
+                text: row.priorityText
+                tone: row.priorityTone
+                Accessible.ignored: true
+            }
+        }
+
+        OVIconButton {
+            activeFocusOnTab: false
+            anchors.verticalCenter: parent.verticalCenter
+            focusPolicy: Qt.NoFocus
+            iconSize: Theme.iconRow
+            opacity: row.actionsShown ? 1 : 0
+            symbol: "xmark"
+            text: qsTr("Delete")
+            Accessible.name: qsTr("Delete: %1").arg(row.title)
+            onClicked: row.remove()
+
+            Behavior on opacity {
+                NumberAnimation { duration: Theme.durationHover }
+            }
+        }
+    }
+}

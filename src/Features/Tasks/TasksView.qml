@@ -1,0 +1,43 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Qt.labs.qmlmodels
+import Orvel.DesignSystem
+import Orvel.Session
+import Orvel.Tasks
+
+/// The screen of all tasks.
+FocusScope {
+    id: root
+
+    TasksViewModel {
+        id: tasks
+        active: root.visible
+        store: Orvel.store
+    }
+
+    ScreenList {
+        id: list
+        anchors.fill: parent
+        focus: true
+        model: tasks.rows
+
+        above: TasksHeader {
+            focus: true
+            viewModel: tasks
+        }
+        delegate: DelegateChooser {
+            role: "kind"
+
+            DelegateChoice {
+                roleValue: "completedHeader"
+
+                delegate: CompletedHeader { viewModel: tasks }
+            }
+
+            DelegateChoice {
+                delegate: TaskRow { viewModel: tasks }
+            }
+        }
+    }
+}

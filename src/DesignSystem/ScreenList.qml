@@ -68,7 +68,6 @@ ListView {
 
         property int lastRow: 0
 
-        children: [list.above]
         focus: true
         height: list.above?.height ?? 0
         width: list.width
@@ -90,16 +89,17 @@ ListView {
             }
         }
 
-        Binding {
-            target: list.above
-            property: "width"
-            value: list.columnWidth
-        }
+        Item {
+            id: column
+            children: [list.above]
+            width: list.columnWidth
+            x: list.columnX
 
-        Binding {
-            target: list.above
-            property: "x"
-            value: list.columnX
+            Binding {
+                target: list.above
+                property: "width"
+                value: column.width
+            }
         }
 
         // The one stop for Tab that all rows share.

@@ -33,7 +33,7 @@ FocusScope {
         id: appear
         animated: row.list?.opening ?? false
         height: row.rowHeight
-        index: row.index
+        index: Math.max(0, row.index)
         width: row.list?.columnWidth ?? 0
         x: row.list?.columnX ?? 0
 

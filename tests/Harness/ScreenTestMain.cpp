@@ -1,3 +1,4 @@
+#include "Harness/TestComposer.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
 
@@ -14,11 +15,13 @@ public slots:
     {
         engine->addImportPath(QStringLiteral(":/qt/qml"));
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Workspace", &m_workspace);
+        qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         m_session.provideTo(*engine);
         m_workspace.reset();
     }
 
 private:
+    TestComposer m_composer;
     TestWorkspace m_workspace;
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
 };

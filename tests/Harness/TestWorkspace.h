@@ -51,6 +51,17 @@ public:
         return id.toString(QUuid::WithoutBraces);
     }
 
+    Q_INVOKABLE void addTasks(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_store.newTask(QStringLiteral("Task %1").arg(i), TaskPriority::medium, {});
+    }
+    Q_INVOKABLE void renameTask(const QString &id, const QString &title)
+    {
+        m_store.renameTask(QUuid(id), title);
+    }
+    Q_INVOKABLE void finishTask(const QString &id) { m_store.setTaskStatus(QUuid(id), TaskStatus::done); }
+
     Q_INVOKABLE QString addPage(const QString &title, bool isFavorite = false,
                                 const QString &folderID = QString())
     {

@@ -31,7 +31,7 @@ Item {
                 required property int index
                 required property string modelData
 
-                activeFocusOnTab: checked
+                activeFocusOnTab: checked || activeFocus
                 checked: index === bar.viewModel.filter
                 text: modelData
                 Accessible.role: Accessible.RadioButton

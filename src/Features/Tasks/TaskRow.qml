@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Tasks
@@ -31,7 +29,9 @@ ScreenListRow {
 
     /// Removes the task; the focus goes to its neighbour.
     function remove() {
-        if (focus)
+        if (focus && list.count === 1)
+            list.leftBackwards()
+        else if (focus)
             list.focusRow(index + 1 < list.count ? index + 1 : index - 1,
                           list.focusVisible ? Qt.TabFocusReason : Qt.MouseFocusReason)
         viewModel.deleteTask(taskID)

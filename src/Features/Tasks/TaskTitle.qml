@@ -24,6 +24,11 @@ Item {
         field.forceActiveFocus(Qt.OtherFocusReason)
     }
 
+    onEditingChanged: {
+        // Else the empty place of the field would keep the row's focus.
+        if (!editing)
+            editor.focus = false
+    }
     onTitleChanged: {
         // Typing has broken the field's binding; what others write still has to show, with the caret in place.
         const field = editor.item as OVTextField

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+
+/// Writes like an input method into what has the focus: `Composer` in QML after `import Orvel.Testing`.
+class TestComposer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Shows text that is still being composed.
+    Q_INVOKABLE void compose(const QString &text) { send(text, {}); }
+    /// Ends the composition with this text.
+    Q_INVOKABLE void commit(const QString &text) { send({}, text); }
+
+private:
+    static void send(const QString &preedit, const QString &commit)
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    }
+};

@@ -36,13 +36,20 @@ FocusScope {
     }
 
     FadingLayer {
+        id: intro
+
         anchors.fill: parent
         shown: root.showIntro
+        source: "../DesignSystem/OrvelIntroView.qml"
         z: 10
+        onLoaded: (item as OrvelIntroView).run()
 
-        sourceComponent: OrvelIntroView {
-            onFinished: root.showIntro = false
-            Component.onCompleted: run()
+        Connections {
+            target: intro.item
+
+            function onFinished() {
+                root.showIntro = false;
+            }
         }
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.App
+import Orvel.Shell
 
 /// The workspace below its menu bar, which gives way in full screen.
 FocusScope {
@@ -15,5 +16,10 @@ FocusScope {
         commands: root.commands
         height: visible ? implicitHeight : 0
         visible: root.Window.visibility !== Window.FullScreen
+    }
+
+    WorkspaceView {
+        anchors { left: parent.left; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
+        focus: true
     }
 }

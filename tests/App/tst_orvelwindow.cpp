@@ -220,6 +220,36 @@ private slots:
         QVERIFY(m_window->color().lightness() > 128);
     }
 
+    void aChangeOfThemeBuildsTheScreenAnewButNotTheSettings()
+    {
+        open();
+        QQuickItem *const host = item("DetailHost");
+        QVERIFY(host);
+        const auto screen = [host] { return QPointer(host->property("currentItem").value<QQuickItem *>()); };
+        press(u"Ctrl+4"_s);
+        QTest::qWait(0);
+        auto before = screen();
+        QVERIFY(before);
+        press(u"Ctrl+Shift+T"_s);
+        QTRY_VERIFY(!before);
+        QVERIFY(screen());
+
+        press(u"Ctrl+,"_s);
+        QTest::qWait(0);
+        before = screen();
+        press(u"Ctrl+Shift+T"_s);
+        press(u"Ctrl+Shift+D"_s);
+        QTest::qWait(0);
+        QCOMPARE(screen(), before);
+        edit([](AppSettings &settings) { settings.userName = u"Ada"_s; });
+        press(u"Ctrl+4"_s);
+        QTest::qWait(0);
+        before = screen();
+        edit([](AppSettings &settings) { settings.userName = u"Grace"_s; });
+        QTest::qWait(0);
+        QCOMPARE(screen(), before);
+    }
+
     void fullScreenHidesTheMenuBar()
     {
         open();
@@ -244,6 +274,7 @@ private slots:
         };
         QQuickItem *const navigate = title(u"&Navigate"_s);
         QVERIFY(navigate);
+        QTRY_VERIFY(navigate->x() > 0);
         QTest::mouseClick(m_window, Qt::LeftButton, {},
                           navigate->mapToScene(navigate->boundingRect().center()).toPoint());
         press(u"Down"_s);

@@ -4,7 +4,7 @@ import Orvel.Tasks
 
 /// What can be done with a task, for the right button and the Menu key.
 OVMenu {
-    id: menu
+    id: root
 
     required property TasksViewModel viewModel
     required property var taskID
@@ -20,24 +20,24 @@ OVMenu {
         required property int value
 
         checkable: true
-        checked: menu.status === value
-        text: menu.viewModel.statusTexts[value]
-        onTriggered: menu.viewModel.setTaskStatus(menu.taskID, value)
+        checked: root.status === value
+        text: root.viewModel.statusTexts[value]
+        onTriggered: root.viewModel.setTaskStatus(root.taskID, value)
     }
     component PriorityItem: OVMenuItem {
         required property int value
 
         checkable: true
-        checked: menu.priority === value
-        text: qsTr("Priority: %1").arg(menu.viewModel.priorityTexts[value])
-        onTriggered: menu.viewModel.setTaskPriority(menu.taskID, value)
+        checked: root.priority === value
+        text: qsTr("Priority: %1").arg(root.viewModel.priorityTexts[value])
+        onTriggered: root.viewModel.setTaskPriority(root.taskID, value)
     }
 
     OVMenuItem {
         shortcutText: "Return"
         symbol: "pencil"
         text: qsTr("Edit title")
-        onTriggered: menu.editRequested()
+        onTriggered: root.editRequested()
     }
 
     OVMenuSeparator { }
@@ -57,15 +57,15 @@ OVMenu {
     OVMenuItem {
         shortcutText: "D"
         symbol: "calendar"
-        text: menu.hasDue ? qsTr("Change due date…") : qsTr("Set due date…")
-        onTriggered: menu.dueRequested()
+        text: root.hasDue ? qsTr("Change due date…") : qsTr("Set due date…")
+        onTriggered: root.dueRequested()
     }
 
     OVMenuItem {
-        enabled: menu.hasDue
+        enabled: root.hasDue
         symbol: "xmark.circle"
         text: qsTr("Clear due date")
-        onTriggered: menu.viewModel.setTaskDue(menu.taskID, new Date(NaN))
+        onTriggered: root.viewModel.setTaskDue(root.taskID, new Date(NaN))
     }
 
     OVMenuSeparator { }
@@ -75,6 +75,6 @@ OVMenu {
         shortcutText: "Del"
         symbol: "trash"
         text: qsTr("Delete")
-        onTriggered: menu.deleteRequested()
+        onTriggered: root.deleteRequested()
     }
 }

@@ -7,6 +7,8 @@ T.ProgressBar {
     id: root
 
     property color color: Theme.accent
+    /// Where the fill stands while it glides to the value.
+    property real shownPosition: position
 
     implicitHeight: 6
     implicitWidth: 160
@@ -21,11 +23,11 @@ T.ProgressBar {
             height: parent.height
             radius: height / 2
             visible: root.position > 0
-            width: Math.max(height, root.position * parent.width)
-
-            Behavior on width {
-                NumberAnimation { duration: Theme.durationSpring; easing: Theme.springEasing }
-            }
+            width: Math.max(height, root.shownPosition * parent.width)
         }
+    }
+
+    Behavior on shownPosition {
+        NumberAnimation { duration: Theme.durationSpring; easing: Theme.springEasing }
     }
 }

@@ -44,7 +44,7 @@ FocusScope {
     Image {
         anchors.centerIn: mark
         height: width
-        opacity: root.glow * (Theme.dark ? 0.35 : 0.22)
+        opacity: root.glow * (Theme.dark ? 0.3 : 0.1)
         source: root.glow > 0 ? "image://orvel-glows/" + String(Theme.accent).slice(1) : ""
         width: 420
     }
@@ -56,10 +56,9 @@ FocusScope {
         anchors.verticalCenterOffset: -24
         color: Theme.accent
         fillProgress: root.fillProgress
-        height: 112
+        height: width
         outlineProgress: root.outlineProgress
-        scale: root.markScale
-        width: 112
+        width: 112 * root.markScale
     }
 
     // The first frame waits for no font.

@@ -7,7 +7,7 @@ namespace
 {
 
 constexpr qreal thin = 0.035;
-constexpr qreal full = 0.17;
+constexpr qreal full = 0.12;
 
 QPen stroke(const QColor &color, qreal width)
 {

@@ -37,5 +37,6 @@ Item {
         DisplaySection { Layout.fillWidth: true }
         TypeSection { Layout.fillWidth: true }
         IconsSection { Layout.fillWidth: true }
+        IntroSection { Layout.fillWidth: true }
     }
 }

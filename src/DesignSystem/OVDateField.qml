@@ -93,6 +93,8 @@ T.AbstractButton {
         id: loader
         active: false
 
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
         sourceComponent: OVDatePopup {
             parent: field
             value: field.value
@@ -103,5 +105,6 @@ T.AbstractButton {
             onEdited: moment => field.edited(moment)
             onCleared: field.cleared()
         }
+        // qmllint enable unqualified
     }
 }

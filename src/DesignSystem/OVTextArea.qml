@@ -104,8 +104,11 @@ FocusScope {
     OVContextMenuArea {
         id: contextMenu
         focusTarget: area
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
         menu: Component {
             OVTextMenu { target: area }
         }
+        // qmllint enable unqualified
     }
 }

@@ -85,6 +85,8 @@ T.TextField {
         active: field.clearable
         visible: field.clearable && field.length > 0 && field.enabled
 
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
         sourceComponent: OVIconButton {
             symbol: "xmark"
             text: qsTr("Clear")
@@ -94,13 +96,17 @@ T.TextField {
             iconSize: Theme.iconRow - 2
             onClicked: field.empty()
         }
+        // qmllint enable unqualified
     }
 
     OVContextMenuArea {
         id: contextMenu
         focusTarget: field
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
         menu: Component {
             OVTextMenu { target: field }
         }
+        // qmllint enable unqualified
     }
 }

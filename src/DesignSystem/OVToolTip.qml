@@ -17,6 +17,8 @@ Loader {
     active: false
     visible: false
 
+    // A Loader of this Qt version cannot make a bound component.
+    // qmllint disable unqualified
     sourceComponent: T.ToolTip {
         id: bubble
 
@@ -58,6 +60,7 @@ Loader {
             NumberAnimation { property: "opacity"; to: 0; duration: Theme.durationMenu }
         }
     }
+    // qmllint enable unqualified
 
     Timer {
         interval: Theme.tooltipDelay

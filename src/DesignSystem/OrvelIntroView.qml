@@ -68,6 +68,8 @@ FocusScope {
         anchors.top: mark.bottom
         anchors.topMargin: 28
 
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
         sourceComponent: OVText {
             font.letterSpacing: 2
             font.weight: Font.DemiBold
@@ -75,6 +77,7 @@ FocusScope {
             role: OVText.CardTitle
             text: "Orvel"
         }
+        // qmllint enable unqualified
     }
 
     TapHandler {

@@ -60,9 +60,6 @@ ListView {
     reuseItems: false
     T.ScrollBar.vertical: OVScrollBar { }
 
-    // The rows that the screen opens with appear one after the other; what comes later doesn't wait.
-    Component.onCompleted: Qt.callLater(() => list.opening = false)
-
     header: FocusScope {
         id: header
 
@@ -123,5 +120,11 @@ ListView {
     }
     moveDisplaced: Transition {
         NumberAnimation { property: "y"; duration: Theme.durationRemoval; easing.type: Easing.OutCubic }
+    }
+
+    Timer {
+        interval: Theme.durationScreen
+        running: true
+        onTriggered: list.opening = false
     }
 }

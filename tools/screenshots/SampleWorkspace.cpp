@@ -69,3 +69,18 @@ void SampleWorkspace::crowd(WorkspaceStore &store)
                 isLoose ? std::nullopt : std::optional(folders.at(i % folders.size())));
     }
 }
+
+void SampleWorkspace::manyTasks(WorkspaceStore &store)
+{
+    fill(store);
+    const Timestamp now = store.clock().now();
+    store.newTask(
+        QStringLiteral("Sort the letters of the whole last year by sender and by month ").repeated(4),
+        TaskPriority::high, now - std::chrono::hours(90));
+    store.newTask(QStringLiteral("قراءة الكتاب الجديد"), TaskPriority::low, now);
+    store.newTask(QStringLiteral("Water the plants 🪴 and feed the cat 🐈"), TaskPriority::medium, {});
+    store.newTask({}, TaskPriority::medium, {});
+    for (int i = 1; i <= 10'000; ++i)
+        store.newTask(QStringLiteral("Task %1").arg(i), TaskPriority(i % 3),
+                      now + std::chrono::hours(24) * (i % 30));
+}

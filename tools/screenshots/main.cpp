@@ -91,11 +91,32 @@ QList<Picture> galleryPictures()
     return pictures;
 }
 
+/// The whole window, with the screen that the content selects.
+constexpr char windowPage[] =
+    "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Shell\n"
+    "Item { OVBackground { anchors.fill: parent } WorkspaceView { anchors.fill: parent } }";
+
+QList<Picture> tasksPictures()
+{
+    const auto with = [](void (*fill)(WorkspaceStore &)) {
+        return [fill](WorkspaceStore &store, UIState &ui) {
+            fill(store);
+            ui.select(QStringLiteral("tasks"));
+        };
+    };
+    const Content empty = with([](WorkspaceStore &) {});
+    const Content many = with(SampleWorkspace::manyTasks);
+    return {
+        {QStringLiteral("tasks-empty"), windowPage, windowSize, empty, light},
+        {QStringLiteral("tasks-empty-dark"), windowPage, windowSize, empty, dark},
+        {QStringLiteral("tasks-many"), windowPage, windowSize, many, light},
+        {QStringLiteral("tasks-many-small"), windowPage, smallSize, many, dark},
+        {QStringLiteral("tasks-many-small-huge"), windowPage, smallSize, many, both(light, huge)},
+    };
+}
+
 QList<Picture> shellPictures()
 {
-    const QByteArray page =
-        "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Shell\n"
-        "Item { OVBackground { anchors.fill: parent } WorkspaceView { anchors.fill: parent } }";
     const auto on = [](const char *place, void (*fill)(WorkspaceStore &)) {
         return [place, fill](WorkspaceStore &store, UIState &ui) {
             fill(store);
@@ -111,7 +132,8 @@ QList<Picture> shellPictures()
     };
     QList<Picture> pictures;
     const auto add = [&](const QByteArray &name, QSize size, const Content &content, const Look &look) {
-        pictures.append({QStringLiteral("shell-") + QString::fromLatin1(name), page, size, content, look});
+        pictures.append(
+            {QStringLiteral("shell-") + QString::fromLatin1(name), windowPage, size, content, look});
     };
     for (const auto &[name, look] : looks())
         add(name.toLatin1(), windowSize, sample, look);
@@ -193,7 +215,7 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture : galleryPictures() + shellPictures()) {
+    for (const Picture &picture : galleryPictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

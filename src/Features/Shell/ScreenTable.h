@@ -16,7 +16,9 @@ struct Screen {
     std::string_view recordProperty;
 };
 
-inline constexpr std::array<Screen, 0> screens = {};
+inline constexpr auto screens = std::to_array<Screen>({
+    {Destination::Kind::tasks, "Orvel/Tasks/TasksView.qml", {}},
+});
 
 /// The screen of this kind; null where none is made yet.
 constexpr const Screen *find(Destination::Kind kind)

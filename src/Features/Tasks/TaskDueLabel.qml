@@ -7,12 +7,16 @@ OVPressable {
 
     required property date due
     required property bool isOverdue
+    /// Whether the keyboard works the row, so that the place in the picker shows at once.
+    required property bool byKeyboard
+    property date now: new Date()
     readonly property OVPopup popup: loader.item as OVPopup
 
     signal picked(moment: date)
     signal cleared()
 
     function open() {
+        now = new Date()
         loader.active = true
         popup.open()
     }
@@ -35,28 +39,16 @@ OVPressable {
         id: loader
         active: false
 
-        sourceComponent: OVPopup {
+        sourceComponent: OVDatePopup {
             parent: label
             x: label.width - width
-            y: label.height + Theme.space4
-            focus: true
-
-            onOpened: picker.forceActiveFocus(Qt.PopupFocusReason)
-
-            contentItem: OVDatePicker {
-                id: picker
-                clearable: label.text !== ""
-                showsToday: true
-                value: label.due
-                onChosen: moment => {
-                    label.picked(moment)
-                    label.popup.close()
-                }
-                onCleared: {
-                    label.cleared()
-                    label.popup.close()
-                }
-            }
+            byKeyboard: label.byKeyboard
+            clearable: label.text !== ""
+            now: label.now
+            showsTime: true
+            value: label.due
+            onCleared: label.cleared()
+            onEdited: moment => label.picked(moment)
         }
     }
 }

@@ -161,6 +161,7 @@ ScreenListRow {
         TaskDueLabel {
             id: dueLabel
             anchors.verticalCenter: parent.verticalCenter
+            byKeyboard: row.list.focusVisible
             due: row.due
             isOverdue: row.isOverdue
             text: row.dueText

@@ -32,9 +32,9 @@ class TasksViewModel : public QObject
     /// Whether the filter takes no task.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY filteredChanged FINAL)
 
-    Q_PROPERTY(QStringList filterTexts READ filterTexts CONSTANT FINAL)
-    Q_PROPERTY(QStringList statusTexts READ statusTexts CONSTANT FINAL)
-    Q_PROPERTY(QStringList priorityTexts READ priorityTexts CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> filterTexts READ filterTexts CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> statusTexts READ statusTexts CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> priorityTexts READ priorityTexts CONSTANT FINAL)
 
 public:
     explicit TasksViewModel(QObject *parent = nullptr);

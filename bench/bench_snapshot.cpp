@@ -13,6 +13,7 @@
 
 #include <cstdio>
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace
@@ -25,6 +26,13 @@ void fail(const char *what)
     std::exit(2);
 }
 
+/// Merges what the round before has freed, which would otherwise be done, and timed, within the next one.
+void settleHeap()
+{
+    // Any call of mallopt does so first.
+    ::mallopt(M_PERTURB, 0);
+}
+
 void benchLoad(Comparison &comparison, const QString &size, int rounds, const QString &path,
                const QByteArray &bytes)
 {
@@ -34,10 +42,12 @@ void benchLoad(Comparison &comparison, const QString &size, int rounds, const QS
         rounds,
         [&] {
             std::expected<Snapshot, QString> snapshot;
+            settleHeap();
             return timed([&] { snapshot = SnapshotCodec::decodeFile(path, now, &QUuid::createUuid); });
         },
         [&] {
             QJsonDocument document;
+            settleHeap();
             return timed([&] { document = QJsonDocument::fromJson(bytes); });
         });
     comparison.timeAtMost(QStringLiteral("load %1, against QJsonDocument::fromJson").arg(size),

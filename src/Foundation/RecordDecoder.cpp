@@ -1,6 +1,8 @@
 #include "Foundation/RecordDecoder.h"
 
 #include <cmath>
+#include <cstring>
+#include <map>
 
 namespace
 {
@@ -34,12 +36,27 @@ std::optional<QUuid> parseUuid(std::string_view text)
 }
 } // namespace
 
+/// Where a text may be known: a number made of its length and ends, which differ in most texts.
+std::size_t SharedTexts::slot(std::string_view utf8)
+{
+    quint64 head = 0, tail = 0;
+    if (utf8.size() >= sizeof head) {
+        std::memcpy(&head, utf8.data(), sizeof head);
+        std::memcpy(&tail, utf8.data() + utf8.size() - sizeof tail, sizeof tail);
+    } else {
+        for (const char c : utf8)
+            head = head << 8 | quint8(c);
+    }
+    static constexpr quint64 mixer = 0x9e3779b97f4a7c15;
+    return ((head ^ tail * mixer ^ utf8.size()) * mixer >> 32) % places;
+}
+
 QString SharedTexts::text(std::string_view utf8)
 {
     const auto convert = [&] { return QString::fromUtf8(utf8.data(), qsizetype(utf8.size())); };
     if (utf8.size() > longest)
         return convert();
-    Known &known = m_known[std::hash<std::string_view>()(utf8) % m_known.size()];
+    Known &known = m_known[slot(utf8)];
     if (std::string_view(known.utf8.data(), known.size) != utf8) {
         known.text = convert();
         known.size = utf8.copy(known.utf8.data(), longest);
@@ -123,13 +140,14 @@ bool RecordDecoder::read(Element json, QMap<QString, QString> &out, const Decode
     simdjson::dom::object object;
     if (json.get(object) != simdjson::SUCCESS)
         return false;
-    out.clear();
+    std::map<QString, QString> values;
     for (const auto [key, value] : object) {
         std::string_view text;
         if (value.get(text) != simdjson::SUCCESS)
             return false;
         // Keys written by this program are in order.
-        out.insert(out.cend(), context.texts.text(key), context.texts.text(text));
+        values.insert_or_assign(values.end(), context.texts.text(key), context.texts.text(text));
     }
+    out = QMap(std::move(values));
     return true;
 }

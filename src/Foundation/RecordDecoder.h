@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QUuid>
 
+#include <algorithm>
 #include <array>
 #include <bitset>
 #include <functional>
@@ -25,13 +26,16 @@ public:
 private:
     /// Longer texts are seldom equal. Ids as text have 36 characters.
     static constexpr std::size_t longest = 36;
+    static constexpr std::size_t places = 256;
+
+    static std::size_t slot(std::string_view utf8);
 
     struct Known {
         std::array<char, longest> utf8;
         QString text;
         std::size_t size = longest + 1;
     };
-    std::array<Known, 256> m_known;
+    std::array<Known, places> m_known;
 };
 
 /// What goes along with the reading of one document.
@@ -101,7 +105,7 @@ inline constexpr bool isOptional = false;
 template <typename T>
 inline constexpr bool isOptional<std::optional<T>> = true;
 
-/// The field list as tables, so that a key is found by comparing it with the one that should come next.
+/// The field list as tables.
 template <FieldListed Record>
 struct FieldTable {
     static constexpr std::size_t size = std::tuple_size_v<decltype(Record::fields())>;
@@ -109,15 +113,9 @@ struct FieldTable {
     static constexpr std::array<std::string_view, size> names =
         std::apply([](const auto &...field) { return std::array{field.name...}; }, Record::fields());
 
-    /// The field with this name, looked for from the expected one on; `size` if there is none.
-    static std::size_t find(std::string_view name, std::size_t expected)
+    static std::size_t find(std::string_view name)
     {
-        for (std::size_t step = 0; step < size; ++step) {
-            const std::size_t index = (expected + step) % size;
-            if (names[index] == name)
-                return index;
-        }
-        return size;
+        return std::size_t(std::ranges::find(names, name) - names.begin());
     }
 
     /// The value of each field, as far as the object has it.
@@ -144,13 +142,25 @@ struct FieldTable {
         if (json.get(object) != simdjson::SUCCESS)
             return std::nullopt;
         std::optional<Values> values(std::in_place);
-        std::size_t expected = 0;
-        for (const auto [key, value] : object) {
-            const std::size_t index = find(key, expected);
+        auto member = object.begin();
+        const auto end = object.end();
+        // Files written by this program have the keys in order, so each is first compared with one name only.
+        const auto takeNext = [&]<std::size_t Index>() {
+            static constexpr std::string_view name = std::get<Index>(Record::fields()).name;
+            if (member == end || member.key() != name)
+                return;
+            values->elements[Index] = member.value();
+            values->present.set(Index);
+            ++member;
+        };
+        [&]<std::size_t... Index>(std::index_sequence<Index...>) {
+            (takeNext.template operator()<Index>(), ...);
+        }(std::make_index_sequence<size>());
+        for (; member != end; ++member) {
+            const std::size_t index = find(member.key());
             if (index == size)
                 continue;
-            expected = index + 1;
-            values->elements[index] = value;
+            values->elements[index] = member.value();
             values->present.set(index);
         }
         return values;

@@ -1,6 +1,6 @@
 #include "App/OrvelCommands.h"
 
-#include <QKeySequence>
+#include "Features/Shell/KeyText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,7 +62,7 @@ QList<OrvelMenu> OrvelCommands::menus()
         if (menus.isEmpty() || menus.last().title != entry.menu)
             menus.append({entry.menu, {}});
         menus.last().commands.append({entry.id, entry.title, entry.keys,
-                                      QKeySequence(entry.keys).toString(QKeySequence::NativeText),
+                                      KeyText::of(QKeySequence(entry.keys)),
                                       entry.group == Entry::Group::next});
     }
     return menus;

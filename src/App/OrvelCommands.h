@@ -20,7 +20,7 @@ public:
     QString title;
     /// The key sequence in portable form, such as "Ctrl+N"; empty for none.
     QString keys;
-    /// The same as this machine writes it.
+    /// The same as a person reads it on this machine.
     QString keysText;
     /// Whether a line stands above the entry.
     bool startsGroup = false;

@@ -3,12 +3,17 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.App
 import Orvel.DesignSystem
+import Orvel.Shell
 
 /// The menus of the commands, inside the window.
 OVMenuBar {
     id: bar
 
     required property OrvelCommands commands
+
+    background: ShellGround {
+        edge: Qt.BottomEdge
+    }
 
     Component.onCompleted: {
         for (const menu of commands.menus)

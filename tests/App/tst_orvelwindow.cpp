@@ -118,6 +118,7 @@ private slots:
         QVERIFY(item("OrvelIntroView"));
         QTest::keyClick(m_window, Qt::Key_Space);
         QTRY_VERIFY(!item("OrvelIntroView"));
+        QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
         edit([](AppSettings &settings) { settings.theme.accent = AccentPalette::teal; });
         QTest::qWait(0);
         QVERIFY(!item("OrvelIntroView"));
@@ -138,6 +139,7 @@ private slots:
         });
         open();
         QVERIFY(!item("OrvelIntroView"));
+        QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
     }
 
     void hasItsSizeAndTitle()

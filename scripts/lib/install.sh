@@ -4,7 +4,7 @@ packages_build=(
     ca-certificates ccache cmake g++ git ninja-build pkg-config
     libdeflate-dev libgl-dev libsimdjson-dev zlib1g-dev
     qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
-    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    qml6-module-qt-labs-qmlmodels qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
     qml6-module-qtquick-shapes qml6-module-qtquick-templates qml6-module-qtquick-window
     fonts-crosextra-caladea fonts-inter fonts-jetbrains-mono fonts-noto-color-emoji fonts-quicksand fonts-vollkorn

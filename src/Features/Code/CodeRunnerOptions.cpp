@@ -27,7 +27,6 @@ QString shellOf(const QProcessEnvironment &environment)
 CodeRunnerOptions CodeRunnerOptions::ofThisMachine()
 {
     const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    return {.loginShell = shellOf(environment),
-            .temporaryFolder = QDir::tempPath(),
-            .environment = environment};
+    return {
+        .loginShell = shellOf(environment), .temporaryFolder = QDir::tempPath(), .environment = environment};
 }

@@ -1,3 +1,4 @@
+#include "DesignSystem/OVTheme.h"
 #include "Harness/TestComposer.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
@@ -17,6 +18,9 @@ public slots:
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Workspace", &m_workspace);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         m_session.provideTo(*engine);
+        const WorkspaceStore &store = m_workspace.store();
+        connect(&store, &WorkspaceStore::settingsChanged, this,
+                [&store] { OVTheme::apply(store.settings()); });
         m_workspace.reset();
     }
 

@@ -75,6 +75,8 @@ public:
         return id.toString(QUuid::WithoutBraces);
     }
 
+    Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }
+
     Q_INVOKABLE QString addFolder(const QString &name)
     {
         return m_store.newFolder(name, QStringLiteral("📁")).id.toString(QUuid::WithoutBraces);
@@ -108,6 +110,20 @@ public:
     {
         m_store.changeSettings(
             [&](AppSettings &settings) { settings.setModule(enumFromRaw<OrvelModule>(raw).value(), false); });
+    }
+
+    /// Hides every other module.
+    Q_INVOKABLE void showModules(const QStringList &raws)
+    {
+        m_store.changeSettings([&](AppSettings &settings) {
+            for (const EnumCase<OrvelModule> &module : enumCases<OrvelModule>())
+                settings.setModule(module.value, raws.contains(enumRawText(module.value)));
+        });
+    }
+    Q_INVOKABLE void setAccent(const QString &raw)
+    {
+        m_store.changeSettings(
+            [&](AppSettings &settings) { settings.theme.accent = enumFromRaw<AccentPalette>(raw).value(); });
     }
 
 private:

@@ -35,6 +35,7 @@ FocusScope {
             height: more.implicitHeight
             model: root.navigation.inlineTabs
             spacing: Theme.space8
+            tabWidth: more.implicitWidth
 
             delegate: BottomTab {
                 required property string title

@@ -49,6 +49,7 @@ FocusScope {
                 clip: interactive
                 height: search.implicitHeight
                 model: root.navigation.tabs
+                tabWidth: search.implicitWidth
                 width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
 
                 delegate: DockButton {

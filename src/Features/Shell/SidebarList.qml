@@ -16,6 +16,9 @@ Item {
         list.currentIndex = row
         list.positionViewAtIndex(row, ListView.Contain)
         list.currentItem?.forceActiveFocus(Qt.TabFocusReason)
+        // The view has given the item its focus already, without the reason.
+        if (Window.activeFocusItem)
+            Window.activeFocusItem.focusReason = Qt.TabFocusReason
     }
 
     function openMenu() {

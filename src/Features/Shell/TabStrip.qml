@@ -9,12 +9,18 @@ ListView {
     /// The tab to be kept in sight; -1 for none.
     property int chosenTab: -1
 
+    /// Width of each tab, where all have one.
+    property int tabWidth: 0
+
     function goTo(tab: int) {
         if (tab < 0 || tab >= count)
             return
         currentIndex = tab
         positionViewAtIndex(tab, ListView.Contain)
         currentItem?.forceActiveFocus(Qt.TabFocusReason)
+        // The view has given the item its focus already, without the reason.
+        if (Window.activeFocusItem)
+            Window.activeFocusItem.focusReason = Qt.TabFocusReason
     }
 
     function reveal() {
@@ -30,8 +36,7 @@ ListView {
     cacheBuffer: 4000
     currentIndex: -1
     highlightFollowsCurrentItem: false
-    implicitHeight: currentItem?.implicitHeight ?? contentItem.childrenRect.height
-    implicitWidth: contentWidth
+    implicitWidth: count * (tabWidth + spacing) - spacing
     interactive: contentWidth > width
     keyNavigationEnabled: false
     orientation: ListView.Horizontal
@@ -39,7 +44,10 @@ ListView {
     Accessible.name: qsTr("Modules")
     Accessible.role: Accessible.PageTabList
     onChosenTabChanged: reveal()
-    onWidthChanged: reveal()
+    onWidthChanged: {
+        positionViewAtBeginning()
+        reveal()
+    }
     onActiveFocusChanged: {
         if (activeFocus && currentIndex < 0)
             goTo(0)

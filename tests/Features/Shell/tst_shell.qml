@@ -1,0 +1,287 @@
+import QtQuick
+import QtTest
+import Orvel.DesignSystem
+import Orvel.Session
+import Orvel.Shell
+import Orvel.Testing
+
+Item {
+    id: window
+
+    width: 1240
+    height: 820
+
+    Component {
+        id: workspaceView
+
+        WorkspaceView {
+            anchors.fill: parent
+        }
+    }
+
+    TestCase {
+        name: "Shell"
+        when: windowShown
+
+        property Item view: null
+
+        function init() {
+            Workspace.reset()
+        }
+
+        function cleanup() {
+            view.destroy()
+            view = null
+        }
+
+        function start() {
+            view = workspaceView.createObject(window)
+            waitForRendering(view)
+        }
+
+        /// Everything below the item and in popups that passes the check and is seen.
+        function all(item, check) {
+            let found = check(item) ? [item] : []
+            for (let i = 0; i < item.children.length; ++i) {
+                const child = item.children[i]
+                if (child.visible && child.opacity > 0)
+                    found = found.concat(all(child, check))
+            }
+            return found
+        }
+
+        function named(text, type) {
+            const root = window.parent
+            return all(root, item => (item.text === text || item.title === text)
+                                     && (type === undefined || item instanceof type))
+        }
+
+        function one(text, type) {
+            let found = []
+            tryVerify(() => { found = named(text, type); return found.length > 0 }, 2000, "There is " + text)
+            return found[0]
+        }
+
+        function gone(text, type) {
+            tryVerify(() => named(text, type).length === 0, 2000, text + " is gone")
+        }
+
+        function press(text, type) {
+            // Clicks on a screen that is still fading are not taken.
+            tryCompare(all(view, item => item instanceof DetailHost)[0], "busy", false)
+            mouseClick(one(text, type))
+        }
+
+        function typeText(text) {
+            for (const letter of text)
+                keyClick(letter)
+        }
+
+        function pages() {
+            return JSON.parse(Workspace.saved()).pages.map(page => page.title)
+        }
+
+        function test_opensAPageAndComesBackWhenItIsDeleted() {
+            Workspace.hideModule("reader")
+            const id = Workspace.addPage("Plan")
+            start()
+            press("Plan", SidebarRow)
+            compare(Orvel.ui.selection.text, "page/" + id.toUpperCase())
+            one("Plan", ModulePlaceholder)
+            keyClick(Qt.Key_Delete)
+            compare(Orvel.ui.selection.text, "dashboard")
+            one("Dashboard", ModulePlaceholder)
+            gone("Plan")
+            compare(pages(), [])
+        }
+
+        function test_menuOfAPage() {
+            Workspace.showModules(["tasks"])
+            Workspace.addFolder("Travel & rest")
+            Workspace.addPage("Plan")
+            start()
+            mouseClick(one("Plan", SidebarRow), 60, 10, Qt.RightButton)
+            press("Add to favorites", OVMenuItem)
+            one("Favorites", SidebarSection)
+            compare(named("Plan", SidebarRow).length, 2)
+            gone("Duplicate", OVMenuItem)
+            mouseClick(one("Plan", SidebarRow), 60, 10, Qt.RightButton)
+            one("Remove from favorites", OVMenuItem)
+            press("Move to folder", OVMenuItem)
+            press("Travel && rest", OVMenuItem)
+            const saved = JSON.parse(Workspace.saved())
+            compare(saved.pages[0].folderID, saved.folders[0].id)
+            gone("Duplicate", OVMenuItem)
+            mouseClick(one("Plan", SidebarRow), 60, 10, Qt.RightButton)
+            press("Delete", OVMenuItem)
+            gone("Plan", SidebarRow)
+        }
+
+        function test_tellsThatAPageIsMissing() {
+            const id = Workspace.addPage("Plan")
+            Orvel.ui.selectPage(id)
+            start()
+            one("Plan", ModulePlaceholder)
+            Workspace.deletePage(id)
+            one("Page not found", MissingRecord)
+            press("Back to dashboard", OVSecondaryButton)
+            compare(Orvel.ui.selection.text, "dashboard")
+        }
+
+        function test_namesFolders() {
+            Workspace.hideModule("reader")
+            start()
+            press("New folder", SidebarRow)
+            compare(one("", OVTextField).placeholderText, "Folder name")
+            tryCompare(one("", OVTextField), "activeFocus", true)
+            typeText("  ")
+            keyClick(Qt.Key_Return)
+            one("New folder", SidebarRow)
+            press("New folder", SidebarRow)
+            tryCompare(one("", OVTextField), "activeFocus", true)
+            typeText("Travel ")
+            keyClick(Qt.Key_Return)
+            press("Travel", SidebarRow)
+            keyClick(Qt.Key_F2)
+            tryCompare(one("Travel", OVTextField), "activeFocus", true)
+            typeText("Rest")
+            keyClick(Qt.Key_Return)
+            press("Rest", SidebarRow)
+            keyClick(Qt.Key_F2)
+            tryCompare(one("Rest", OVTextField), "activeFocus", true)
+            typeText("Not this")
+            keyClick(Qt.Key_Escape)
+            one("Rest", SidebarRow)
+            compare(JSON.parse(Workspace.saved()).folders.map(folder => folder.name), ["Rest"])
+        }
+
+        function test_walksByKeyboard() {
+            Workspace.addPage("Plan", false, Workspace.addFolder("Travel"))
+            for (const module of ["focus", "habits", "insights", "relax", "reader", "code", "decks"])
+                Workspace.hideModule(module)
+            start()
+            view.forceActiveFocus()
+            let rounds = 0
+            while (!named("Dashboard", SidebarRow)[0].visualFocus && rounds++ < 10)
+                keyClick(Qt.Key_Tab)
+            verify(one("Dashboard", SidebarRow).visualFocus, "Tab reaches the row of what is shown")
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            compare(Orvel.ui.selection.text, "today")
+            verify(one("Today", SidebarRow).visualFocus)
+            keyClick(Qt.Key_End)
+            verify(one("New folder", SidebarRow).visualFocus)
+            keyClick(Qt.Key_Up)
+            verify(one("Plan", SidebarRow).visualFocus)
+            keyClick(Qt.Key_Left)
+            verify(one("Travel", SidebarRow).visualFocus)
+            keyClick(Qt.Key_Left)
+            gone("Plan", SidebarRow)
+            keyClick(Qt.Key_Right)
+            one("Plan", SidebarRow)
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Menu)
+            one("Duplicate", OVMenuItem)
+            keyClick(Qt.Key_Escape)
+            gone("Duplicate", OVMenuItem)
+            verify(one("Plan", SidebarRow).activeFocus, "The focus comes back from the menu")
+            mouseClick(one("Tasks", SidebarRow))
+            verify(!one("Tasks", SidebarRow).visualFocus, "No ring for the mouse")
+            keyClick(Qt.Key_Down)
+            verify(one("Calendar", SidebarRow).visualFocus, "The keyboard goes on from a click")
+        }
+
+        function test_groupGoesWithItsLastModule() {
+            for (const module of ["habits", "insights", "relax"])
+                Workspace.hideModule(module)
+            start()
+            one("Explore", SidebarSection)
+            Workspace.hideModule("reader")
+            gone("Explore")
+        }
+
+        function test_sidebarSlidesAway() {
+            start()
+            Orvel.ui.isSidebarVisible = false
+            gone("New page", SidebarRow)
+            press("Show sidebar", OVIconButton)
+            compare(Orvel.ui.isSidebarVisible, true)
+            one("New page", SidebarRow)
+        }
+
+        function test_bottomBar_data() {
+            return [
+                { tag: "three", modules: ["dashboard", "today", "focus"], tabs: 3, more: [] },
+                { tag: "five", modules: ["dashboard", "today", "focus", "tasks", "calendar"], tabs: 4, more: ["Calendar"] }
+            ]
+        }
+
+        function test_bottomBar(data) {
+            Workspace.setNavigation("tabsBottom")
+            Workspace.showModules(data.modules)
+            Workspace.addPage("Plan", true)
+            start()
+            one("More", ShellTab)
+            compare(all(window, item => item instanceof ShellTab).length, data.tabs + 1)
+            press("More", ShellTab)
+            one("Favourites", OverflowRow)
+            const listed = all(window.parent, item => item instanceof OverflowRow).map(row => row.text)
+            compare(listed.sort(), data.more.concat(["Favourites", "Plan", "Pages", "Plan"]).sort())
+            press("Plan", OverflowRow)
+            one("Plan", ModulePlaceholder)
+            gone("Favourites", OverflowRow)
+        }
+
+        function test_everyStyleShowsTheDetail_data() {
+            return ["sidebar", "tabsTop", "tabsBottom", "glassDock"].map(style => ({ tag: style }))
+        }
+
+        function test_everyStyleShowsTheDetail(data) {
+            Workspace.setNavigation(data.tag)
+            start()
+            press("Today")
+            one("Today", ModulePlaceholder)
+            // A hidden module has no button, but a key may still lead there.
+            Workspace.hideModule("relax")
+            Orvel.ui.select("relax")
+            one("Relax", ModulePlaceholder)
+            tryVerify(() => named("Relax").length === all(one("Relax", ModulePlaceholder), item => item.text === "Relax"
+                                                          || item.title === "Relax").length)
+        }
+
+        function test_themeRebuildsAllButTheSettings() {
+            Workspace.setNavigation("tabsTop")
+            Orvel.ui.select("relax")
+            start()
+            const before = one("Relax", ModulePlaceholder)
+            Workspace.setAccent("teal")
+            tryVerify(() => named("Relax", ModulePlaceholder).length === 1
+                            && named("Relax", ModulePlaceholder)[0] !== before)
+            Orvel.ui.select("settings")
+            const settings = one("Settings", ModulePlaceholder)
+            Workspace.setAccent("rose")
+            Workspace.setNavigation("glassDock")
+            one("Search", DockButton)
+            wait(0)
+            verify(one("Settings", ModulePlaceholder) === settings, "The settings stand")
+        }
+
+        function test_workspaceMenu() {
+            start()
+            press("My Workspace", ShellWorkspaceMenu)
+            press("Workspace settings", OVMenuItem)
+            compare(Orvel.ui.selection.text, "settings")
+            gone("Workspace settings", OVMenuItem)
+            press("My Workspace", ShellWorkspaceMenu)
+            press("Keyboard shortcuts", OVMenuItem)
+            compare(Orvel.ui.isShortcutsPresented, true)
+            gone("Keyboard shortcuts", OVMenuItem)
+            press("My Workspace", ShellWorkspaceMenu)
+            press("New note", OVMenuItem)
+            compare(JSON.parse(Workspace.saved()).pages[0].kind, "note")
+            gone("New note", OVMenuItem)
+            press("Search", SidebarRow)
+            compare(Orvel.ui.isSearchPresented, true)
+        }
+    }
+}

@@ -8,10 +8,10 @@ import Orvel.Shell
 FocusScope {
     id: root
 
-    readonly property bool hasSidebar: navigationModel.style === "sidebar"
+    readonly property bool hasSidebar: navigation.style === "sidebar"
 
     NavigationViewModel {
-        id: navigationModel
+        id: navigation
 
         store: Orvel.store
         ui: Orvel.ui
@@ -36,22 +36,17 @@ FocusScope {
             height: parent.height
             width: Theme.sidebarWidth
 
-            sourceComponent: SidebarView {
-                navigation: navigationModel
-                shown: column.visible
-            }
+            sourceComponent: SidebarView { }
         }
     }
 
     Loader {
         id: top
 
-        active: navigationModel.style === "tabsTop"
+        active: navigation.style === "tabsTop"
         width: root.width
 
-        sourceComponent: ShellTopArea {
-            navigation: navigationModel
-        }
+        sourceComponent: ShellTopArea { }
     }
 
     DetailHost {
@@ -65,7 +60,7 @@ FocusScope {
         id: bottom
 
         anchors.bottom: parent.bottom
-        sourceComponent: navigationModel.style === "tabsBottom" ? bottomTabs : navigationModel.style === "glassDock" ? dock : null
+        sourceComponent: navigation.style === "tabsBottom" ? bottomTabs : navigation.style === "glassDock" ? dock : null
         width: root.width
     }
 
@@ -81,16 +76,12 @@ FocusScope {
     Component {
         id: bottomTabs
 
-        BottomTabBar {
-            navigation: navigationModel
-        }
+        BottomTabBar { }
     }
 
     Component {
         id: dock
 
-        GlassDockBar {
-            navigation: navigationModel
-        }
+        GlassDockBar { }
     }
 }

@@ -9,9 +9,14 @@ import Orvel.Shell
 FocusScope {
     id: root
 
-    required property NavigationViewModel navigation
-
     implicitHeight: more.implicitHeight + 2 * Theme.space4
+
+    NavigationViewModel {
+        id: navigationModel
+
+        store: Orvel.store
+        ui: Orvel.ui
+    }
 
     ShellGround {
         anchors.fill: parent
@@ -23,7 +28,7 @@ FocusScope {
         anchors.leftMargin: Theme.space8
         anchors.verticalCenter: parent.verticalCenter
         compact: true
-        navigation: root.navigation
+        navigation: navigationModel
         opensUpwards: true
     }
 
@@ -33,7 +38,7 @@ FocusScope {
 
         TabStrip {
             height: more.implicitHeight
-            model: root.navigation.inlineTabs
+            model: navigationModel.inlineTabs
             spacing: Theme.space8
             tabWidth: more.implicitWidth
 
@@ -42,7 +47,7 @@ FocusScope {
                 required property string destination
 
                 activeFocusOnTab: false
-                chosen: destination === root.navigation.selection
+                chosen: destination === navigationModel.selection
                 text: title
                 onClicked: Orvel.ui.select(destination)
             }
@@ -51,7 +56,7 @@ FocusScope {
         BottomTab {
             id: more
 
-            chosen: root.navigation.isMoreChosen
+            chosen: navigationModel.isMoreChosen
             symbol: "ellipsis"
             text: qsTr("More")
             Accessible.role: Accessible.ButtonMenu

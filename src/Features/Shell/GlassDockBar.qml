@@ -9,9 +9,14 @@ import Orvel.Shell
 FocusScope {
     id: root
 
-    required property NavigationViewModel navigation
-
     implicitHeight: dock.implicitHeight + Theme.space8 + Theme.space16
+
+    NavigationViewModel {
+        id: navigationModel
+
+        store: Orvel.store
+        ui: Orvel.ui
+    }
 
     OVGlassCapsule {
         id: dock
@@ -37,7 +42,7 @@ FocusScope {
 
                 anchors.verticalCenter: parent.verticalCenter
                 compact: true
-                navigation: root.navigation
+                navigation: navigationModel
                 opensUpwards: true
             }
 
@@ -45,10 +50,10 @@ FocusScope {
 
             TabStrip {
                 anchors.verticalCenter: parent.verticalCenter
-                chosenTab: root.navigation.chosenTab
+                chosenTab: navigationModel.chosenTab
                 clip: interactive
                 height: search.implicitHeight
-                model: root.navigation.tabs
+                model: navigationModel.tabs
                 tabWidth: search.implicitWidth
                 width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
 
@@ -57,7 +62,7 @@ FocusScope {
                     required property string destination
 
                     activeFocusOnTab: false
-                    chosen: destination === root.navigation.selection
+                    chosen: destination === navigationModel.selection
                     text: title
                     onClicked: Orvel.ui.select(destination)
                 }

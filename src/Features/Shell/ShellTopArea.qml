@@ -1,14 +1,20 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Shell
 
 /// The top bar and the tabs below it, on one ground.
 FocusScope {
     id: root
 
-    required property NavigationViewModel navigation
-
     implicitHeight: column.implicitHeight + Theme.space8
+
+    NavigationViewModel {
+        id: navigationModel
+
+        store: Orvel.store
+        ui: Orvel.ui
+    }
 
     ShellGround {
         anchors.fill: parent
@@ -26,12 +32,12 @@ FocusScope {
         y: Theme.space4
 
         ShellTopBar {
-            navigation: root.navigation
+            navigation: navigationModel
             width: parent.width
         }
 
         TopTabBar {
-            navigation: root.navigation
+            navigation: navigationModel
             width: parent.width
         }
     }

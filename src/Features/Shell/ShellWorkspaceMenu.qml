@@ -23,11 +23,7 @@ OVPressable {
     toolTip: compact ? text : ""
     Accessible.name: qsTr("Workspace menu, %1").arg(text)
     Accessible.role: Accessible.ButtonMenu
-    onClicked: {
-        menu.active = true
-        const opened = menu.item as OVMenu
-        opened.popup(root, 0, opensUpwards ? -opened.implicitHeight - Theme.space4 : height + Theme.space4)
-    }
+    onClicked: menu.popup(root, 0, opensUpwards ? -menu.implicitHeight - Theme.space4 : height + Theme.space4)
 
     contentItem: Item {
         WorkspaceTile {
@@ -62,41 +58,37 @@ OVPressable {
         }
     }
 
-    Loader {
+    OVMenu {
         id: menu
 
-        active: false
+        OVMenuItem {
+            shortcutText: root.navigation.newPageKeys
+            symbol: "doc.badge.plus"
+            text: qsTr("New page")
+            onTriggered: root.navigation.newPage()
+        }
 
-        sourceComponent: OVMenu {
-            OVMenuItem {
-                shortcutText: root.navigation.newPageKeys
-                symbol: "doc.badge.plus"
-                text: qsTr("New page")
-                onTriggered: root.navigation.newPage()
-            }
+        OVMenuItem {
+            shortcutText: root.navigation.newNoteKeys
+            symbol: "note.text.badge.plus"
+            text: qsTr("New note")
+            onTriggered: root.navigation.newNote()
+        }
 
-            OVMenuItem {
-                shortcutText: root.navigation.newNoteKeys
-                symbol: "note.text.badge.plus"
-                text: qsTr("New note")
-                onTriggered: root.navigation.newNote()
-            }
+        OVMenuSeparator { }
 
-            OVMenuSeparator { }
+        OVMenuItem {
+            shortcutText: root.navigation.settingsKeys
+            symbol: "gearshape"
+            text: qsTr("Workspace settings")
+            onTriggered: Orvel.ui.select("settings")
+        }
 
-            OVMenuItem {
-                shortcutText: root.navigation.settingsKeys
-                symbol: "gearshape"
-                text: qsTr("Workspace settings")
-                onTriggered: Orvel.ui.select("settings")
-            }
-
-            OVMenuItem {
-                shortcutText: root.navigation.shortcutsKeys
-                symbol: "keyboard"
-                text: qsTr("Keyboard shortcuts")
-                onTriggered: Orvel.ui.isShortcutsPresented = true
-            }
+        OVMenuItem {
+            shortcutText: root.navigation.shortcutsKeys
+            symbol: "keyboard"
+            text: qsTr("Keyboard shortcuts")
+            onTriggered: Orvel.ui.isShortcutsPresented = true
         }
     }
 }

@@ -59,19 +59,39 @@ FocusScope {
         focus: root.isEditing
         width: root.width
         y: root.gap
+        onLoaded: {
+            const field = item as SidebarNameField
+            field.symbol = root.sidebar.showsIcons ? "folder" : ""
+            field.begin(root.isFolder ? root.sidebar.renameText : root.sidebar.folderName)
+        }
 
         sourceComponent: SidebarNameField {
             placeholderText: qsTr("Folder name")
-            symbol: root.sidebar.showsIcons ? "folder" : ""
-            text: root.isFolder ? root.sidebar.renameText : root.sidebar.folderName
-            onCancelled: root.isFolder ? root.sidebar.cancelRename() : root.sidebar.cancelFolder()
-            onCommitted: root.isFolder ? root.sidebar.commitRename() : root.sidebar.commitFolder()
-            onEdited: text => {
-                if (root.isFolder)
-                    root.sidebar.renameText = text
-                else
-                    root.sidebar.folderName = text
-            }
         }
+    }
+
+    Connections {
+        function onCancelled() {
+            if (root.isFolder)
+                root.sidebar.cancelRename()
+            else
+                root.sidebar.cancelFolder()
+        }
+
+        function onCommitted() {
+            if (root.isFolder)
+                root.sidebar.commitRename()
+            else
+                root.sidebar.commitFolder()
+        }
+
+        function onEdited(text: string) {
+            if (root.isFolder)
+                root.sidebar.renameText = text
+            else
+                root.sidebar.folderName = text
+        }
+
+        target: editor.item
     }
 }

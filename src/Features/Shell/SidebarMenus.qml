@@ -3,24 +3,22 @@ import Orvel.DesignSystem
 import Orvel.Session
 import Orvel.Shell
 
-/// The menus of the sidebar's rows, made when they are first asked for.
+/// The menus of the sidebar's rows, one for all rows of a kind.
 Item {
     id: root
 
     required property SidebarViewModel sidebar
 
-    property int row: -1
+    property var folderID
 
     /// Opens the menu of an entry that has one, at a point of an item.
     function open(entry: SidebarEntry, from: Item, x: real, y: real) {
-        row = entry.index
         if (entry.isPage) {
-            pageMenu.active = true
             pageActions.open(entry.recordID)
-            pageMenu.item.popup(from, x, y)
+            pageMenu.popup(from, x, y)
         } else if (entry.isFolder) {
-            folderMenu.active = true
-            folderMenu.item.popup(from, x, y)
+            folderID = entry.recordID
+            folderMenu.popup(from, x, y)
         }
     }
 
@@ -31,62 +29,54 @@ Item {
         ui: Orvel.ui
     }
 
-    Loader {
+    OVMenu {
         id: pageMenu
 
-        active: false
+        OVMenuItem {
+            symbol: pageActions.favoriteSymbol
+            text: pageActions.favoriteTitle
+            onTriggered: pageActions.toggleFavorite()
+        }
 
-        sourceComponent: OVMenu {
-            OVMenuItem {
-                symbol: pageActions.favoriteSymbol
-                text: pageActions.favoriteTitle
-                onTriggered: pageActions.toggleFavorite()
-            }
+        OVMenuItem {
+            symbol: "doc.on.doc"
+            text: qsTr("Duplicate")
+            onTriggered: pageActions.duplicate()
+        }
 
-            OVMenuItem {
-                symbol: "doc.on.doc"
-                text: qsTr("Duplicate")
-                onTriggered: pageActions.duplicate()
-            }
+        FolderChoiceMenu {
+            actions: pageActions
+        }
 
-            FolderChoiceMenu {
-                actions: pageActions
-            }
+        OVMenuSeparator { }
 
-            OVMenuSeparator { }
-
-            OVMenuItem {
-                destructive: true
-                shortcutText: qsTr("Del")
-                symbol: "trash"
-                text: qsTr("Delete")
-                onTriggered: pageActions.remove()
-            }
+        OVMenuItem {
+            destructive: true
+            shortcutText: qsTr("Del")
+            symbol: "trash"
+            text: qsTr("Delete")
+            onTriggered: pageActions.remove()
         }
     }
 
-    Loader {
+    OVMenu {
         id: folderMenu
 
-        active: false
+        OVMenuItem {
+            shortcutText: qsTr("F2")
+            symbol: "pencil"
+            text: qsTr("Rename")
+            onTriggered: root.sidebar.beginRename(root.sidebar.folderRow(root.folderID))
+        }
 
-        sourceComponent: OVMenu {
-            OVMenuItem {
-                shortcutText: qsTr("F2")
-                symbol: "pencil"
-                text: qsTr("Rename")
-                onTriggered: root.sidebar.beginRename(root.row)
-            }
+        OVMenuSeparator { }
 
-            OVMenuSeparator { }
-
-            OVMenuItem {
-                destructive: true
-                shortcutText: qsTr("Del")
-                symbol: "trash"
-                text: qsTr("Delete folder")
-                onTriggered: root.sidebar.remove(root.row)
-            }
+        OVMenuItem {
+            destructive: true
+            shortcutText: qsTr("Del")
+            symbol: "trash"
+            text: qsTr("Delete folder")
+            onTriggered: root.sidebar.remove(root.sidebar.folderRow(root.folderID))
         }
     }
 }

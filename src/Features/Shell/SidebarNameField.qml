@@ -6,7 +6,6 @@ Item {
     id: root
 
     property string symbol
-    property alias text: field.text
     property alias placeholderText: field.placeholderText
 
     property bool isEnding: false
@@ -14,6 +13,12 @@ Item {
     signal edited(string text)
     signal committed
     signal cancelled
+
+    function begin(text: string) {
+        field.text = text
+        field.selectAll()
+        field.forceActiveFocus(Qt.OtherFocusReason)
+    }
 
     function end(byUser: bool) {
         if (isEnding)
@@ -26,11 +31,6 @@ Item {
     }
 
     implicitHeight: Theme.rowHeight
-
-    Component.onCompleted: {
-        field.selectAll()
-        field.forceActiveFocus(Qt.OtherFocusReason)
-    }
 
     OVTextField {
         id: field

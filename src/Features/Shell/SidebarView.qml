@@ -7,18 +7,21 @@ import Orvel.Shell
 FocusScope {
     id: root
 
-    required property NavigationViewModel navigation
-    /// Whether the column is on the screen.
-    property bool shown: true
-
     implicitWidth: Theme.sidebarWidth
     Accessible.name: qsTr("Sidebar")
     Accessible.role: Accessible.Pane
 
+    NavigationViewModel {
+        id: navigationModel
+
+        store: Orvel.store
+        ui: Orvel.ui
+    }
+
     SidebarViewModel {
         id: sidebar
 
-        isShown: root.shown
+        isShown: root.visible
         store: Orvel.store
         ui: Orvel.ui
     }
@@ -34,7 +37,7 @@ FocusScope {
         anchors.leftMargin: Theme.space8
         anchors.right: hideButton.left
         anchors.rightMargin: Theme.space4
-        navigation: root.navigation
+        navigation: navigationModel
         y: Theme.space12
     }
 

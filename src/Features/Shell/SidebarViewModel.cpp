@@ -163,6 +163,12 @@ int SidebarViewModel::selectedRow() const
     return found == rowList().end() ? 0 : int(found - rowList().begin());
 }
 
+int SidebarViewModel::folderRow(const QUuid &folderID) const
+{
+    const auto found = std::ranges::find(rowList(), folderID, &SidebarRow::id);
+    return found == rowList().end() ? -1 : int(found - rowList().begin());
+}
+
 void SidebarViewModel::setFolded(const SidebarRow &row, bool folded)
 {
     const auto keep = [folded](auto &set, const auto &key) {

@@ -59,6 +59,8 @@ public:
     Q_INVOKABLE int moveOut(int row);
     /// The row of what the window shows, or the first one.
     Q_INVOKABLE int selectedRow() const;
+    /// -1 for an unknown folder.
+    Q_INVOKABLE int folderRow(const QUuid &folderID) const;
 
     Q_INVOKABLE void beginRename(int row);
     /// Gives the folder its new name; one that is blank leaves the old.

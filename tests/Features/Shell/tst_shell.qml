@@ -151,6 +151,10 @@ Item {
             tryCompare(one("Rest", OVTextField), "activeFocus", true)
             typeText("Not this")
             keyClick(Qt.Key_Escape)
+            mouseClick(one("Rest", SidebarRow), 60, 10, Qt.RightButton)
+            press("Rename", OVMenuItem)
+            tryCompare(one("Rest", OVTextField), "activeFocus", true)
+            keyClick(Qt.Key_Escape)
             one("Rest", SidebarRow)
             compare(JSON.parse(Workspace.saved()).folders.map(folder => folder.name), ["Rest"])
         }

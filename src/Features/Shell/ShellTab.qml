@@ -15,7 +15,7 @@ OVPressable {
 
     implicitHeight: upright ? Theme.iconHeader + label.implicitHeight + Theme.space16 : Theme.buttonHeight
     implicitWidth: content.implicitWidth + leftPadding + rightPadding
-    leftPadding: upright ? Theme.space4 : Theme.space8 + 2
+    leftPadding: upright ? Theme.space4 : Theme.space8
     rightPadding: leftPadding
     toolTip: labelled ? "" : text
     Accessible.name: text

@@ -159,6 +159,10 @@ void ShellViewModelsTest::routesToScreens()
     QCOMPARE(detail.properties().value(QStringLiteral("title")).toString(), QStringLiteral("Relax"));
     QCOMPARE(detail.properties().value(QStringLiteral("blurb")).toString(),
              QStringLiteral("Loops of calm to help you unwind."));
+    m_workspace->ui().select(QStringLiteral("tasks"));
+    QCoreApplication::processEvents();
+    QCOMPARE(detail.source(), ScreenTable::url("Orvel/Tasks/TasksView.qml"));
+    QVERIFY(detail.properties().isEmpty());
 }
 
 void ShellViewModelsTest::tellsWhatIsMissing()

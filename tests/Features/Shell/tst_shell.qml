@@ -69,7 +69,10 @@ Item {
         function press(text, type) {
             // Clicks on a screen that is still fading are not taken.
             tryCompare(all(view, item => item instanceof DetailHost)[0], "busy", false)
-            mouseClick(one(text, type))
+            const item = one(text, type)
+            if (item instanceof OVMenuItem)
+                tryCompare(item.menu, "opened", true)
+            mouseClick(item)
         }
 
         function typeText(text) {

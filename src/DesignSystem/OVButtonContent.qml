@@ -35,7 +35,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         color: root.color
         font.pixelSize: root.textSize
-        font.weight: Font.Medium
+        font.weight: Theme.textWeight + 100
         text: root.text
         width: Math.min(implicitWidth, root.width - offset)
         x: icon.x + offset

@@ -1,27 +1,39 @@
 #include "DesignSystem/OVGlowProvider.h"
 
-#include <QPainter>
-#include <QRadialGradient>
 #include <QRandomGenerator>
+
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
 
 // Small enough to be cheap, and soft enough to be stretched over a window.
 constexpr int side = 256;
-constexpr int steps = 8;
 
-QImage glow(QColor color)
+/// Rounds up or down by chance, so that a slow change of brightness shows no rings.
+int dithered(double value, QRandomGenerator &random)
 {
-    QRadialGradient gradient(side / 2.0, side / 2.0, side / 2.0);
-    for (int step = 0; step <= steps; ++step) {
-        const float distance = float(step) / steps;
-        color.setAlphaF((1 - distance) * (1 - distance) * (1 + 2 * distance));
-        gradient.setColorAt(distance, color);
-    }
+    return int(value + random.generateDouble());
+}
+
+QImage glow(const QColor &color)
+{
+    QRandomGenerator random(1);
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter(&image).fillRect(image.rect(), gradient);
+    for (int y = 0; y < side; ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < side; ++x) {
+            const double distance = std::hypot(x + 0.5 - side / 2.0, y + 0.5 - side / 2.0) / (side / 2.0);
+            const double rest = std::max(0.0, 1 - distance);
+            const double strength = rest * rest * (1 + 2 * distance);
+            const int alpha = dithered(255 * strength, random);
+            const auto part = [&](int channel) {
+                return std::min(alpha, dithered(channel * strength, random));
+            };
+            line[x] = qRgba(part(color.red()), part(color.green()), part(color.blue()), alpha);
+        }
+    }
     return image;
 }
 

@@ -32,7 +32,7 @@ Text {
         default: return Theme.sizeBody
         }
     }
-    font.weight: role >= OVText.Section && role <= OVText.Tile ? Font.DemiBold : Font.Normal
+    font.weight: role >= OVText.Section && role <= OVText.Tile ? Font.DemiBold : Theme.textWeight
     lineHeight: wrapMode === Text.NoWrap ? 1 : 1.35
     textFormat: Text.PlainText
     verticalAlignment: Text.AlignVCenter

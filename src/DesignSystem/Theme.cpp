@@ -1,6 +1,7 @@
 #include "DesignSystem/Theme.h"
 
 #include "DesignSystem/CanvasDescriptor.h"
+#include "DesignSystem/Contrast.h"
 #include "DesignSystem/OVGlowProvider.h"
 #include "DesignSystem/OVIconProvider.h"
 #include "DesignSystem/OVShadowProvider.h"
@@ -19,10 +20,11 @@ Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
     return new Theme(nullptr);
 }
 
-Theme::Theme(QObject *parent) : QObject(parent), m_colors(OVTheme::colors())
+Theme::Theme(QObject *parent) : QObject(parent)
 {
+    readColors();
     connect(&ThemeRevision::shared(), &ThemeRevision::valueChanged, this, [this] {
-        m_colors = OVTheme::colors();
+        readColors();
         emit changed();
     });
 }
@@ -46,6 +48,12 @@ QColor Theme::ovScrim() const
     QColor color = Qt::black;
     color.setAlphaF(dark() ? 0.5F : 0.22F);
     return color;
+}
+
+void Theme::readColors()
+{
+    m_colors = OVTheme::colors();
+    m_inkSecondary = Contrast::readableInk(m_colors.inkSecondary, canvasColors());
 }
 
 int Theme::control(int pixels)

@@ -5,6 +5,7 @@
 #include "DesignSystem/ThemeSpring.h"
 
 #include <QEasingCurve>
+#include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -76,6 +77,7 @@ class Theme : public QObject
     // Type
     Q_PROPERTY(QString fontFamily READ fontFamily NOTIFY changed FINAL)
     Q_PROPERTY(QString codeFamily READ codeFamily NOTIFY changed FINAL)
+    Q_PROPERTY(int textWeight READ textWeight NOTIFY changed FINAL)
     Q_PROPERTY(QString numberFamily READ numberFamily NOTIFY changed FINAL)
     Q_PROPERTY(QString emojiFamily READ emojiFamily CONSTANT FINAL)
     Q_PROPERTY(QString serifFamily READ serifFamily NOTIFY changed FINAL)
@@ -141,7 +143,8 @@ public:
     QColor ovBorder() const { return m_colors.border; }
     QColor ovBorderStrong() const { return m_colors.borderStrong; }
     QColor ovInk() const { return m_colors.ink; }
-    QColor ovInkSecondary() const { return m_colors.inkSecondary; }
+    /// Where the canvas is tinted, a shade stronger than the named colour, as it must stay readable there.
+    QColor ovInkSecondary() const { return m_inkSecondary; }
     QColor ovInkTertiary() const { return m_colors.inkTertiary; }
     QColor ovLink() const { return m_colors.link; }
     QColor ovDanger() const { return m_colors.danger; }
@@ -184,6 +187,11 @@ public:
 
     QString fontFamily() const { return OVFonts::family(snapshot().fontDesign); }
     QString codeFamily() const { return OVFonts::family(FontChoice::monospaced); }
+    /// Weight of ordinary text: the rounded family is thin, and set a step stronger.
+    int textWeight() const
+    {
+        return snapshot().fontDesign == FontChoice::rounded ? QFont::Medium : QFont::Normal;
+    }
     QString numberFamily() const { return OVFonts::numberFamily(snapshot().fontDesign); }
     QString emojiFamily() const { return OVFonts::emojiFamily(); }
     QString serifFamily() const { return OVFonts::family(FontChoice::serif); }
@@ -248,5 +256,8 @@ private:
     static int control(int pixels);
     static int duration(double milliseconds) { return snapshot().motionEnabled ? qRound(milliseconds) : 0; }
 
+    void readColors();
+
     OVColors m_colors;
+    QColor m_inkSecondary;
 };

@@ -1,5 +1,6 @@
 #include "DesignSystem/AccentColors.h"
 #include "DesignSystem/CanvasDescriptor.h"
+#include "DesignSystem/Contrast.h"
 #include "DesignSystem/OVColors.h"
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
@@ -28,6 +29,7 @@ private slots:
     void namedColours();
     void inksAreReadable_data();
     void inksAreReadable();
+    void knownContrasts();
 };
 
 namespace
@@ -43,21 +45,6 @@ OVThemeSnapshot ofDefaults()
 void addRow(const char *name, bool systemDark, const Change &change, const Expectation &expectation)
 {
     QTest::newRow(name) << systemDark << change << expectation;
-}
-
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 } // namespace
@@ -268,18 +255,30 @@ void TestTheme::inksAreReadable()
     QFETCH(bool, inkMode);
     QFETCH(bool, dark);
     const OVColors colors = OVColors::of(inkMode, dark);
-    QList<QColor> grounds{colors.canvas, colors.sidebar, colors.surface, colors.subtle};
-    if (!inkMode)
-        for (const auto &entry : enumCases<CanvasStyle>()) {
-            const CanvasDescriptor canvas = canvasDescriptor(entry.value);
-            grounds += dark ? canvas.dark : canvas.light;
-        }
-    for (const QColor &ground : grounds) {
-        QVERIFY2(contrast(colors.ink, ground) >= 7, qPrintable(ground.name()));
-        const double secondary = contrast(colors.inkSecondary, ground);
-        QVERIFY2(secondary >= 4.5 || (secondary > 4 && !dark),
-                 qPrintable(ground.name() + u' ' + QString::number(secondary)));
+    for (const QColor &ground : {colors.canvas, colors.sidebar, colors.surface}) {
+        QVERIFY2(Contrast::ratio(colors.ink, ground) >= 7, qPrintable(ground.name()));
+        QVERIFY2(Contrast::ratio(colors.inkSecondary, ground) >= 4.5, qPrintable(ground.name()));
     }
+    if (inkMode)
+        return;
+    for (const auto &entry : enumCases<CanvasStyle>()) {
+        const CanvasDescriptor canvas = canvasDescriptor(entry.value);
+        const QList<QColor> grounds = dark ? canvas.dark : canvas.light;
+        const QColor ink = Contrast::readableInk(colors.inkSecondary, grounds);
+        for (const QColor &ground : grounds)
+            QVERIFY2(Contrast::ratio(ink, ground) >= 4.5, qPrintable(ground.name()));
+        // Only a shade from the named colour.
+        QVERIFY(std::abs(ink.lightness() - colors.inkSecondary.lightness()) <= 12);
+    }
+}
+
+void TestTheme::knownContrasts()
+{
+    QCOMPARE(Contrast::ratio(Qt::black, Qt::white), 21.0);
+    QCOMPARE(Contrast::ratio(Qt::white, Qt::black), 21.0);
+    QCOMPARE(Contrast::ratio(Qt::red, Qt::red), 1.0);
+    QCOMPARE(Contrast::readableInk(Qt::black, {Qt::white}), QColor(Qt::black));
+    QVERIFY(Contrast::ratio(Contrast::readableInk(QColor(0x60, 0x60, 0x60), {Qt::black}), Qt::black) >= 4.5);
 }
 
 QTEST_GUILESS_MAIN(TestTheme)

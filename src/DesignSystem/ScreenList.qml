@@ -64,11 +64,19 @@ ListView {
         id: header
 
         property int lastRow: 0
+        property real lastHeight: 0
 
         focus: true
         height: list.above?.height ?? 0
         width: list.width
 
+        // A list that shows its beginning goes on to show it when what stands above the rows grows.
+        onHeightChanged: {
+            const growth = Math.max(0, height - lastHeight)
+            lastHeight = height
+            if (list.contentY - y <= growth + 1)
+                Qt.callLater(list.positionViewAtBeginning)
+        }
         onActiveFocusChanged: {
             if (!activeFocus || entry.activeFocus || list.opening)
                 return

@@ -8,7 +8,7 @@ FocusScope {
 
     required property TasksViewModel viewModel
     readonly property int inset: Theme.space12
-    readonly property bool stacked: choices.implicitWidth + Theme.fieldWidth + 2 * inset > width
+    readonly property bool stacked: choices.oneLine + Theme.fieldWidth + 2 * inset > width
 
     function submit() {
         viewModel.addTask()
@@ -43,45 +43,60 @@ FocusScope {
         onTextEdited: form.viewModel.title = text
     }
 
-    Row {
+    Flow {
         id: choices
         spacing: Theme.space8
+        width: Math.min(oneLine, form.width - 2 * form.inset)
         x: form.width - width - form.inset
         y: form.height - height - form.inset
 
-        OVChip {
-            anchors.verticalCenter: parent.verticalCenter
-            checked: form.viewModel.dueEnabled
-            symbol: "calendar"
-            text: qsTr("Due date")
-            Accessible.role: Accessible.CheckBox
-            onClicked: form.viewModel.dueEnabled = !form.viewModel.dueEnabled
+        readonly property real oneLine: dueChoice.width + spacing + otherChoices.width
+
+        Row {
+            id: dueChoice
+            height: Theme.buttonHeight
+            spacing: Theme.space8
+
+            OVChip {
+                anchors.verticalCenter: parent.verticalCenter
+                checked: form.viewModel.dueEnabled
+                symbol: "calendar"
+                text: qsTr("Due date")
+                Accessible.role: Accessible.CheckBox
+                onClicked: form.viewModel.dueEnabled = !form.viewModel.dueEnabled
+            }
+
+            OVDateField {
+                anchors.verticalCenter: parent.verticalCenter
+                compact: true
+                name: qsTr("Due")
+                showsTime: true
+                value: form.viewModel.due
+                visible: form.viewModel.dueEnabled
+                onEdited: moment => form.viewModel.due = moment
+            }
         }
 
-        OVDateField {
-            anchors.verticalCenter: parent.verticalCenter
-            compact: true
-            name: qsTr("Due")
-            showsTime: true
-            value: form.viewModel.due
-            visible: form.viewModel.dueEnabled
-            onEdited: moment => form.viewModel.due = moment
-        }
+        Row {
+            id: otherChoices
+            height: Theme.buttonHeight
+            spacing: Theme.space8
 
-        OVSegmentedControl {
-            anchors.verticalCenter: parent.verticalCenter
-            currentIndex: form.viewModel.priority
-            model: form.viewModel.priorityTexts
-            Accessible.name: qsTr("Priority")
-            onActivated: index => form.viewModel.priority = index
-        }
+            OVSegmentedControl {
+                anchors.verticalCenter: parent.verticalCenter
+                currentIndex: form.viewModel.priority
+                model: form.viewModel.priorityTexts
+                Accessible.name: qsTr("Priority")
+                onActivated: index => form.viewModel.priority = index
+            }
 
-        OVPrimaryButton {
-            anchors.verticalCenter: parent.verticalCenter
-            enabled: form.viewModel.canAdd
-            text: qsTr("Add")
-            Accessible.name: qsTr("Add task")
-            onClicked: form.submit()
+            OVPrimaryButton {
+                anchors.verticalCenter: parent.verticalCenter
+                enabled: form.viewModel.canAdd
+                text: qsTr("Add")
+                Accessible.name: qsTr("Add task")
+                onClicked: form.submit()
+            }
         }
     }
 }

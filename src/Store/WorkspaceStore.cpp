@@ -4,6 +4,7 @@
 #include "Store/SnapshotCodec.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -29,6 +30,11 @@ QString WorkspaceStore::defaultFilePath()
     // If this fails, so does the first save, and that says why.
     QDir().mkpath(folder);
     return folder + QStringLiteral("/workspace.json");
+}
+
+BookLibrary WorkspaceStore::bookLibrary() const
+{
+    return BookLibrary(QFileInfo(m_options.filePath).dir().filePath(QStringLiteral("Books")));
 }
 
 void WorkspaceStore::adopt(Snapshot snapshot)
@@ -86,6 +92,7 @@ void WorkspaceStore::resetEverything(bool keepOnboarding)
     Snapshot empty;
     empty.settings.hasCompletedOnboarding = keepOnboarding && m_settings.hasCompletedOnboarding;
     adopt(std::move(empty));
+    bookLibrary().deleteAll();
     std::apply([this]<typename... Record>(const RecordList<Record> &...) { (announce<Record>({}), ...); },
                m_lists);
     emit settingsChanged();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Foundation/Clock.h"
+#include "Store/BookLibrary.h"
 #include "Store/RecordChange.h"
 #include "Store/RecordList.h"
 #include "Store/Snapshot.h"
@@ -39,6 +40,8 @@ public:
     static QString defaultFilePath();
 
     const QString &filePath() const { return m_options.filePath; }
+    /// The texts of the downloaded books, in "Books" beside the workspace file.
+    BookLibrary bookLibrary() const;
     const Clock &clock() const { return *m_options.clock; }
 
     const AppSettings &settings() const { return m_settings; }
@@ -107,7 +110,7 @@ public:
     void scheduleSave();
     /// Saves at once. A failure is printed as one line; the next save tries again.
     void saveNow();
-    /// Erases the workspace and all settings, and saves.
+    /// Erases the workspace, the texts of the books and all settings, and saves.
     void resetEverything(bool keepOnboarding);
 
     QUuid newPage(PageKind kind);
@@ -152,6 +155,8 @@ public:
 
     /// A book with the same catalogue number is replaced and its id kept. Returns the stored book.
     Book addBook(const Book &book);
+    /// Its text goes with it.
+    void removeBook(const QUuid &bookID);
 
     DatabaseTable newDatabase(const DatabaseTable &table);
     /// Its rows go with it.

@@ -42,3 +42,9 @@ Book WorkspaceStore::addBook(const Book &book)
     scheduleSave();
     return stored;
 }
+
+void WorkspaceStore::removeBook(const QUuid &bookID)
+{
+    bookLibrary().deleteText(bookID);
+    erase<Book>(bookID);
+}

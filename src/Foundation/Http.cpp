@@ -1,0 +1,147 @@
+#include "Foundation/Http.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QPointer>
+#include <QTimer>
+
+namespace
+{
+enum class Method { get, head };
+
+constexpr int mostRedirects = 10;
+
+/// Whether the server has answered, if only with a status of 400 or more.
+bool isAnswered(QNetworkReply::NetworkError error)
+{
+    return error == QNetworkReply::NoError ||
+           (error >= QNetworkReply::ContentAccessDenied && error <= QNetworkReply::UnknownContentError) ||
+           (error >= QNetworkReply::InternalServerError && error <= QNetworkReply::UnknownServerError);
+}
+
+/// One request under way; deletes itself when it has ended.
+class HttpExchange : public QObject
+{
+public:
+    HttpExchange(const HttpLimits &limits, std::function<void(HttpResult)> done, QObject *owner)
+        : QObject(owner), m_limits(limits), m_done(std::move(done))
+    {
+    }
+    ~HttpExchange() override { dropReply(); }
+
+    void start(QNetworkAccessManager &network, QNetworkRequest request, Method method)
+    {
+        const QString scheme = request.url().scheme();
+        if (scheme != u"http" && scheme != u"https") {
+            const QString reason =
+                QStringLiteral("Not an address of the web: %1").arg(request.url().toString());
+            QTimer::singleShot(0, this, [this, reason] { end(std::unexpected(reason)); });
+            return;
+        }
+        request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                             QNetworkRequest::NoLessSafeRedirectPolicy);
+        request.setMaximumRedirectsAllowed(mostRedirects);
+        request.setTransferTimeout(int(m_limits.silence.count()));
+        // A packed body that ends early or is broken comes out of Qt as if it were whole.
+        request.setRawHeader("Accept-Encoding", "identity");
+        m_isBodyExpected = method == Method::get;
+        m_reply = m_isBodyExpected ? network.get(request) : network.head(request);
+        connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::checkLength);
+        connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::readBody);
+        connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::finish);
+        QTimer::singleShot(m_limits.whole, this,
+                           [this] { end(std::unexpected(QStringLiteral("The answer took too long."))); });
+    }
+
+private:
+    /// The told length of the body, or -1.
+    qint64 toldLength() const
+    {
+        const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
+        return m_isBodyExpected && length.isValid() ? length.toLongLong() : -1;
+    }
+
+    void checkLength()
+    {
+        if (toldLength() > m_limits.bytes)
+            refuseLength();
+    }
+
+    void readBody()
+    {
+        m_answer.body += m_reply->readAll();
+        if (m_answer.body.size() > m_limits.bytes)
+            refuseLength();
+    }
+
+    void refuseLength()
+    {
+        end(std::unexpected(QStringLiteral("The answer is longer than %1 bytes.").arg(m_limits.bytes)));
+    }
+
+    void finish()
+    {
+        if (!isAnswered(m_reply->error())) {
+            end(std::unexpected(m_reply->errorString()));
+            return;
+        }
+        m_answer.body += m_reply->readAll();
+        if (m_answer.body.size() > m_limits.bytes) {
+            refuseLength();
+        } else if (m_isBodyExpected && m_reply->hasRawHeader("Content-Encoding")) {
+            end(std::unexpected(QStringLiteral("The answer is packed though that was not asked for.")));
+        } else if (m_answer.body.size() < toldLength()) {
+            end(std::unexpected(QStringLiteral("The answer ended early.")));
+        } else {
+            m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+            m_answer.contentType =
+                m_reply->header(QNetworkRequest::ContentTypeHeader).toString().toLower().toLatin1();
+            end(std::move(m_answer));
+        }
+    }
+
+    void end(HttpResult result)
+    {
+        dropReply();
+        deleteLater();
+        // Whoever is called may delete the owner, and this with it.
+        if (const auto done = std::exchange(m_done, nullptr))
+            done(std::move(result));
+    }
+
+    void dropReply()
+    {
+        if (!m_reply)
+            return;
+        m_reply->disconnect(this);
+        m_reply->abort();
+        m_reply->deleteLater();
+        m_reply.clear();
+    }
+
+    HttpLimits m_limits;
+    std::function<void(HttpResult)> m_done;
+    QPointer<QNetworkReply> m_reply;
+    bool m_isBodyExpected = true;
+    HttpAnswer m_answer;
+};
+
+void begin(Method method, QNetworkAccessManager &network, const QNetworkRequest &request,
+           const HttpLimits &limits, QObject *owner, std::function<void(HttpResult)> done)
+{
+    (new HttpExchange(limits, std::move(done), owner))->start(network, request, method);
+}
+} // namespace
+
+void Http::get(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
+               QObject *owner, std::function<void(HttpResult)> done)
+{
+    begin(Method::get, network, request, limits, owner, std::move(done));
+}
+
+void Http::head(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
+                QObject *owner, std::function<void(HttpResult)> done)
+{
+    begin(Method::head, network, request, limits, owner, std::move(done));
+}

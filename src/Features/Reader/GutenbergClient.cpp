@@ -1,0 +1,111 @@
+#include "Features/Reader/GutenbergClient.h"
+
+#include "Features/Reader/GutenbergText.h"
+#include "Foundation/RecordDecoder.h"
+
+#include <QNetworkRequest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+std::optional<GutendexResponse> decodeResponse(const QByteArray &body)
+{
+    simdjson::dom::parser parser;
+    simdjson::dom::element document;
+    GutendexResponse response;
+    if (parser.parse(body.constData(), std::size_t(body.size())).get(document) != simdjson::SUCCESS ||
+        !RecordDecoder::read(document, response, DecodeContext{}))
+        return std::nullopt;
+    return response;
+}
+
+std::expected<QString, QString> bookText(const HttpResult &result)
+{
+    if (result && result->isSuccess() && !result->contentType.startsWith("text/html")) {
+        const QString text = GutenbergText::decode(result->body);
+        if (!GutenbergText::isWebPage(text))
+            return GutenbergClient::stripBoilerplate(text);
+    }
+    return std::unexpected(u"Couldn't download that book. Check your connection and try again."_s);
+}
+} // namespace
+
+GutenbergClient::GutenbergClient(Options options, QObject *parent)
+    : QObject(parent), m_options(std::move(options))
+{
+}
+
+std::optional<QUrl> GutenbergClient::searchURL(const QString &query) const
+{
+    QUrl url = m_options.catalogue;
+    if (!url.isValid() || url.host().isEmpty())
+        return std::nullopt;
+    url.setPath(url.path() + (url.path().endsWith(u'/') ? u"books"_s : u"/books"_s));
+    url.setQuery(u"search="_s + QString::fromLatin1(QUrl::toPercentEncoding(query)) + u"&languages=en"_s,
+                 QUrl::StrictMode);
+    return url;
+}
+
+void GutenbergClient::search(const QString &query)
+{
+    const QString wanted = query.trimmed();
+    if (wanted.isEmpty()) {
+        setResults({});
+        setPhase(Phase::idle);
+        return;
+    }
+    setPhase(Phase::loading);
+    const auto url = searchURL(wanted);
+    if (!url) {
+        setPhase(Phase::failed, u"That search couldn't be built."_s);
+        return;
+    }
+    Http::get(*m_options.network, QNetworkRequest(*url), m_options.searchLimits, this,
+              [this](const HttpResult &result) {
+                  const auto response = result ? decodeResponse(result->body) : std::nullopt;
+                  if (!response) {
+                      setPhase(Phase::failed,
+                               u"Couldn't reach the library. Check your connection and try again."_s);
+                      return;
+                  }
+                  setResults(response->results);
+                  setPhase(Phase::loaded);
+              });
+}
+
+void GutenbergClient::download(const GutenbergBook &book, Downloaded done)
+{
+    // A book without a text has an address that can't be asked, and so fails like any other.
+    const QUrl url = book.plainTextURL().value_or(QUrl());
+    Http::get(*m_options.network, QNetworkRequest(url), m_options.downloadLimits, this,
+              [done = std::move(done)](const HttpResult &result) { done(bookText(result)); });
+}
+
+QString GutenbergClient::stripBoilerplate(const QString &text)
+{
+    QStringView book = text;
+    if (const qsizetype start = book.indexOf("*** START OF THE PROJECT GUTENBERG"_L1); start >= 0)
+        if (const qsizetype lineEnd = book.indexOf(u'\n', start); lineEnd >= 0)
+            book = book.sliced(lineEnd + 1);
+    if (const qsizetype end = book.indexOf("*** END OF THE PROJECT GUTENBERG"_L1); end >= 0)
+        book.truncate(end);
+    return book.trimmed().toString();
+}
+
+void GutenbergClient::setPhase(Phase phase, const QString &failure)
+{
+    if (m_phase == phase && m_failure == failure)
+        return;
+    m_phase = phase;
+    m_failure = failure;
+    emit phaseChanged();
+}
+
+void GutenbergClient::setResults(const QList<GutenbergBook> &results)
+{
+    if (m_results == results)
+        return;
+    m_results = results;
+    emit resultsChanged();
+}

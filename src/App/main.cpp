@@ -28,7 +28,7 @@ void bringToFront(QQuickWindow &window, const QByteArray &activationToken)
         qputenv(activationTokenVariable, activationToken);
     if (window.windowState() & Qt::WindowMinimized)
         window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
-    window.show();
+    window.setVisible(true);
     window.raise();
     window.requestActivate();
 }

@@ -3,7 +3,7 @@
 #include "Features/Code/CodeSyntax.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QTextBlock>
+#include <QScopedValueRollback>
 #include <QTextDocument>
 #include <QTextLayout>
 
@@ -15,8 +15,9 @@ namespace
 using CodeSyntax::Open;
 using Ranges = QList<QTextLayout::FormatRange>;
 
-/// What one portion may cost; an empty line counts for something too.
-constexpr qsizetype portionUnits = 4000, unitsPerLine = 20;
+/// What an edit itself may cost, and each portion after it; an empty line counts for something too. Portions
+/// are large, since views take far longer to repaint one than colouring takes.
+constexpr qsizetype editUnits = 4000, portionUnits = 50'000, unitsPerLine = 20;
 
 /// What a block remembers: with what it was coloured, and what it leaves open to the next one.
 struct BlockState {
@@ -108,34 +109,54 @@ void CodeHighlighter::settle()
 
 void CodeHighlighter::recolorAll()
 {
-    recolor(0, 0, m_document->characterCount());
+    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next())
+        block.setUserState(BlockState::unknown);
+    m_lastChanged = QTextCursor(m_document->lastBlock());
+    goOnFrom(m_document->firstBlock());
+    colorPortion(portionUnits);
 }
 
 void CodeHighlighter::recolor(int from, int, int added)
 {
+    if (m_isColoring)
+        return;
     const QTextBlock first = m_document->findBlock(from);
     // A document that was replaced as a whole counts one unit too many.
     const QTextBlock last = m_document->findBlock(qMin(from + added, m_document->characterCount() - 1));
     for (QTextBlock block = first; block.isValid() && block.blockNumber() <= last.blockNumber();
          block = block.next())
         block.setUserState(BlockState::unknown);
-    if (m_next.isNull() || m_next.position() > first.position())
-        m_next = QTextCursor(first);
     if (m_lastChanged.isNull() || m_lastChanged.position() < last.position())
         m_lastChanged = QTextCursor(last);
-    colorPortion(portionUnits);
+    // Views repaint now what was edited, and no more.
+    goOnFrom(colorLines(first, last.position(), editUnits));
 }
 
 void CodeHighlighter::colorPortion(qsizetype units)
 {
-    QTextBlock block = m_next.block();
+    const QTextBlock start = m_next.block();
+    m_next = QTextCursor();
+    // An edit without a change makes views repaint what has other colours.
+    const QScopedValueRollback coloring(m_isColoring, true);
+    QTextCursor cursor(m_document);
+    cursor.beginEditBlock();
+    goOnFrom(colorLines(start, std::numeric_limits<int>::max(), units));
+    cursor.endEditBlock();
+}
+
+QTextBlock CodeHighlighter::colorLines(QTextBlock block, int until, qsizetype units)
+{
     const int start = block.position();
     const QTextBlock previous = block.previous();
-    Open open = previous.isValid() ? BlockState::of(previous).after : Open{};
-    for (; block.isValid() && units > 0; block = block.next()) {
-        if (block.userState() != BlockState::unknown && BlockState::of(block).before == open) {
-            if (block.position() > m_lastChanged.position())
-                break;
+    const bool isKnown = previous.isValid() && previous.userState() != BlockState::unknown;
+    Open open = isKnown ? BlockState::of(previous).after : Open{};
+    bool isDone = false;
+    for (; block.isValid(); block = block.next()) {
+        const bool isRight = block.userState() != BlockState::unknown && BlockState::of(block).before == open;
+        isDone = isRight && block.position() > m_lastChanged.position();
+        if (isDone || units <= 0 || block.position() > until)
+            break;
+        if (isRight) {
             open = BlockState::of(block).after;
             --units;
             continue;
@@ -152,17 +173,24 @@ void CodeHighlighter::colorPortion(qsizetype units)
         open = after;
         units -= text.size() + unitsPerLine;
     }
-
     const int end = block.isValid() ? block.position() : m_document->characterCount();
-    if (block.isValid() && units <= 0) {
-        m_next = QTextCursor(block);
-        if (m_lastChanged.position() < block.position())
-            m_lastChanged = m_next;
-        m_portions.start();
-    } else {
-        m_next = m_lastChanged = QTextCursor();
-        m_portions.stop();
-    }
     if (end > start)
         m_document->markContentsDirty(start, end - start - 1);
+    return isDone ? QTextBlock() : block;
+}
+
+void CodeHighlighter::goOnFrom(const QTextBlock &block)
+{
+    if (block.isValid()) {
+        if (m_next.isNull() || m_next.position() > block.position())
+            m_next = QTextCursor(block);
+        if (m_lastChanged.position() < block.position())
+            m_lastChanged = QTextCursor(block);
+    }
+    if (m_next.isNull()) {
+        m_lastChanged = QTextCursor();
+        m_portions.stop();
+    } else {
+        m_portions.start();
+    }
 }

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QObject>
+#include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTimer>
@@ -45,6 +46,9 @@ private:
     void recolorAll();
     /// Goes on from `m_next` for about this many units of text.
     void colorPortion(qsizetype units);
+    /// Colours lines up to the one that begins at `until`. Gives the line to go on with, if there is one.
+    QTextBlock colorLines(QTextBlock block, int until, qsizetype units);
+    void goOnFrom(const QTextBlock &block);
 
     QTextDocument *m_document;
     CodeLanguage m_language = CodeLanguage::plain;
@@ -54,5 +58,6 @@ private:
     /// The last line that was changed since it got its colours.
     QTextCursor m_lastChanged;
     QTimer m_portions;
+    bool m_isColoring = false;
     QList<CodeToken> m_tokens;
 };

@@ -184,6 +184,7 @@ template <TolerantRecord Record>
 bool readTolerant(Element json, Record &out, const DecodeContext &context)
 {
     using Table = FieldTable<Record>;
+    constexpr bool isIdentified = requires { out.id = context.makeId(); };
     out = fresh<Record>(context);
     const auto values = Table::collect(json);
     bool hasId = false;
@@ -194,14 +195,15 @@ bool readTolerant(Element json, Record &out, const DecodeContext &context)
         if (!value || value->is_null() || !RecordDecoder::read(*value, read, context))
             return true;
         out.*field.member = std::move(read);
-        if constexpr (std::is_same_v<Value, QUuid>)
-            hasId |= &(out.*field.member) == &out.id;
+        if constexpr (isIdentified)
+            if constexpr (std::is_same_v<Value, QUuid>)
+                hasId |= &(out.*field.member) == &out.id;
         return true;
     };
     if (values)
         Table::readEach(*values, readField);
     // Making an id is slow, and nearly every record has one.
-    if constexpr (requires { out.id = context.makeId(); })
+    if constexpr (isIdentified)
         if (!hasId)
             out.id = context.makeId();
     return values.has_value();

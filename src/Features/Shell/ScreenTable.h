@@ -17,6 +17,7 @@ struct Screen {
 };
 
 inline constexpr auto screens = std::to_array<Screen>({
+    {Destination::Kind::page, "Orvel/Pages/PageEditorView.qml", "pageID"},
     {Destination::Kind::tasks, "Orvel/Tasks/TasksView.qml", {}},
 });
 

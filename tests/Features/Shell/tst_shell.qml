@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Orvel.DesignSystem
+import Orvel.Pages
 import Orvel.Session
 import Orvel.Shell
 import Orvel.Testing
@@ -90,7 +91,7 @@ Item {
             start()
             press("Plan", SidebarRow)
             compare(Orvel.ui.selection.text, "page/" + id.toUpperCase())
-            one("Plan", ModulePlaceholder)
+            one("Plan", PageEditorView)
             keyClick(Qt.Key_Delete)
             compare(Orvel.ui.selection.text, "dashboard")
             one("Dashboard", ModulePlaceholder)
@@ -124,7 +125,7 @@ Item {
             const id = Workspace.addPage("Plan")
             Orvel.ui.selectPage(id)
             start()
-            one("Plan", ModulePlaceholder)
+            one("Plan", PageEditorView)
             Workspace.deletePage(id)
             one("Page not found", MissingRecord)
             press("Back to dashboard", OVSecondaryButton)
@@ -235,7 +236,7 @@ Item {
             const listed = all(window.parent, item => item instanceof OverflowRow).map(row => row.text)
             compare(listed.sort(), data.more.concat(["Favourites", "Plan", "Pages", "Plan"]).sort())
             press("Plan", OverflowRow)
-            one("Plan", ModulePlaceholder)
+            one("Plan", PageEditorView)
             gone("Favourites", OverflowRow)
         }
 

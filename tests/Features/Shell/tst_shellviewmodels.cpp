@@ -176,7 +176,8 @@ void ShellViewModelsTest::tellsWhatIsMissing()
     };
     const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
     m_workspace->ui().selectPage(page);
-    QCOMPARE(shown("title"), QStringLiteral("Plan"));
+    QCOMPARE(shown("pageID"), page.toString());
+    QCOMPARE(detail.source(), ScreenTable::url("Orvel/Pages/PageEditorView.qml"));
     m_workspace->store().erase<Page>(page);
     QCOMPARE(shown("symbol"), QStringLiteral("doc.questionmark"));
     QCOMPARE(shown("title"), QStringLiteral("Page not found"));

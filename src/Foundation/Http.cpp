@@ -32,8 +32,7 @@ public:
 
     void start(QNetworkAccessManager &network, QNetworkRequest request, Method method)
     {
-        const QString scheme = request.url().scheme();
-        if (scheme != u"http" && scheme != u"https") {
+        if (!Http::isWebAddress(request.url())) {
             const QString reason =
                 QStringLiteral("Not an address of the web: %1").arg(request.url().toString());
             QTimer::singleShot(0, this, [this, reason] { end(std::unexpected(reason)); });
@@ -133,6 +132,12 @@ void begin(Method method, QNetworkAccessManager &network, const QNetworkRequest 
     (new HttpExchange(limits, std::move(done), owner))->start(network, request, method);
 }
 } // namespace
+
+bool Http::isWebAddress(const QUrl &address)
+{
+    const QString scheme = address.scheme();
+    return address.isValid() && (scheme == u"http" || scheme == u"https") && !address.host().isEmpty();
+}
 
 void Http::get(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
                QObject *owner, std::function<void(HttpResult)> done)

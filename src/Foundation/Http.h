@@ -10,6 +10,7 @@
 class QNetworkAccessManager;
 class QNetworkRequest;
 class QObject;
+class QUrl;
 
 /// What one exchange with a server may cost at most.
 struct HttpLimits {
@@ -42,6 +43,9 @@ using HttpResult = std::expected<HttpAnswer, QString>;
 /// without a word.
 namespace Http
 {
+/// Whether the address is one that can be asked: http or https, with a host.
+bool isWebAddress(const QUrl &address);
+
 void get(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
          QObject *owner, std::function<void(HttpResult)> done);
 /// Asks for the headers alone.

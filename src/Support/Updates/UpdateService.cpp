@@ -1,0 +1,199 @@
+#include "Support/Updates/UpdateService.h"
+
+#include "Support/Updates/UpdateLog.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <ranges>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+using Kind = UpdateService::Phase::Kind;
+
+/// Unreadable numbers count as 0.
+qint64 number(QStringView text)
+{
+    const bool isTrimmed = text.trimmed().size() == text.size();
+    return isTrimmed ? text.toLongLong() : 0;
+}
+
+/// The site as a person would name it.
+QString siteName(QString origin)
+{
+    origin.remove(u"https://"_s).remove(u"http://"_s);
+    const auto isSlash = [](QChar letter) { return letter == u'/'; };
+    const auto first = std::ranges::find_if_not(origin, isSlash);
+    const auto last = std::ranges::find_if_not(origin | std::views::reverse, isSlash).base();
+    return first < last ? QString(first, last - first) : QString();
+}
+} // namespace
+
+UpdateService::UpdateService(Options options, QObject *parent)
+    : QObject(parent), m_options(std::move(options))
+{
+}
+
+QString UpdateService::origin(const QString &updateBase, const QString &builtFor)
+{
+    const QString trimmed = updateBase.trimmed();
+    return trimmed.isEmpty() ? builtFor : trimmed;
+}
+
+QByteArray UpdateService::userAgent(const QString &version)
+{
+    return "Orvel/" + version.toUtf8();
+}
+
+std::strong_ordering UpdateService::compare(const QString &a, const QString &b)
+{
+    const QStringList left = a.split(u'.');
+    const QStringList right = b.split(u'.');
+    for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i)
+        if (const auto order = number(left.value(i)) <=> number(right.value(i)); order != 0)
+            return order;
+    return std::strong_ordering::equal;
+}
+
+bool UpdateService::isNewer(const QString &version, const QString &build, const QString &thanVersion,
+                            const QString &thanBuild)
+{
+    const auto order = compare(version, thanVersion);
+    return order > 0 || (order == 0 && number(build) > number(thanBuild));
+}
+
+void UpdateService::check(bool manual)
+{
+    if (isChecking() || isInstalling() || (m_available && !manual))
+        return;
+    setPhase({Kind::checking});
+    const QUrl address(m_options.origin + u"/version.json"_s, QUrl::StrictMode);
+    if (!Http::isWebAddress(address)) {
+        checked(std::unexpected(u"Bad update address."_s), manual);
+        return;
+    }
+    QNetworkRequest request(address);
+    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent(m_options.version));
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    const auto done = [this, manual](const ManifestRequest::Result &result) { checked(result, manual); };
+    (new ManifestRequest(*m_options.network, m_options.wait, m_options.limits, done, this))->start(request);
+}
+
+void UpdateService::checked(const ManifestRequest::Result &result, bool manual)
+{
+    if (result && *result && isNewer(**result))
+        offer((*result)->offer(QUrl(m_options.origin)));
+    else if (manual)
+        setNotice(verdict(result));
+    if (isChecking())
+        setPhase({});
+}
+
+QString UpdateService::verdict(const ManifestRequest::Result &result) const
+{
+    if (!result)
+        return result.error();
+    return *result ? u"Orvel %1 is the latest version."_s.arg(m_options.version)
+                   : u"The update check couldn't read %1."_s.arg(siteName(m_options.origin));
+}
+
+bool UpdateService::isNewer(const VersionFile &file) const
+{
+    return isNewer(file.version, file.buildOrZero(), m_options.version, m_options.build);
+}
+
+void UpdateService::offer(const AvailableUpdate &update)
+{
+    setAvailable(update);
+    setNotice({});
+    qCInfo(updateLog, "update available: %ls", qUtf16Printable(update.version));
+    if (m_options.installsByItself && !update.downloadURL.isEmpty())
+        m_options.wait(1s, this, [this] { install(); });
+}
+
+void UpdateService::checkRegularly(QObject *owner)
+{
+    check(false);
+    const QPointer<UpdateService> service(this);
+    m_options.wait(checkInterval, owner, [service, owner] {
+        if (service)
+            service->checkRegularly(owner);
+    });
+}
+
+void UpdateService::install()
+{
+    if (!m_available || isInstalling())
+        return;
+    if (m_available->downloadURL.isEmpty() || !m_options.installer->canInstall()) {
+        openDownloadPage();
+        return;
+    }
+    setPhase({Kind::installing});
+    setInstallProgress(0);
+    m_options.installer->install(
+        *m_available, this, [this](double progress) { setInstallProgress(progress); },
+        [this](const std::expected<void, QString> &result) { installed(result); });
+}
+
+void UpdateService::installed(const std::expected<void, QString> &result)
+{
+    if (result) {
+        // The program is about to quit; until then nothing else may begin.
+        setAvailable({});
+        return;
+    }
+    qCWarning(updateLog, "install failed: %ls", qUtf16Printable(result.error()));
+    setPhase({Kind::failed, result.error()});
+    setInstallProgress({});
+}
+
+void UpdateService::openDownloadPage()
+{
+    if (m_available)
+        m_options.openPage(m_available->pageURL);
+}
+
+void UpdateService::postpone()
+{
+    setAvailable({});
+    setNotice({});
+    setInstallProgress({});
+    // An offer that comes again starts without the failure of this one.
+    if (m_phase.kind == Kind::failed)
+        setPhase({});
+}
+
+void UpdateService::clearNotice()
+{
+    setNotice({});
+}
+
+void UpdateService::setPhase(const Phase &phase)
+{
+    if (std::exchange(m_phase, phase) != phase)
+        emit phaseChanged();
+}
+
+void UpdateService::setAvailable(const std::optional<AvailableUpdate> &update)
+{
+    if (std::exchange(m_available, update) != update)
+        emit availableChanged();
+}
+
+void UpdateService::setNotice(const QString &notice)
+{
+    if (std::exchange(m_notice, notice) != notice)
+        emit noticeChanged();
+}
+
+void UpdateService::setInstallProgress(std::optional<double> progress)
+{
+    if (std::exchange(m_installProgress, progress) != progress)
+        emit installProgressChanged();
+}

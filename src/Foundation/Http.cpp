@@ -30,7 +30,8 @@ public:
     }
     ~HttpExchange() override { dropReply(); }
 
-    void start(QNetworkAccessManager &network, QNetworkRequest request, Method method)
+    /// Without a sink the body becomes part of the answer.
+    void start(QNetworkAccessManager &network, QNetworkRequest request, Method method, HttpSink sink)
     {
         if (!Http::isWebAddress(request.url())) {
             const QString reason =
@@ -44,10 +45,11 @@ public:
         request.setTransferTimeout(int(m_limits.silence.count()));
         // A packed body that ends early or is broken comes out of Qt as if it were whole.
         request.setRawHeader("Accept-Encoding", "identity");
+        m_sink = std::move(sink);
         m_isBodyExpected = method == Method::get;
         m_reply = m_isBodyExpected ? network.get(request) : network.head(request);
-        connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::checkLength);
-        connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::readBody);
+        connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::takeHeaders);
+        connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBody);
         connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::finish);
         QTimer::singleShot(m_limits.whole, this,
                            [this] { end(std::unexpected(QStringLiteral("The answer took too long."))); });
@@ -61,17 +63,35 @@ private:
         return m_isBodyExpected && length.isValid() ? length.toLongLong() : -1;
     }
 
-    void checkLength()
+    void takeHeaders()
     {
+        m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         if (toldLength() > m_limits.bytes)
             refuseLength();
+        else if (m_sink && m_answer.isSuccess())
+            hand({});
     }
 
-    void readBody()
+    /// False if the exchange has ended over it, and this may be gone.
+    bool takeBody()
     {
-        m_answer.body += m_reply->readAll();
-        if (m_answer.body.size() > m_limits.bytes)
+        const QByteArray bytes = m_reply->readAll();
+        m_received += bytes.size();
+        if (m_received > m_limits.bytes) {
             refuseLength();
+            return false;
+        }
+        if (!m_sink)
+            m_answer.body += bytes;
+        return !m_sink || !m_answer.isSuccess() || bytes.isEmpty() || hand(bytes);
+    }
+
+    bool hand(QByteArrayView bytes)
+    {
+        const auto taken = m_sink(bytes, toldLength());
+        if (!taken)
+            end(std::unexpected(taken.error()));
+        return taken.has_value();
     }
 
     void refuseLength()
@@ -85,12 +105,11 @@ private:
             end(std::unexpected(m_reply->errorString()));
             return;
         }
-        m_answer.body += m_reply->readAll();
-        if (m_answer.body.size() > m_limits.bytes) {
-            refuseLength();
-        } else if (m_isBodyExpected && m_reply->hasRawHeader("Content-Encoding")) {
+        if (!takeBody())
+            return;
+        if (m_isBodyExpected && m_reply->hasRawHeader("Content-Encoding")) {
             end(std::unexpected(QStringLiteral("The answer is packed though that was not asked for.")));
-        } else if (m_answer.body.size() < toldLength()) {
+        } else if (m_received < toldLength()) {
             end(std::unexpected(QStringLiteral("The answer ended early.")));
         } else {
             m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -122,14 +141,17 @@ private:
     HttpLimits m_limits;
     std::function<void(HttpResult)> m_done;
     QPointer<QNetworkReply> m_reply;
+    HttpSink m_sink;
     bool m_isBodyExpected = true;
+    qint64 m_received = 0;
     HttpAnswer m_answer;
 };
 
 void begin(Method method, QNetworkAccessManager &network, const QNetworkRequest &request,
-           const HttpLimits &limits, QObject *owner, std::function<void(HttpResult)> done)
+           const HttpLimits &limits, HttpSink sink, QObject *owner, std::function<void(HttpResult)> done)
 {
-    (new HttpExchange(limits, std::move(done), owner))->start(network, request, method);
+    auto *const exchange = new HttpExchange(limits, std::move(done), owner);
+    exchange->start(network, request, method, std::move(sink));
 }
 } // namespace
 
@@ -142,11 +164,17 @@ bool Http::isWebAddress(const QUrl &address)
 void Http::get(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
                QObject *owner, std::function<void(HttpResult)> done)
 {
-    begin(Method::get, network, request, limits, owner, std::move(done));
+    begin(Method::get, network, request, limits, {}, owner, std::move(done));
+}
+
+void Http::download(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
+                    HttpSink sink, QObject *owner, std::function<void(HttpResult)> done)
+{
+    begin(Method::get, network, request, limits, std::move(sink), owner, std::move(done));
 }
 
 void Http::head(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
                 QObject *owner, std::function<void(HttpResult)> done)
 {
-    begin(Method::head, network, request, limits, owner, std::move(done));
+    begin(Method::head, network, request, limits, {}, owner, std::move(done));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <chrono>
@@ -35,6 +36,11 @@ struct HttpAnswer {
 /// The answer, or the reason why there is none, for logs rather than for the person.
 using HttpResult = std::expected<HttpAnswer, QString>;
 
+/// Takes the body of an answer piece by piece, first with no bytes at all once the headers are there. The
+/// told length is that of the whole body, or -1. An error ends the exchange and becomes its result. It may
+/// not end the life of the exchange's owner.
+using HttpSink = std::function<std::expected<void, QString>(QByteArrayView bytes, qint64 toldLength)>;
+
 /// Bounded requests to servers nobody here controls. Only http and https addresses are asked; redirects are
 /// followed, but never from https to http and never for ever. A body that ends before its told length is a
 /// failure.
@@ -48,6 +54,10 @@ bool isWebAddress(const QUrl &address);
 
 void get(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
          QObject *owner, std::function<void(HttpResult)> done);
+/// Hands the body of a success on to the sink and keeps none of it; any other body is dropped. The body of
+/// the result is empty.
+void download(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
+              HttpSink sink, QObject *owner, std::function<void(HttpResult)> done);
 /// Asks for the headers alone.
 void head(QNetworkAccessManager &network, const QNetworkRequest &request, const HttpLimits &limits,
           QObject *owner, std::function<void(HttpResult)> done);

@@ -142,6 +142,45 @@ private slots:
         QCOMPARE(result->body, "more"_ba);
     }
 
+    void handsABodyOnPieceByPiece()
+    {
+        m_server.answer(u"/file"_s, {.body = QByteArray(mostBytes, 'x')});
+        m_server.answer(u"/gone"_s, {.status = 404, .body = "no file"});
+        QByteArray body;
+        QList<qint64> told;
+        bool isFull = false;
+        std::optional<HttpResult> result;
+        const auto download = [&](const QString &path) {
+            body.clear();
+            told.clear();
+            result.reset();
+            Http::download(
+                m_network, QNetworkRequest(m_server.url(path)), patient,
+                [&](QByteArrayView bytes, qint64 toldLength) -> std::expected<void, QString> {
+                    if (isFull && !bytes.isEmpty())
+                        return std::unexpected(u"The disk is full."_s);
+                    body += bytes;
+                    told.append(toldLength);
+                    return {};
+                },
+                &m_owner, [&](const HttpResult &given) { result = given; });
+            return QTest::qWaitFor([&] { return result.has_value(); }, 60'000);
+        };
+        QVERIFY(download(u"/file"_s));
+        QVERIFY2(*result, qPrintable(reason(*result)));
+        QVERIFY((*result)->isSuccess() && (*result)->body.isEmpty());
+        QCOMPARE(body, QByteArray(mostBytes, 'x'));
+        QVERIFY(told.size() >= 2 && std::ranges::count(told, mostBytes) == told.size());
+
+        QVERIFY(download(u"/gone"_s));
+        QCOMPARE((*result)->status, 404);
+        QVERIFY(told.isEmpty());
+
+        isFull = true;
+        QVERIFY(download(u"/file"_s));
+        QCOMPARE(reason(*result), u"The disk is full."_s);
+    }
+
     void followsRedirects()
     {
         m_server.answer(u"/from"_s, {.status = 301, .body = "moved", .location = "/to"});

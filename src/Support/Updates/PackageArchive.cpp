@@ -1,0 +1,158 @@
+#include "Support/Updates/PackageArchive.h"
+
+#include "Support/Updates/AppBundle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <archive.h>
+#include <archive_entry.h>
+#include <array>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+using Result = std::expected<void, QString>;
+using Reader =
+    std::unique_ptr<struct archive, decltype([](struct archive *each) { archive_read_free(each); })>;
+
+/// So that a tiny archive of much the same bytes is not taken for a bomb.
+constexpr qint64 bytesBeforeRatioCounts = 1 << 20;
+
+std::unexpected<QString> refusal(const QString &reason)
+{
+    return std::unexpected(reason);
+}
+
+/// The parts of a name that stays inside; empty for any other.
+QStringList partsOf(const QByteArray &name)
+{
+    const QString text = QString::fromUtf8(name);
+    if (text.toUtf8() != name || text.contains(u'\0'))
+        return {};
+    QStringList parts = text.split(u'/');
+    // A folder's name ends in a slash.
+    if (parts.last().isEmpty())
+        parts.removeLast();
+    const bool isBad = std::ranges::any_of(
+        parts, [](const QString &part) { return part.isEmpty() || part == "."_L1 || part == ".."_L1; });
+    return isBad ? QStringList() : parts;
+}
+
+class Unpacking
+{
+public:
+    Unpacking(const QString &folder, qint64 allowedBytes, qint64 allowedEntries, const std::stop_token &stop)
+        : m_folder(folder), m_allowedBytes(allowedBytes), m_allowedEntries(allowedEntries), m_stop(stop)
+    {
+    }
+
+    Result run(const QString &archive)
+    {
+        m_reader.reset(archive_read_new());
+        archive_read_support_format_zip_seekable(m_reader.get());
+        if (archive_read_open_filename(m_reader.get(), QFile::encodeName(archive).constData(), 1 << 16) !=
+            ARCHIVE_OK)
+            return readingFailed();
+        for (;;) {
+            archive_entry *entry = nullptr;
+            const int status = archive_read_next_header(m_reader.get(), &entry);
+            if (status == ARCHIVE_EOF)
+                return {};
+            if (status != ARCHIVE_OK)
+                return readingFailed();
+            if (const Result taken = take(entry); !taken)
+                return taken;
+        }
+    }
+
+private:
+    Result readingFailed() const
+    {
+        const char *const reason = archive_error_string(m_reader.get());
+        return refusal(reason ? QString::fromUtf8(reason) : u"The archive can't be read."_s);
+    }
+
+    Result take(archive_entry *entry)
+    {
+        const char *const name = archive_entry_pathname(entry);
+        const QStringList parts = partsOf(name);
+        if (parts.isEmpty())
+            return refusal(u"A name leads outside: %1"_s.arg(QString::fromUtf8(name)));
+        const QString path = parts.join(u'/');
+        if (m_seen.size() >= m_allowedEntries)
+            return refusal(u"There are more than %1 entries."_s.arg(m_allowedEntries));
+        if (m_seen.contains(path))
+            return refusal(u"A name occurs twice: %1"_s.arg(path));
+        m_seen.insert(path);
+
+        const auto type = archive_entry_filetype(entry);
+        if ((type != AE_IFREG && type != AE_IFDIR) || archive_entry_symlink(entry) ||
+            archive_entry_hardlink(entry))
+            return refusal(u"Neither file nor folder: %1"_s.arg(path));
+        if (parts.first() != AppBundle::name)
+            return {};
+        if (!makeFolder(type == AE_IFDIR ? parts : parts.first(parts.size() - 1)))
+            return refusal(u"The folder can't be made: %1"_s.arg(path));
+        if (type == AE_IFDIR)
+            return {};
+        return writeFile(m_folder.filePath(path), archive_entry_perm(entry) & 0100);
+    }
+
+    bool makeFolder(const QStringList &parts) const
+    {
+        return parts.isEmpty() || m_folder.mkpath(parts.join(u'/'));
+    }
+
+    Result writeFile(const QString &path, bool isExecutable)
+    {
+        QFile file(path);
+        // Never through something that is there already.
+        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+            return refusal(file.errorString());
+        for (;;) {
+            const la_ssize_t count = archive_read_data(m_reader.get(), m_buffer.data(), m_buffer.size());
+            if (count < 0)
+                return readingFailed();
+            if (count == 0)
+                break;
+            if (m_stop.stop_requested())
+                return refusal(u"Asked to stop."_s);
+            m_bytes += count;
+            if (m_bytes > m_allowedBytes)
+                return refusal(u"There are more than %1 bytes."_s.arg(m_allowedBytes));
+            if (file.write(m_buffer.data(), count) != count)
+                return refusal(file.errorString());
+        }
+        using enum QFileDevice::Permission;
+        QFileDevice::Permissions permissions = ReadOwner | WriteOwner | ReadGroup | ReadOther;
+        if (isExecutable)
+            permissions |= ExeOwner | ExeGroup | ExeOther;
+        if (!file.setPermissions(permissions))
+            return refusal(file.errorString());
+        return {};
+    }
+
+    const QDir m_folder;
+    const qint64 m_allowedBytes;
+    const qint64 m_allowedEntries;
+    const std::stop_token m_stop;
+    Reader m_reader;
+    QSet<QString> m_seen;
+    qint64 m_bytes = 0;
+    std::array<char, 1 << 16> m_buffer;
+};
+} // namespace
+
+Result PackageArchive::unpack(const QString &archive, const QString &folder, const std::stop_token &stop,
+                              const Limits &limits)
+{
+    const qint64 packed = QFileInfo(archive).size();
+    const qint64 bytes = std::min(limits.bytes, bytesBeforeRatioCounts + packed * limits.ratio);
+    return std::make_unique<Unpacking>(folder, bytes, limits.entries, stop)->run(archive);
+}

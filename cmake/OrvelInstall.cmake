@@ -6,3 +6,7 @@ install(FILES data/com.orvel.workspace.desktop DESTINATION "${CMAKE_INSTALL_DATA
 install(FILES data/com.orvel.workspace.metainfo.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES data/com.orvel.workspace.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+
+# A self-contained copy is the same below Orvel.app/Contents, with this beside it; see scripts/package.
+configure_file(data/Info.plist.in Info.plist @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/Info.plist" DESTINATION . COMPONENT bundle EXCLUDE_FROM_ALL)

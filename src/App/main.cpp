@@ -3,6 +3,7 @@
 #include "App/TerminationSignals.h"
 #include "App/ThemeSync.h"
 #include "Session/OrvelSession.h"
+#include "Support/Updates/PathExchange.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
@@ -36,7 +37,11 @@ void bringToFront(QQuickWindow &window, const QByteArray &activationToken)
 
 int main(int argc, char *argv[])
 {
+    // The last step of an update, which the new program takes itself.
+    if (const auto code = PathExchange::serve(argc, argv))
+        return *code;
     QGuiApplication application(argc, argv);
+    application.setApplicationVersion(QStringLiteral(ORVEL_VERSION));
     application.setApplicationName(QStringLiteral("Orvel"));
     application.setOrganizationName(QStringLiteral("Orvel"));
     application.setDesktopFileName(QStringLiteral("com.orvel.workspace"));

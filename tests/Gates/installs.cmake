@@ -1,11 +1,20 @@
 # Installs the build into a scratch folder and fails if a piece does not lie where a desktop looks for it.
 #   cmake -DBUILD=... -P installs.cmake
 set(prefix "${BUILD}/installed")
+function(install_into folder)
+    execute_process(
+        COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${folder}" ${ARGN}
+        OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
 file(REMOVE_RECURSE "${prefix}")
-execute_process(
-    COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${prefix}"
-    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+install_into("${prefix}")
+if(EXISTS "${prefix}/Info.plist")
+    message(SEND_ERROR "Installed though only a self-contained copy has it: Info.plist")
+endif()
+install_into("${prefix}" --component bundle)
 foreach(piece
+        Info.plist
         bin/orvel
         share/applications/com.orvel.workspace.desktop
         share/icons/hicolor/scalable/apps/com.orvel.workspace.svg

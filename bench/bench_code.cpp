@@ -2,6 +2,7 @@
 #include "Features/Code/CodeSyntax.h"
 #include "Harness/Comparison.h"
 #include "Harness/RegexTokenizer.h"
+#include "Harness/SourceText.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
@@ -13,24 +14,6 @@
 namespace
 {
 constexpr qsizetype documentSize = 100'000;
-
-QString sourceText()
-{
-    const QString piece = QStringLiteral("/// A place on the map, and how to get there.\n"
-                                         "struct Place: Codable {\n"
-                                         "    let name: String // never empty\n"
-                                         "    var visits = 0x1F + 12.5\n"
-                                         "    /* The text that people see\n"
-                                         "       in lists. */\n"
-                                         "    func title(for user: User) -> String {\n"
-                                         "        guard visits > 0 else { return \"never \\\"seen\\\"\" }\n"
-                                         "        return \"\"\"\n"
-                                         "        \\(name), \\(visits) times\n"
-                                         "        \"\"\"\n"
-                                         "    }\n"
-                                         "}\n\n");
-    return piece.repeated(documentSize / piece.size() + 1).first(documentSize);
-}
 
 void benchScan(Comparison &comparison, const QString &text)
 {
@@ -99,7 +82,7 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     Comparison comparison;
-    const QString text = sourceText();
+    const QString text = SourceText::ofSize(documentSize);
     benchScan(comparison, text);
     benchKey(comparison, text, QStringLiteral("key in 100 KB of source, against no colours"),
              QStringLiteral("x"));

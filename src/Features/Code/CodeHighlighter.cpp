@@ -7,7 +7,6 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
-#include <limits>
 #include <utility>
 
 namespace
@@ -15,14 +14,15 @@ namespace
 using CodeSyntax::Open;
 using Ranges = QList<QTextLayout::FormatRange>;
 
-/// What an edit itself may cost, and each portion after it; an empty line counts for something too. Portions
-/// are large, since views take far longer to repaint one than colouring takes.
-constexpr qsizetype editUnits = 4000, portionUnits = 50'000, unitsPerLine = 20;
+/// What an edit itself may cost, and each portion after it; an empty line counts for something too.
+constexpr qsizetype editUnits = 4000, portionUnits = 20'000, unitsPerLine = 20;
 
-/// What a block remembers: with what it was coloured, and what it leaves open to the next one.
+/// What a block remembers: what was open before it, what it leaves open to the next one, and whether it has
+/// the colours of that.
 struct BlockState {
     Open before;
     Open after;
+    bool isColored = false;
 
     static constexpr int unknown = -1;
 
@@ -33,10 +33,11 @@ struct BlockState {
         return int(open.construct) | int(open.quote) << 2;
     }
     static Open unpacked(int bits) { return {Open::Construct(bits & 3), char16_t(bits >> 2 & 0x7f)}; }
-    int toUserState() const { return packed(before) | packed(after) << 9; }
+    int toUserState() const { return packed(before) | packed(after) << 9 | int(isColored) << 18; }
     static BlockState of(const QTextBlock &block)
     {
-        return {unpacked(block.userState() & 0x1ff), unpacked(block.userState() >> 9)};
+        const int bits = block.userState();
+        return {unpacked(bits & 0x1ff), unpacked(bits >> 9 & 0x1ff), (bits >> 18 & 1) == 1};
     }
 };
 
@@ -101,6 +102,35 @@ void CodeHighlighter::setColors(const Colors &colors)
         recolorAll();
 }
 
+void CodeHighlighter::setVisibleLines(int first, int last)
+{
+    m_firstVisible = first;
+    m_lastVisible = last;
+    const QScopedValueRollback coloring(m_isColoring, true);
+    QTextCursor cursor(m_document);
+    QTextBlock start, end;
+    for (QTextBlock block = m_document->findBlockByNumber(first); block.isValid() && first <= last;
+         block = block.next(), ++first) {
+        if (block.userState() == BlockState::unknown || BlockState::of(block).isColored)
+            continue;
+        if (!start.isValid()) {
+            start = block;
+            // An edit without a change makes views repaint what has other colours.
+            cursor.beginEditBlock();
+        }
+        const BlockState state = BlockState::of(block);
+        m_tokens.clear();
+        CodeSyntax::scanLine(textOf(block), block.next().isValid(), state.before, m_language, m_tokens);
+        paint(block);
+        block.setUserState(BlockState{state.before, state.after, true}.toUserState());
+        end = block;
+    }
+    if (!start.isValid())
+        return;
+    m_document->markContentsDirty(start.position(), end.position() + end.length() - start.position() - 1);
+    cursor.endEditBlock();
+}
+
 void CodeHighlighter::settle()
 {
     if (!isSettled())
@@ -146,12 +176,12 @@ void CodeHighlighter::colorPortion(qsizetype units)
 
 QTextBlock CodeHighlighter::colorLines(QTextBlock block, int until, qsizetype units)
 {
-    const int start = block.position();
     const QTextBlock previous = block.previous();
     const bool isKnown = previous.isValid() && previous.userState() != BlockState::unknown;
     Open open = isKnown ? BlockState::of(previous).after : Open{};
+    int start = -1, end = -1;
     bool isDone = false;
-    for (; block.isValid(); block = block.next()) {
+    for (int line = block.blockNumber(); block.isValid(); block = block.next(), ++line) {
         const bool isRight = block.userState() != BlockState::unknown && BlockState::of(block).before == open;
         isDone = isRight && block.position() > m_lastChanged.position();
         if (isDone || units <= 0 || block.position() > until)
@@ -163,20 +193,27 @@ QTextBlock CodeHighlighter::colorLines(QTextBlock block, int until, qsizetype un
         }
         m_tokens.clear();
         const QString text = textOf(block);
-        const bool isLast = !block.next().isValid();
-        const Open after = CodeSyntax::scanLine(text, !isLast, open, m_language, m_tokens);
-        Ranges ranges;
-        for (const CodeToken &token : std::as_const(m_tokens))
-            ranges.append({int(token.location), int(token.length), m_formats[std::size_t(token.kind)]});
-        block.layout()->setFormats(aroundComposition(ranges, *block.layout()));
-        block.setUserState(BlockState{open, after}.toUserState());
+        const Open after = CodeSyntax::scanLine(text, block.next().isValid(), open, m_language, m_tokens);
+        if (isVisible(line)) {
+            paint(block);
+            start = start < 0 ? block.position() : start;
+            end = block.position() + block.length() - 1;
+        }
+        block.setUserState(BlockState{open, after, isVisible(line)}.toUserState());
         open = after;
         units -= text.size() + unitsPerLine;
     }
-    const int end = block.isValid() ? block.position() : m_document->characterCount();
-    if (end > start)
-        m_document->markContentsDirty(start, end - start - 1);
+    if (start >= 0)
+        m_document->markContentsDirty(start, end - start);
     return isDone ? QTextBlock() : block;
+}
+
+void CodeHighlighter::paint(const QTextBlock &block)
+{
+    Ranges ranges;
+    for (const CodeToken &token : std::as_const(m_tokens))
+        ranges.append({int(token.location), int(token.length), m_formats[std::size_t(token.kind)]});
+    block.layout()->setFormats(aroundComposition(ranges, *block.layout()));
 }
 
 void CodeHighlighter::goOnFrom(const QTextBlock &block)

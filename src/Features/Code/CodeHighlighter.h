@@ -11,12 +11,16 @@
 #include <QTimer>
 
 #include <array>
+#include <limits>
 
 class QTextDocument;
 
 /// Colours a document as `CodeSyntax::tokens` of its whole text says, and keeps it so while it is edited. A
 /// key costs the lines it changed. What a key changes further down, as when a comment is opened, follows in
 /// small portions, one a turn of the event loop, so that no key has to wait for a long document.
+///
+/// Finding the tokens is cheap, but a line with new colours has to be set and painted anew. So a view tells
+/// which lines it shows, and the others take their colours when they come into view.
 ///
 /// The text's own font and colour are left to the document; tokens differ from it by colour and weight.
 /// It keeps its notes in the blocks' user state, which belongs to it alone.
@@ -36,8 +40,13 @@ public:
     /// Colours anew if a colour is another one.
     void setColors(const Colors &colors);
 
-    /// Whether everything has its colours.
+    /// Colours these lines alone from now on, counted from 0; at first all are.
+    void setVisibleLines(int first, int last);
+
+    /// Whether all visible lines have their colours.
     bool isSettled() const { return m_next.isNull(); }
+    /// Whether the document changes at this moment because of its colours alone.
+    bool isColoring() const { return m_isColoring; }
     /// Colours at once what is still to be done.
     void settle();
 
@@ -48,6 +57,9 @@ private:
     void colorPortion(qsizetype units);
     /// Colours lines up to the one that begins at `until`. Gives the line to go on with, if there is one.
     QTextBlock colorLines(QTextBlock block, int until, qsizetype units);
+    /// Sets the colours of the tokens found last on the line.
+    void paint(const QTextBlock &block);
+    bool isVisible(int line) const { return line >= m_firstVisible && line <= m_lastVisible; }
     void goOnFrom(const QTextBlock &block);
 
     QTextDocument *m_document;
@@ -58,6 +70,8 @@ private:
     /// The last line that was changed since it got its colours.
     QTextCursor m_lastChanged;
     QTimer m_portions;
+    int m_firstVisible = 0;
+    int m_lastVisible = std::numeric_limits<int>::max();
     bool m_isColoring = false;
     QList<CodeToken> m_tokens;
 };

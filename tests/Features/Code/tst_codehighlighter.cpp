@@ -121,6 +121,36 @@ private slots:
         QCOMPARE(shown(document), expected(document, CodeLanguage::swift));
     }
 
+    void onlyVisibleLinesTakeColours()
+    {
+        QTextDocument document(u"let a = 1\n"_s.repeated(3000));
+        CodeHighlighter highlighter(&document);
+        highlighter.setVisibleLines(10, 19);
+        highlighter.setLanguage(CodeLanguage::swift);
+        highlighter.setColors(colors);
+        const auto colored = [&](QColor color) {
+            QList<int> lines;
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+                if (!block.layout()->formats().isEmpty() &&
+                    block.layout()->formats().first().format.foreground().color() == color)
+                    lines.append(block.blockNumber());
+            return std::pair(lines.value(0, -1), lines.size());
+        };
+        highlighter.settle();
+        QCOMPARE(colored(colors[0]), std::pair(10, qsizetype(10)));
+        // What is opened above reaches the lines in view, and others only when they come into it.
+        QTextCursor(&document).insertText(u"/*"_s);
+        QTRY_VERIFY(highlighter.isSettled());
+        QCOMPARE(colored(colors[3]), std::pair(10, qsizetype(10)));
+        highlighter.setVisibleLines(2990, 2995);
+        QCOMPARE(colored(colors[3]).second, qsizetype(16));
+        // A line that was coloured and has changed since is right when it comes back.
+        QTextCursor(&document).insertText(u"//"_s);
+        highlighter.setVisibleLines(12, 14);
+        QTRY_VERIFY(highlighter.isSettled());
+        QCOMPARE(colored(colors[0]), std::pair(12, qsizetype(3)));
+    }
+
     void otherColoursAndLanguagesCountAtOnce()
     {
         QTextDocument document(u"let x = none"_s);

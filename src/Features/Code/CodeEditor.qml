@@ -1,0 +1,168 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// An editor of source text with colours and line numbers, which scrolls by itself. Where it cannot scroll
+/// further, the wheel goes on to what it lies in. Tab indents, so Ctrl+Tab leaves it.
+FocusScope {
+    id: root
+
+    /// The owner's text; the editor never writes it, but tells each change.
+    property string text
+    /// The raw text of a language.
+    property string language
+    property bool wrap: true
+    property int fontSize: Theme.sizeCode
+    property bool showLineNumbers: true
+    property string placeholder
+    property string accessibleName: qsTr("Code")
+    property int verticalPadding: Theme.space8
+    readonly property int caretLine: code.caretLine
+    readonly property int caretColumn: code.caretColumn
+    readonly property int lineCount: code.lineCount
+    readonly property bool visualFocus: area.activeFocus && (area.focusReason === Qt.TabFocusReason
+                                                             || area.focusReason === Qt.BacktabFocusReason
+                                                             || area.focusReason === Qt.ShortcutFocusReason)
+    /// The height at which nothing has to scroll.
+    readonly property real fullHeight: area.contentHeight + 2 * verticalPadding
+    property alias input: area
+    property alias flickable: view
+
+    signal edited(text: string)
+    /// An arrow key would lead out of the text.
+    signal leftUp()
+    signal leftDown()
+
+    function forceFocus(reason = Qt.OtherFocusReason) {
+        area.forceActiveFocus(reason)
+    }
+
+    /// Puts the caret to the beginning, and that into view.
+    function toBeginning() {
+        area.cursorPosition = 0
+        view.contentX = 0
+        view.contentY = 0
+    }
+
+    implicitHeight: fullHeight
+    implicitWidth: Theme.fieldWidth
+
+    FontMetrics {
+        id: metrics
+        font: area.font
+    }
+
+    CodeEditorDocument {
+        id: code
+        caret: area.cursorPosition
+        document: area.textDocument
+        language: root.language
+        text: root.text
+        viewHeight: view.height
+        viewTop: view.contentY - root.verticalPadding
+        onCaretPlaced: position => area.cursorPosition = position
+        onEdited: text => {
+            root.edited(text)
+            keys.reveal()
+        }
+    }
+
+    LineSpacing {
+        distance: 3
+        document: area.textDocument
+    }
+
+    CodeLineNumbers {
+        id: numbers
+        caretColor: Theme.ovInkSecondary
+        color: Theme.ovInkTertiary
+        document: code
+        documentTop: root.verticalPadding - view.contentY
+        font.family: Theme.codeFamily
+        font.pixelSize: Math.round(Theme.sizeCaption * 11 / 12)
+        height: root.height
+        margin: 10
+        visible: root.showLineNumbers
+        width: visible ? implicitWidth : 0
+    }
+
+    Flickable {
+        id: view
+        anchors.bottom: parent.bottom
+        anchors.left: numbers.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: area.height
+        contentWidth: area.width
+
+        T.ScrollBar.horizontal: OVScrollBar { }
+        T.ScrollBar.vertical: OVScrollBar { }
+
+        T.TextArea {
+            id: area
+
+            // Widths in steps, since each new width lays the whole text out again.
+            readonly property int widthStep: 640
+
+            Accessible.name: root.accessibleName
+            bottomPadding: root.verticalPadding
+            color: Theme.ovInk
+            cursorDelegate: OVCaret { }
+            focus: true
+            font.family: Theme.codeFamily
+            font.pixelSize: root.fontSize
+            height: Math.max(view.height, root.fullHeight)
+            inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+            leftPadding: root.showLineNumbers ? Theme.space4 : Theme.space12
+            persistentSelection: true
+            rightPadding: Theme.space12
+            selectByMouse: true
+            selectedTextColor: Theme.ovInk
+            selectionColor: Theme.selection
+            tabStopDistance: 4 * metrics.advanceWidth(" ")
+            textFormat: TextEdit.PlainText
+            topPadding: root.verticalPadding
+            width: root.wrap || contentWidth + leftPadding + rightPadding <= view.width
+                   ? view.width
+                   : Math.ceil((contentWidth + leftPadding + rightPadding) / widthStep) * widthStep
+            wrapMode: root.wrap ? TextEdit.Wrap : TextEdit.NoWrap
+            Keys.onPressed: event => keys.handle(event)
+            onCursorPositionChanged: keys.reveal()
+        }
+    }
+
+    CodeEditorKeys {
+        id: keys
+        contextMenu: menuArea
+        document: code
+        flickable: view
+        input: area
+        onLeftDown: root.leftDown()
+        onLeftUp: root.leftUp()
+    }
+
+    OVText {
+        Accessible.ignored: true
+        color: Theme.ovInkTertiary
+        font: area.font
+        text: root.placeholder
+        visible: area.length === 0 && area.preeditText === ""
+        width: view.width - area.leftPadding - area.rightPadding
+        x: view.x + area.leftPadding
+        y: root.verticalPadding
+    }
+
+    OVContextMenuArea {
+        id: menuArea
+        focusTarget: area
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
+        menu: Component {
+            OVTextMenu { target: area }
+        }
+        // qmllint enable unqualified
+    }
+}

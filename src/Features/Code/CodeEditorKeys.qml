@@ -1,0 +1,82 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// The keys that a code editor takes before its text does, and what keeps the caret in view.
+QtObject {
+    id: root
+
+    required property TextEdit input
+    required property CodeEditorDocument document
+    required property Flickable flickable
+    required property OVContextMenuArea contextMenu
+    property bool isHeld: false
+
+    signal leftUp()
+    signal leftDown()
+
+    /// Scrolls the caret into view.
+    function reveal() {
+        if (isHeld || !input.activeFocus || flickable.height <= 0)
+            return
+        const caret = input.positionToRectangle(input.cursorPosition)
+        flickable.contentY = within(flickable.contentY, caret.y - input.topPadding,
+                                    caret.y + caret.height + input.bottomPadding - flickable.height,
+                                    input.height - flickable.height)
+        flickable.contentX = within(flickable.contentX, caret.x - input.leftPadding,
+                                    caret.x + input.rightPadding - flickable.width,
+                                    input.width - flickable.width)
+    }
+
+    function within(present: real, most: real, least: real, end: real): real {
+        return Math.max(0, Math.min(end, Math.max(least, Math.min(most, present))))
+    }
+
+    function moveByPage(direction: int, selecting: bool) {
+        const caret = input.cursorRectangle
+        const distance = direction * Math.max(caret.height, flickable.height - 2 * caret.height)
+        const position = input.positionAt(caret.x, caret.y + caret.height / 2 + distance)
+        flickable.contentY = within(flickable.contentY + distance, Infinity, 0, input.height - flickable.height)
+        if (selecting)
+            input.moveCursorSelection(position)
+        else
+            input.cursorPosition = position
+    }
+
+    function moveOut(event: KeyEvent) {
+        const caret = input.cursorRectangle
+        if (event.key === Qt.Key_Up && caret.y <= input.positionToRectangle(0).y)
+            leftUp()
+        else if (event.key === Qt.Key_Down && caret.y >= input.positionToRectangle(input.length).y)
+            leftDown()
+    }
+
+    function handle(event: KeyEvent) {
+        const modifiers = event.modifiers & ~(Qt.KeypadModifier | Qt.GroupSwitchModifier)
+        const isShifted = modifiers === Qt.ShiftModifier
+        if (event.matches(StandardKey.SelectAll)) {
+            isHeld = true
+            input.selectAll()
+            isHeld = false
+        } else if (event.key === Qt.Key_Tab && !modifiers) {
+            document.indent(input.selectionStart, input.selectionEnd)
+        } else if (event.key === Qt.Key_Backtab && isShifted) {
+            document.outdent(input.selectionStart, input.selectionEnd)
+        } else if ((event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab) && modifiers & Qt.ControlModifier) {
+            const isForward = event.key === Qt.Key_Tab && !(modifiers & Qt.ShiftModifier)
+            input.nextItemInFocusChain(isForward).forceActiveFocus(isForward ? Qt.TabFocusReason
+                                                                            : Qt.BacktabFocusReason)
+        } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (!modifiers || isShifted)) {
+            document.breakLine(input.selectionStart, input.selectionEnd)
+        } else if ((event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown) && (!modifiers || isShifted)) {
+            moveByPage(event.key === Qt.Key_PageUp ? -1 : 1, isShifted)
+        } else {
+            if (!modifiers)
+                moveOut(event)
+            event.accepted = false
+            contextMenu.handleKey(event)
+            return
+        }
+        event.accepted = true
+    }
+}

@@ -1,0 +1,25 @@
+#include "Features/Code/ConsoleExcerpt.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+QString ConsoleExcerpt::of(const QString &output, qsizetype limit)
+{
+    if (output.size() <= limit)
+        return output;
+    qsizetype head = limit / 2, tail = output.size() - limit / 2;
+    // Whole lines where there are any nearby.
+    if (const qsizetype line = output.lastIndexOf(u'\n', head - 1); line > head / 2)
+        head = line + 1;
+    else if (output.at(head).isLowSurrogate())
+        --head;
+    if (const qsizetype line = output.indexOf(u'\n', tail); line >= 0 && line < output.size() - limit / 4)
+        tail = line + 1;
+    else if (output.at(tail).isLowSurrogate())
+        ++tail;
+    const QString omitted = QCoreApplication::translate(
+                                "ConsoleExcerpt", "… %1 characters are left out here; Copy takes them all …")
+                                .arg(QLocale(QLocale::English).toString(tail - head));
+    const QString gap = output.at(head - 1) == u'\n' ? QString() : QStringLiteral("\n");
+    return output.first(head) + gap + u'\n' + omitted + QStringLiteral("\n\n") + output.sliced(tail);
+}

@@ -1,0 +1,79 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// What a program has printed, to read and to select from. Of a very long output it shows the beginning and
+/// the end. It scrolls by itself.
+FocusScope {
+    id: root
+
+    property string text
+    property color color: Theme.ovInk
+    property int padding: Theme.space12
+    readonly property real fullHeight: area.contentHeight + 2 * padding
+    property alias input: area
+
+    implicitHeight: fullHeight
+    implicitWidth: Theme.fieldWidth
+
+    OVFocusRing {
+        anchors.margins: 2
+        shown: area.activeFocus && (area.focusReason === Qt.TabFocusReason
+                                    || area.focusReason === Qt.BacktabFocusReason)
+        targetRadius: Theme.cornerMark
+    }
+
+    Flickable {
+        id: flickable
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: area.height
+        contentWidth: width
+
+        T.ScrollBar.vertical: OVScrollBar { }
+
+        T.TextArea {
+            id: area
+            Accessible.name: qsTr("Output")
+            activeFocusOnTab: true
+            color: root.color
+            focus: true
+            font.family: Theme.codeFamily
+            font.pixelSize: Theme.sizeCaption
+            height: Math.max(flickable.height, root.fullHeight)
+            padding: root.padding
+            persistentSelection: true
+            readOnly: true
+            selectByMouse: true
+            selectedTextColor: Theme.ovInk
+            selectionColor: Theme.selection
+            text: excerpt.shown
+            textFormat: TextEdit.PlainText
+            width: flickable.width
+            wrapMode: TextEdit.Wrap
+            Keys.onDownPressed: flickable.flick(0, -600)
+            Keys.onPressed: event => menuArea.handleKey(event)
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onUpPressed: flickable.flick(0, 600)
+        }
+    }
+
+    ConsoleExcerptText {
+        id: excerpt
+        output: root.text
+    }
+
+    OVContextMenuArea {
+        id: menuArea
+        focusTarget: area
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
+        menu: Component {
+            OVTextMenu { target: area }
+        }
+        // qmllint enable unqualified
+    }
+}

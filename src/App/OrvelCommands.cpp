@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 /// One row of the table. The action is a member, or the place to go to.
 struct OrvelCommands::Entry {
     enum class Group { same, next };
+    /// Where the command can be given: in the workspace only, or before it is entered as well.
+    enum class Reach { workspace, window };
 
     QString menu;
     QString id;
@@ -14,6 +16,7 @@ struct OrvelCommands::Entry {
     QString keys;
     std::variant<void (OrvelCommands::*)(), Destination::Kind> action;
     Group group = Group::same;
+    Reach reach = Reach::workspace;
 };
 
 // The whole menu bar in its order. A command whose service is still to come joins here, in its place.
@@ -21,6 +24,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
 {
     using Kind = Destination::Kind;
     using enum Entry::Group;
+    using enum Entry::Reach;
     static const QString file = u"&File"_s;
     static const QString navigate = u"&Navigate"_s;
     static const QString view = u"&View"_s;
@@ -29,7 +33,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {file, u"newNote"_s, u"New Note"_s, u"Ctrl+Shift+N"_s, &OrvelCommands::newNote},
         {file, u"newTask"_s, u"New Task"_s, u"Ctrl+Shift+K"_s, &OrvelCommands::newTask},
         {file, u"settings"_s, u"Settings…"_s, u"Ctrl+,"_s, Kind::settings, next},
-        {file, u"quit"_s, u"Quit"_s, u"Ctrl+Q"_s, &OrvelCommands::quitRequested, next},
+        {file, u"quit"_s, u"Quit"_s, u"Ctrl+Q"_s, &OrvelCommands::quitRequested, next, window},
 
         {navigate, u"dashboard"_s, u"Dashboard"_s, u"Ctrl+1"_s, Kind::dashboard},
         {navigate, u"today"_s, u"Today"_s, u"Ctrl+2"_s, Kind::today},
@@ -50,7 +54,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {view, u"theme"_s, u"Cycle Accent"_s, u"Ctrl+Shift+T"_s, &OrvelCommands::cycleAccent},
         {view, u"shortcuts"_s, u"Keyboard Shortcuts"_s, u"Ctrl+/"_s, &OrvelCommands::presentShortcuts},
         {view, u"sidebar"_s, u"Toggle Sidebar"_s, u"Ctrl+Shift+S"_s, &OrvelCommands::toggleSidebar, next},
-        {view, u"fullScreen"_s, u"Full Screen"_s, u"F11"_s, &OrvelCommands::fullScreenToggled, next},
+        {view, u"fullScreen"_s, u"Full Screen"_s, u"F11"_s, &OrvelCommands::fullScreenToggled, next, window},
     };
     return entries;
 }
@@ -81,6 +85,8 @@ void OrvelCommands::run(const QString &id)
     const auto &entries = table();
     const auto found = std::ranges::find(entries, id, &Entry::id);
     if (found == entries.end())
+        return;
+    if (found->reach == Entry::Reach::workspace && !m_store->settings().hasCompletedOnboarding)
         return;
     if (const auto *const place = std::get_if<Destination::Kind>(&found->action))
         m_ui->setSelection(Destination::to(*place));

@@ -59,7 +59,8 @@ public:
     /// The commands of all menus.
     static QList<OrvelCommand> commands();
 
-    /// Does what the command with this id is for; an unknown id does nothing.
+    /// Does what the command with this id is for; an unknown id does nothing, and before the onboarding is
+    /// done neither does anything that belongs to the workspace.
     Q_INVOKABLE void run(const QString &id);
 
 signals:

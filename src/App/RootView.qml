@@ -2,8 +2,8 @@ import QtQuick
 import Orvel.App
 import Orvel.DesignSystem
 
-/// The layers of the window: the background, the workspace, and for a moment after the start the intro on top of
-/// all.
+/// The layers of the window: the background, the workspace or what comes before it, the onboarding, and for a moment
+/// after the start the intro on top of all.
 FocusScope {
     id: root
 
@@ -11,14 +11,14 @@ FocusScope {
     required property RootViewModel model
     /// Once a launch, and not where motion is unwanted.
     property bool showIntro: Theme.motionEnabled
+    /// The first frame need not wait for the layer below the intro, and the intro runs on while it is built. Later a
+    /// layer is there at once, to take the place of the other one.
+    property bool starting: true
 
     focus: true
 
-    Component.onCompleted: {
-        // From here on the choice of motion has no say in it.
-        showIntro = showIntro
-        workspace.setSource("WorkspaceLayer.qml", { "commands": root.commands })
-    }
+    // From here on the choice of motion has no say in it.
+    Component.onCompleted: showIntro = showIntro
 
     OVBackground {
         anchors.fill: parent
@@ -30,17 +30,29 @@ FocusScope {
         id: workspace
 
         anchors.fill: parent
-        shown: true
-        // The first frame need not wait for the workspace, and the intro runs on while it is built.
-        asynchronous: true
+        asynchronous: root.starting
+        page: "WorkspaceLayer.qml"
+        pageProperties: ({ "commands": root.commands })
+        shown: root.model.hasCompletedOnboarding
+        onLoaded: root.starting = false
+    }
+
+    FadingLayer {
+        id: onboarding
+
+        anchors.fill: parent
+        asynchronous: root.starting
+        page: "../Onboarding/OnboardingView.qml"
+        shown: !root.model.hasCompletedOnboarding
+        onLoaded: root.starting = false
     }
 
     FadingLayer {
         id: intro
 
         anchors.fill: parent
+        page: "../DesignSystem/OrvelIntroView.qml"
         shown: root.showIntro
-        source: "../DesignSystem/OrvelIntroView.qml"
         z: 10
         onLoaded: (item as OrvelIntroView).run()
 

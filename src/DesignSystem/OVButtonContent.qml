@@ -11,6 +11,9 @@ Item {
     property int iconSize: Theme.iconRow
     property int textSize: Theme.sizeDense
     property bool filled: false
+    /// Whether the icon stands after the words.
+    property bool trailing: false
+    readonly property int start: Math.round((width - label.width - label.offset) / 2)
 
     implicitHeight: Math.max(icon.visible ? icon.height : 0, label.implicitHeight)
     implicitWidth: label.implicitWidth + label.offset
@@ -24,7 +27,7 @@ Item {
         size: root.iconSize
         symbol: root.symbol
         visible: root.symbol !== ""
-        x: Math.round((root.width - label.width - label.offset) / 2)
+        x: root.trailing ? label.x + label.width + label.offset - width : root.start
     }
 
     OVText {
@@ -38,6 +41,6 @@ Item {
         font.weight: Theme.textWeight + 100
         text: root.text
         width: Math.min(implicitWidth, root.width - offset)
-        x: icon.x + offset
+        x: root.start + (root.trailing ? 0 : offset)
     }
 }

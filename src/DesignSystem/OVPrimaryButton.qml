@@ -6,6 +6,8 @@ OVPressable {
     id: root
 
     property string symbol
+    /// Whether the icon stands after the words, as an arrow does.
+    property bool symbolTrailing: false
     /// Colours the button as one that takes something away.
     property bool destructive: false
 
@@ -28,5 +30,6 @@ OVPressable {
         color: root.destructive ? (Theme.dark ? Theme.ovCanvas : Theme.ovSurface) : Theme.onAccent
         symbol: root.symbol
         text: root.text
+        trailing: root.symbolTrailing
     }
 }

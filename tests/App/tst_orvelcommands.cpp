@@ -29,6 +29,7 @@ private slots:
     void init()
     {
         m_store.resetEverything(false);
+        m_store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
         m_ui.setSelection(Destination());
     }
 
@@ -134,6 +135,23 @@ private slots:
         QCOMPARE(m_store.settings().theme.accent, AccentPalette::graphite);
         QCOMPARE(m_store.settings().theme.navigation, NavigationStyle::tabsTop);
         QCOMPARE(m_store.settings().appearance, AppearanceMode::light);
+    }
+
+    void beforeTheWorkspaceIsEnteredOnlyTheWindowObeys()
+    {
+        m_store.resetEverything(false);
+        const AppSettings settings = m_store.settings();
+        const QSignalSpy quit(&m_commands, &OrvelCommands::quitRequested);
+        const QSignalSpy fullScreen(&m_commands, &OrvelCommands::fullScreenToggled);
+        for (const OrvelCommand &command : OrvelCommands::commands())
+            m_commands.run(command.id);
+        QCOMPARE(quit.count(), 1);
+        QCOMPARE(fullScreen.count(), 1);
+        QCOMPARE(m_store.settings(), settings);
+        QVERIFY(m_store.pages().all().isEmpty());
+        QVERIFY(m_store.tasks().all().isEmpty());
+        QCOMPARE(m_ui.selection(), Destination());
+        QVERIFY(!m_ui.isSearchPresented() && !m_ui.isShortcutsPresented() && m_ui.isSidebarVisible());
     }
 
     void theWindowIsToldWhatIsItsOwn()

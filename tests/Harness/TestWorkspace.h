@@ -36,6 +36,13 @@ public:
         m_ui.setSidebarVisible(true);
     }
 
+    /// A workspace that nobody has entered yet.
+    Q_INVOKABLE void resetToFirstRun()
+    {
+        reset();
+        m_store.resetEverything(false);
+    }
+
     /// @param status and priority raw texts
     /// @param dueInHours counted from now; NaN for a task without a due date
     Q_INVOKABLE QString addTask(const QString &title, const QString &status = QStringLiteral("todo"),

@@ -161,6 +161,37 @@ QList<Picture> shellPictures()
     return pictures;
 }
 
+/// The first run at one of its steps.
+Picture onboardingPicture(const QString &name, int step, QSize size, const Look &look,
+                          const QByteArray &choose = {})
+{
+    return {QStringLiteral("onboarding-") + name,
+            "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Onboarding\n"
+            "Item { OVBackground { anchors.fill: parent }\n"
+            "OnboardingView { anchors.fill: parent; focus: true; Component.onCompleted: { " +
+                choose + "; while (choices.step < " + QByteArray::number(step) + ") choices.goNext() } } }",
+            size, [](WorkspaceStore &, UIState &) {}, look};
+}
+
+QList<Picture> onboardingPictures()
+{
+    const QByteArray chosen =
+        "choices.name = 'Zoë'; choices.workspaceName = 'Studio'; "
+        "choices.workspaceIcon = '🌱'; choices.toggleModule(8); choices.toggleModule(9)";
+    QList<Picture> pictures;
+    const QStringList steps{QStringLiteral("welcome"), QStringLiteral("profile"), QStringLiteral("modules"),
+                            QStringLiteral("starter"), QStringLiteral("look"),    QStringLiteral("ready")};
+    for (int step = 0; step < steps.size(); ++step) {
+        const QString &name = steps.at(step);
+        pictures.append(onboardingPicture(name, step, windowSize, light, chosen));
+        pictures.append(onboardingPicture(name + QStringLiteral("-dark"), step, windowSize, dark, chosen));
+        pictures.append(
+            onboardingPicture(name + QStringLiteral("-small-huge"), step, smallSize, both(light, huge),
+                              "choices.clearModules(); choices.name = 'A rather long name '.repeat(12)"));
+    }
+    return pictures;
+}
+
 /// Lets bindings, animations and images settle.
 void settle(int milliseconds)
 {
@@ -215,7 +246,8 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture : galleryPictures() + shellPictures() + tasksPictures()) {
+    for (const Picture &picture :
+         galleryPictures() + onboardingPictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

@@ -1,0 +1,47 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Onboarding
+
+/// Whether the window is light, dark, or as the desktop is.
+OnboardingPage {
+    id: root
+
+    ArrowGrid {
+        id: grid
+
+        columns: 3
+        current: root.onboarding.appearance
+        items: repeater
+        spacing: Theme.space16
+        width: parent.width
+        Accessible.name: root.onboarding.title
+        Accessible.role: Accessible.Grouping
+        onMoved: index => root.onboarding.appearance = index
+
+        Repeater {
+            id: repeater
+
+            model: root.onboarding.appearances
+
+            AppearanceCard {
+                required property int index
+                required property var modelData
+
+                activeFocusOnTab: index === grid.current
+                checked: index === root.onboarding.appearance
+                looks: modelData.looks
+                symbol: modelData.symbol
+                text: modelData.title
+                width: Math.floor((grid.width - 2 * grid.spacing) / 3)
+                Keys.onEnterPressed: root.accepted()
+                Keys.onReturnPressed: root.accepted()
+                onClicked: {
+                    grid.current = index
+                    root.onboarding.appearance = index
+                }
+            }
+        }
+    }
+}

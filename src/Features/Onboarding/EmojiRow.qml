@@ -1,0 +1,65 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Onboarding
+
+/// A row of emoji of which one is chosen. The arrow keys move the choice.
+Column {
+    id: root
+
+    required property string label
+    required property list<string> icons
+    required property string icon
+    readonly property int tile: Theme.iconTile + Theme.space16
+
+    signal chosen(icon: string)
+    signal accepted
+
+    spacing: Theme.space8
+
+    OVText {
+        color: Theme.ovInkSecondary
+        font.weight: Font.Medium
+        role: OVText.Dense
+        text: root.label
+        width: parent.width
+        Accessible.ignored: true
+    }
+
+    ArrowGrid {
+        id: grid
+
+        columns: (root.tile + Theme.space8) * root.icons.length - Theme.space8 <= root.width ? root.icons.length
+                                                                                           : root.icons.length / 2
+        current: Math.max(0, root.icons.indexOf(root.icon))
+        items: repeater
+        spacing: Theme.space8
+        Accessible.name: root.label
+        Accessible.role: Accessible.Grouping
+        onMoved: index => root.chosen(root.icons[index])
+
+        Repeater {
+            id: repeater
+
+            model: root.icons
+
+            EmojiChoice {
+                required property int index
+                required property string modelData
+
+                activeFocusOnTab: index === grid.current
+                checked: modelData === root.icon
+                implicitHeight: root.tile
+                implicitWidth: root.tile
+                text: modelData
+                Keys.onEnterPressed: root.accepted()
+                Keys.onReturnPressed: root.accepted()
+                onClicked: {
+                    grid.current = index
+                    root.chosen(modelData)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,107 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// A module to keep or to hide.
+OVPressable {
+    id: root
+
+    required property string symbol
+    required property string blurb
+
+    bottomPadding: topPadding
+    leftPadding: Theme.space12
+    rightPadding: Theme.space12
+    topPadding: Theme.space12 - 2
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.description: blurb
+    Accessible.role: Accessible.CheckBox
+
+    background: Rectangle {
+        border.color: root.hovered ? Theme.ovBorderStrong : Theme.ovBorder
+        border.width: Theme.lineWidth
+        color: root.checked ? Theme.ovSubtle : Theme.ovSurface
+        radius: root.radius
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.durationHover }
+        }
+    }
+    contentItem: Item {
+        implicitHeight: words.height
+
+        OVIcon {
+            id: icon
+
+            color: root.checked ? Theme.ovInk : Theme.ovInkTertiary
+            filled: root.checked
+            size: Theme.iconButton
+            symbol: root.symbol
+            y: Math.round((name.height - height) / 2)
+        }
+
+        Column {
+            id: words
+
+            anchors.left: icon.right
+            anchors.leftMargin: Theme.space8
+            anchors.right: parent.right
+            spacing: 2
+
+            Item {
+                height: name.height
+                width: parent.width
+
+                OVText {
+                    id: name
+
+                    color: root.checked ? Theme.ovInk : Theme.ovInkSecondary
+                    font.weight: Font.Medium
+                    role: OVText.Dense
+                    text: root.text
+                    width: parent.width - box.width - Theme.space4
+                    Accessible.ignored: true
+                }
+
+                Rectangle {
+                    id: box
+
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    border.color: Theme.ovBorderStrong
+                    border.width: root.checked ? 0 : Theme.lineWidth
+                    color: root.checked ? Theme.accent : "transparent"
+                    height: width
+                    radius: width / 2
+                    width: Theme.iconRow
+
+                    OVCheckMark {
+                        anchors.fill: parent
+                        shown: root.checked
+                    }
+                }
+            }
+
+            OVText {
+                color: Theme.ovInkSecondary
+                // Two lines for all, so that the cards of a row are one height.
+                height: Math.ceil(2 * lineHeight * metrics.height)
+                maximumLineCount: 2
+                opacity: root.checked ? 1 : 0.8
+                role: OVText.Caption
+                text: root.blurb
+                verticalAlignment: Text.AlignTop
+                width: parent.width
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.sizeCaption
+    }
+}

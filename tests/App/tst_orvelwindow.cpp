@@ -31,7 +31,9 @@ private:
     UIState &ui() { return m_workspace.ui(); }
     void edit(const std::function<void(AppSettings &)> &change) { store().changeSettings(change); }
 
-    void open()
+    void open() { open("WorkspaceLayer"); }
+    /// Opens the window and waits for the layer that it begins with.
+    void open(const QByteArray &layer)
     {
         m_engine = std::make_unique<QQmlApplicationEngine>();
         m_engine->addImportPath(u":/qt/qml"_s);
@@ -42,8 +44,9 @@ private:
         m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window));
-        // The workspace follows the first frame.
-        QTRY_VERIFY(menuBar());
+        // The layer follows the first frame.
+        QTRY_VERIFY(item(layer));
+        QTRY_COMPARE(item(layer)->parentItem()->property("status").toInt(), 1);
     }
     QQuickItem *root() const { return m_window->contentItem()->childItems().constFirst(); }
     template <typename Found>
@@ -140,6 +143,82 @@ private slots:
         open();
         QVERIFY(!item("OrvelIntroView"));
         QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
+    }
+
+    void theFirstRunGivesWayToTheWorkspaceAndComesBackFresh()
+    {
+        m_workspace.resetToFirstRun();
+        ui().select(u"tasks"_s);
+        edit([](AppSettings &settings) { settings.reducedMotion = true; });
+        open("OnboardingView");
+        QVERIFY(!item("WorkspaceLayer"));
+        QVERIFY(!menuBar());
+        for (int round = 0; round < 2; ++round) {
+            QTRY_VERIFY(item("OnboardingView")->hasActiveFocus());
+            QTRY_VERIFY(!item("WorkspaceLayer"));
+            press(u"Return"_s);
+            for (const char letter : {'A', 'd', 'a'})
+                QTest::keyClick(m_window, letter);
+            for (int step = 0; step < 4; ++step)
+                press(u"Return"_s);
+            QVERIFY(!store().settings().hasCompletedOnboarding);
+            press(u"Return"_s);
+            QVERIFY(store().settings().hasCompletedOnboarding);
+            QCOMPARE(store().settings().userName, u"Ada"_s);
+            QCOMPARE(ui().selection().text(), u"dashboard"_s);
+            QTRY_VERIFY(!item("OnboardingView"));
+            QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
+            QVERIFY(menuBar()->isVisible());
+            press(u"Ctrl+4"_s);
+            QCOMPARE(ui().selection().text(), u"tasks"_s);
+            store().resetEverything(false);
+        }
+    }
+
+    void theFirstRunCrossFadesIntoTheWorkspace()
+    {
+        m_workspace.resetToFirstRun();
+        open("OnboardingView");
+        QTRY_VERIFY(item("OrvelIntroView"));
+        press(u"Return"_s);
+        QTRY_VERIFY(!item("OrvelIntroView"));
+        QVERIFY(item("OnboardingView")->hasActiveFocus());
+        QSignalSpy frames(m_window, &QQuickWindow::frameSwapped);
+        edit([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
+        bool bothSeen = false;
+        while (item("OnboardingView") && frames.wait()) {
+            const auto opacity = [this](const QByteArray &type) {
+                return item(type)->parentItem()->opacity();
+            };
+            if (!item("OnboardingView"))
+                break;
+            QVERIFY(!item("OnboardingView")->isEnabled());
+            QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
+            const double coming = opacity("WorkspaceLayer");
+            const double going = opacity("OnboardingView");
+            bothSeen = bothSeen || (coming > 0.05 && coming < 0.95 && going > 0.05 && going < 0.95);
+        }
+        QVERIFY(bothSeen);
+        QTRY_COMPARE(item("WorkspaceLayer")->parentItem()->opacity(), 1.0);
+    }
+
+    void noCommandReachesBehindTheFirstRun()
+    {
+        m_workspace.resetToFirstRun();
+        edit([](AppSettings &settings) { settings.reducedMotion = true; });
+        open("OnboardingView");
+        const Snapshot before = store().snapshot();
+        const QSignalSpy quit(m_engine.get(), &QQmlEngine::quit);
+        m_engine->disconnect(qApp);
+        for (const OrvelCommand &command : OrvelCommands::commands())
+            press(command.keys);
+        press(u"F10"_s);
+        QCOMPARE(store().snapshot(), before);
+        QCOMPARE(ui().selection(), Destination());
+        QVERIFY(!ui().isSearchPresented() && !ui().isShortcutsPresented() && ui().isSidebarVisible());
+        QCOMPARE(quit.count(), 1);
+        QTRY_COMPARE(m_window->visibility(), QWindow::FullScreen);
+        QVERIFY(item("OnboardingView")->hasActiveFocus());
     }
 
     void hasItsSizeAndTitle()

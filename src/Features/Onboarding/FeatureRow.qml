@@ -19,13 +19,13 @@ Item {
         border.width: Theme.lineWidth
         color: Theme.ovSubtle
         height: width
-        radius: Theme.cornerField
-        width: Theme.iconTile + Theme.space16
+        radius: Theme.cornerCard
+        width: Theme.iconTile + Theme.space24
 
         OVIcon {
             anchors.centerIn: parent
             color: Theme.ovInk
-            size: Theme.iconHeader
+            size: Theme.iconTile
             symbol: root.symbol
         }
     }

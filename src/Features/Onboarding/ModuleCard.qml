@@ -11,7 +11,7 @@ OVPressable {
     bottomPadding: topPadding
     leftPadding: Theme.space12
     rightPadding: Theme.space12
-    topPadding: Theme.space12 - 2
+    topPadding: Theme.space8
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.description: blurb
@@ -43,10 +43,8 @@ OVPressable {
         Column {
             id: words
 
-            anchors.left: icon.right
-            anchors.leftMargin: Theme.space8
-            anchors.right: parent.right
             spacing: 2
+            width: parent.width
 
             Item {
                 height: name.height
@@ -55,11 +53,14 @@ OVPressable {
                 OVText {
                     id: name
 
+                    anchors.left: parent.left
+                    anchors.leftMargin: icon.width + Theme.space8
+                    anchors.right: box.left
+                    anchors.rightMargin: Theme.space4
                     color: root.checked ? Theme.ovInk : Theme.ovInkSecondary
                     font.weight: Font.Medium
                     role: OVText.Dense
                     text: root.text
-                    width: parent.width - box.width - Theme.space4
                     Accessible.ignored: true
                 }
 
@@ -75,33 +76,43 @@ OVPressable {
                     radius: width / 2
                     width: Theme.iconRow
 
-                    OVCheckMark {
-                        anchors.fill: parent
-                        shown: root.checked
+                    OVIcon {
+                        anchors.centerIn: parent
+                        color: Theme.onAccent
+                        size: Theme.iconRow - 6
+                        symbol: "checkmark"
+                        visible: root.checked
                     }
                 }
             }
 
-            OVText {
-                color: Theme.ovInkSecondary
-                // Two lines for all, so that the cards of a row are one height.
-                height: Math.ceil(2 * lineHeight * metrics.height)
-                maximumLineCount: 2
-                opacity: root.checked ? 1 : 0.8
-                role: OVText.Caption
-                text: root.blurb
-                verticalAlignment: Text.AlignTop
+            // Two lines for all, so that the cards of a row are one height.
+            Item {
+                height: 2 * line.implicitHeight
                 width: parent.width
-                wrapMode: Text.Wrap
-                Accessible.ignored: true
+
+                OVText {
+                    id: line
+
+                    font.pixelSize: Theme.sizeCaption
+                    lineHeight: description.lineHeight
+                    text: " "
+                    visible: false
+                }
+
+                OVText {
+                    id: description
+
+                    color: Theme.ovInkSecondary
+                    maximumLineCount: 2
+                    opacity: root.checked ? 1 : 0.8
+                    role: OVText.Caption
+                    text: root.blurb
+                    width: parent.width
+                    wrapMode: Text.Wrap
+                    Accessible.ignored: true
+                }
             }
         }
-    }
-
-    FontMetrics {
-        id: metrics
-
-        font.family: Theme.fontFamily
-        font.pixelSize: Theme.sizeCaption
     }
 }

@@ -8,59 +8,51 @@ import Orvel.Onboarding
 OnboardingPage {
     id: root
 
-    Column {
-        spacing: Theme.space12
-        width: parent.width
-
-        Row {
-            spacing: Theme.space8
-
-            OVSecondaryButton {
-                implicitHeight: Theme.chipHeight
-                text: qsTr("Select all")
-                onClicked: root.onboarding.selectAllModules()
-            }
-
-            OVSecondaryButton {
-                implicitHeight: Theme.chipHeight
-                text: qsTr("Clear")
-                onClicked: root.onboarding.clearModules()
-            }
+    trailing: [
+        OVSecondaryButton {
+            implicitHeight: Theme.chipHeight
+            text: qsTr("Select all")
+            onClicked: root.onboarding.selectAllModules()
+        },
+        OVSecondaryButton {
+            implicitHeight: Theme.chipHeight
+            text: qsTr("Clear")
+            onClicked: root.onboarding.clearModules()
         }
+    ]
 
-        ArrowGrid {
-            id: grid
+    ArrowGrid {
+        id: grid
 
-            readonly property int cellWidth: Math.floor((width - (columns - 1) * spacing) / columns)
+        readonly property int cellWidth: Math.floor((width - (columns - 1) * spacing) / columns)
 
-            columns: width >= 560 * Theme.fontScale ? 3 : 2
-            items: repeater
-            spacing: Theme.space8
-            width: parent.width
-            Accessible.name: root.onboarding.title
-            Accessible.role: Accessible.Grouping
+        columns: width >= 560 * Theme.fontScale ? 3 : 2
+        items: repeater
+        spacing: Theme.space8
+        width: parent.width
+        Accessible.name: root.onboarding.title
+        Accessible.role: Accessible.Grouping
 
-            Repeater {
-                id: repeater
+        Repeater {
+            id: repeater
 
-                model: root.onboarding.modules
+            model: root.onboarding.modules
 
-                ModuleCard {
-                    required property int index
-                    required property var modelData
+            ModuleCard {
+                required property int index
+                required property var modelData
 
-                    activeFocusOnTab: index === grid.current
-                    blurb: modelData.blurb
-                    checked: root.onboarding.selectedModules[index]
-                    symbol: modelData.symbol
-                    text: modelData.title
-                    width: grid.cellWidth
-                    onActiveFocusChanged: {
-                        if (activeFocus)
-                            grid.current = index
-                    }
-                    onClicked: root.onboarding.toggleModule(index)
+                activeFocusOnTab: index === grid.current
+                blurb: modelData.blurb
+                checked: root.onboarding.selectedModules[index]
+                symbol: modelData.symbol
+                text: modelData.title
+                width: grid.cellWidth
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        grid.current = index
                 }
+                onClicked: root.onboarding.toggleModule(index)
             }
         }
     }

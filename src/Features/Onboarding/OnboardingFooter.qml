@@ -11,7 +11,7 @@ Item {
 
     signal accepted
 
-    implicitHeight: Theme.buttonHeight + 2 * Theme.space24
+    implicitHeight: Theme.buttonHeight + 2 * Theme.space16
 
     OVDivider {
         width: parent.width

@@ -11,8 +11,11 @@ FocusScope {
     required property OnboardingViewModel onboarding
     /// What wants the keyboard first; nothing leaves it to the button that goes on.
     property Item firstFocus: null
-    /// Stands above the title.
+    /// Stands above the title where there is room.
     property alias hero: heroPlace.data
+    /// Stands at the right end of the subtitle.
+    property alias trailing: trailingPlace.data
+    property alias spacing: column.spacing
     default property alias content: column.data
 
     /// The person is done with the step.
@@ -63,7 +66,7 @@ FocusScope {
                     id: heroPlace
 
                     height: childrenRect.height > 0 ? childrenRect.height + Theme.space16 : 0
-                    visible: height > 0
+                    visible: height > 0 && root.height > 480 * Theme.fontScale
                     width: parent.width
                 }
 
@@ -76,12 +79,26 @@ FocusScope {
                     Accessible.role: Accessible.Heading
                 }
 
-                OVText {
-                    id: subtitle
-
-                    color: Theme.ovInkSecondary
+                Item {
+                    height: Math.max(subtitle.height, trailingPlace.height)
                     width: parent.width
-                    wrapMode: Text.Wrap
+
+                    OVText {
+                        id: subtitle
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        color: Theme.ovInkSecondary
+                        width: parent.width - (trailingPlace.width > 0 ? trailingPlace.width + Theme.space16 : 0)
+                        wrapMode: Text.Wrap
+                    }
+
+                    Row {
+                        id: trailingPlace
+
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        spacing: Theme.space8
+                    }
                 }
             }
         }

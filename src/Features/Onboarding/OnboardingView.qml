@@ -56,6 +56,8 @@ FocusScope {
         keyed = false
     }
 
+    focus: true
+
     Component.onCompleted: page(0)
     Keys.onEscapePressed: goBackByKey()
     Keys.onPressed: event => {

@@ -13,6 +13,7 @@ OnboardingPage {
         contentItem: OVSwitch {
             checked: root.onboarding.includeSamples
             detail: qsTr("Optional and off by default. Adds clearly-labelled sample pages, tasks, a project and habits so you can explore — your workspace stays empty otherwise.")
+            font.weight: Font.Medium
             indicatorTrailing: true
             text: qsTr("Add example content")
             Keys.onEnterPressed: root.accepted()

@@ -4,11 +4,7 @@ import Orvel.Onboarding
 
 /// What the program is for.
 OnboardingPage {
-    hero: OrvelMark {
-        color: Theme.accent
-        height: Theme.space48 + Theme.space16
-        width: height
-    }
+    spacing: Theme.space32
 
     FeatureRow {
         detail: qsTr("A block editor with headings, to-dos, callouts and code.")
@@ -28,6 +24,10 @@ OnboardingPage {
         detail: qsTr("Group work, track progress and build flexible tables.")
         symbol: "tablecells"
         title: qsTr("Projects & databases")
+        width: parent.width
+    }
+
+    OVDivider {
         width: parent.width
     }
 

@@ -2,9 +2,12 @@
 
 #include "DesignSystem/OVLook.h"
 
+#include <QtQml/qqmlregistration.h>
+
 /// A module as the onboarding offers it.
 struct OnboardingModule {
     Q_GADGET
+    QML_ANONYMOUS
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString blurb MEMBER blurb FINAL)
     Q_PROPERTY(QString symbol MEMBER symbol FINAL)
@@ -20,6 +23,7 @@ public:
 /// An appearance with the looks that a picture of it shows: what it can come out as.
 struct OnboardingAppearance {
     Q_GADGET
+    QML_ANONYMOUS
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString symbol MEMBER symbol FINAL)
     Q_PROPERTY(QList<OVLook> looks MEMBER looks FINAL)
@@ -35,6 +39,7 @@ public:
 /// One line of the summary before the workspace is entered.
 struct OnboardingSummaryRow {
     Q_GADGET
+    QML_ANONYMOUS
     Q_PROPERTY(QString symbol MEMBER symbol FINAL)
     Q_PROPERTY(QString label MEMBER label FINAL)
     Q_PROPERTY(QString value MEMBER value FINAL)

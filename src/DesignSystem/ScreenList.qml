@@ -12,7 +12,9 @@ ListView {
 
     /// Widest the column gets.
     property int maximumWidth: Theme.listWidth
-    readonly property int padding: width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding
+    /// Room to keep free beside the column, for rows that draw there.
+    property int minimumPadding: 0
+    readonly property int padding: Math.max(minimumPadding, width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding)
     readonly property int columnWidth: Math.max(0, Math.min(maximumWidth, width - 2 * padding))
     readonly property int columnX: Math.round((width - columnWidth) / 2)
     /// What stands above the rows; it gets the width of the column.

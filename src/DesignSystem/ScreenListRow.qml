@@ -8,10 +8,17 @@ FocusScope {
 
     required property int index
     property int rowHeight: Theme.rowHeight
+    /// Whether a row that is added to a shown list fades in.
+    property bool fadesIn: true
     readonly property ScreenList list: ListView.view as ScreenList
     readonly property bool visualFocus: activeFocus && list.focusVisible
     readonly property alias hovered: pointer.hovered
     default property alias content: appear.content
+
+    /// Shift+Tab, unless a part of the row takes it.
+    function leaveBackwards() {
+        list.leftBackwards()
+    }
 
     activeFocusOnTab: activeFocus
     height: rowHeight
@@ -22,12 +29,12 @@ FocusScope {
             list.currentIndex = index
     }
     ListView.onAdd: {
-        if (!list.opening)
+        if (fadesIn && !list.opening)
             entry.start()
     }
     ListView.onRemove: removal.start()
 
-    Keys.onBacktabPressed: list.leftBackwards()
+    Keys.onBacktabPressed: leaveBackwards()
 
     OVAppear {
         id: appear

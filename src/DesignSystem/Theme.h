@@ -89,6 +89,11 @@ class Theme : public QObject
     Q_PROPERTY(int sizeSection READ sizeSection NOTIFY changed FINAL)
     Q_PROPERTY(int sizeTile READ sizeTile NOTIFY changed FINAL)
     Q_PROPERTY(int sizeCode READ sizeCode NOTIFY changed FINAL)
+    Q_PROPERTY(int sizePageTitle READ sizePageTitle NOTIFY changed FINAL)
+    Q_PROPERTY(int sizeHeading1 READ sizeHeading1 NOTIFY changed FINAL)
+    Q_PROPERTY(int sizeHeading2 READ sizeHeading2 NOTIFY changed FINAL)
+    Q_PROPERTY(int sizeHeading3 READ sizeHeading3 NOTIFY changed FINAL)
+    Q_PROPERTY(int sizeReading READ sizeReading NOTIFY changed FINAL)
 
     // Corners and lines
     Q_PROPERTY(int cornerCard READ cornerCard NOTIFY changed FINAL)
@@ -112,6 +117,7 @@ class Theme : public QObject
     Q_PROPERTY(int rowHeight READ rowHeight NOTIFY changed FINAL)
     Q_PROPERTY(int sidebarWidth READ sidebarWidth NOTIFY changed FINAL)
     Q_PROPERTY(int readingWidth READ readingWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int zenWidth READ zenWidth NOTIFY changed FINAL)
     Q_PROPERTY(int listWidth READ listWidth NOTIFY changed FINAL)
     Q_PROPERTY(int gridWidth READ gridWidth NOTIFY changed FINAL)
     Q_PROPERTY(int fieldWidth READ fieldWidth NOTIFY changed FINAL)
@@ -203,6 +209,11 @@ public:
     int sizeSection() const { return text(12); }
     int sizeTile() const { return text(26); }
     int sizeCode() const { return text(13); }
+    int sizePageTitle() const { return text(38); }
+    int sizeHeading1() const { return text(26); }
+    int sizeHeading2() const { return text(21); }
+    int sizeHeading3() const { return text(17); }
+    int sizeReading() const { return text(16); }
 
     int cornerCard() const { return corner(14); }
     int cornerSheet() const { return corner(18); }
@@ -223,6 +234,7 @@ public:
     int rowHeight() const { return control(snapshot().compactSidebar ? 28 : 32); }
     int sidebarWidth() const { return scaled(snapshot().compactSidebar ? 208 : 248); }
     int readingWidth() const { return scaled(720); }
+    int zenWidth() const { return scaled(640); }
     int listWidth() const { return scaled(920); }
     int gridWidth() const { return scaled(1180); }
     int fieldWidth() const { return scaled(240); }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 
-/// Writes like an input method into what has the focus: `Composer` in QML after `import Orvel.Testing`.
+/// Writes like an input method into what has the focus, and into the clipboard: `Composer` in QML after
+/// `import Orvel.Testing`.
 class TestComposer : public QObject
 {
     Q_OBJECT
@@ -13,6 +15,8 @@ public:
     Q_INVOKABLE void compose(const QString &text) { send(text, {}); }
     /// Ends the composition with this text.
     Q_INVOKABLE void commit(const QString &text) { send({}, text); }
+    /// Puts a text into the clipboard.
+    Q_INVOKABLE void copy(const QString &text) { QGuiApplication::clipboard()->setText(text); }
 
 private:
     static void send(const QString &preedit, const QString &commit)

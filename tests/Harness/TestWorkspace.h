@@ -82,6 +82,29 @@ public:
         return id.toString(QUuid::WithoutBraces);
     }
 
+    /// A page of these blocks, each an object of the fields that differ from those of a fresh block.
+    Q_INVOKABLE QString addPageOf(const QVariantList &blocks)
+    {
+        QList<Block> content;
+        for (const QVariant &fields : blocks) {
+            const QVariantMap values = fields.toMap();
+            const auto text = [&values](const char *field, const QString &otherwise) {
+                return values.value(QString::fromLatin1(field), otherwise).toString();
+            };
+            Block block;
+            block.id = QUuid::createUuid();
+            block.text = text("text", {});
+            block.type = enumFromRaw<BlockType>(text("type", QStringLiteral("paragraph"))).value();
+            block.tone = enumFromRaw<CalloutTone>(text("tone", QStringLiteral("info"))).value();
+            block.language = text("language", block.language);
+            block.checked = values.value(QStringLiteral("checked")).toBool();
+            content.append(block);
+        }
+        const QUuid id = m_store.newPage(PageKind::page);
+        m_store.change<Page>(id, [&](Page &page) { page.content = content; });
+        return id.toString(QUuid::WithoutBraces);
+    }
+
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }
 
     Q_INVOKABLE QString addFolder(const QString &name)

@@ -3,7 +3,8 @@ import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
 
-/// The editor of one page: its blocks below each other in one scrolling column.
+/// The editor of one page: its blocks below each other in one scrolling column, and the same over the whole
+/// window while nothing shall distract.
 FocusScope {
     id: root
 
@@ -17,11 +18,34 @@ FocusScope {
         id: editor
         pageID: root.pageID
         store: Orvel.store
+        // The change of the list's place costs the focus.
+        onIsZenChanged: Qt.callLater(list.restoreFocus)
     }
 
-    ScreenList {
+    FocusScope {
+        id: place
         anchors.fill: parent
         focus: true
-        maximumWidth: Theme.readingWidth
+    }
+
+    ZenLayer {
+        id: zen
+        editor: editor
+    }
+
+    BlockList {
+        id: list
+        anchors.fill: parent
+        editor: editor
+        focus: true
+        parent: editor.isZen ? zen.place : place
+
+        above: PageTop {
+            editor: editor
+            focus: true
+            pageID: root.pageID
+            onLeaveDown: list.focusFirst()
+        }
+        onLeftUp: (above as PageTop).focusTitle()
     }
 }

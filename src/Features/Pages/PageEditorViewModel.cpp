@@ -1,11 +1,58 @@
 #include "Features/Pages/PageEditorViewModel.h"
 
+#include "Features/Pages/PageBlocks.h"
+#include "Models/CodeLanguage.h"
+
+#include <utility>
+
+namespace
+{
+template <TabledEnum Enum>
+bool isCase(int position)
+{
+    return position >= 0 && position < int(enumCases<Enum>().size());
+}
+
+template <TabledEnum Enum>
+QStringList labels()
+{
+    QStringList texts;
+    for (const auto &entry : enumCases<Enum>())
+        texts.append(enumLabel(entry.value));
+    return texts;
+}
+
+template <TabledEnum Enum>
+QStringList symbols()
+{
+    QStringList texts;
+    for (const auto &entry : enumCases<Enum>())
+        texts.append(enumSymbol(entry.value));
+    return texts;
+}
+
+Block freshBlock(const QString &text = {})
+{
+    Block block;
+    block.id = QUuid::createUuid();
+    block.text = text;
+    return block;
+}
+} // namespace
+
+PageEditorViewModel::PageEditorViewModel(QObject *parent) : QObject(parent), m_refresh([this] { refresh(); })
+{
+}
+
 void PageEditorViewModel::setStore(WorkspaceStore *store)
 {
     if (m_store == store)
         return;
+    if (m_store)
+        m_store->disconnect(this);
     m_store = store;
-    connect(store, &WorkspaceStore::pagesChanged, this, &PageEditorViewModel::refresh);
+    if (m_store)
+        connect(m_store, &WorkspaceStore::pagesChanged, this, &PageEditorViewModel::pageChanged);
     emit storeChanged();
     refresh();
 }
@@ -19,11 +66,249 @@ void PageEditorViewModel::setPageID(const QUuid &pageID)
     refresh();
 }
 
+void PageEditorViewModel::setTitle(const QString &title)
+{
+    const Page *const shown = page();
+    if (shown && shown->title != title)
+        changePage([&](Page &page) { page.title = title; });
+}
+
+QStringList PageEditorViewModel::typeLabels()
+{
+    return labels<BlockType>();
+}
+
+QStringList PageEditorViewModel::typeSymbols()
+{
+    return symbols<BlockType>();
+}
+
+QStringList PageEditorViewModel::toneLabels()
+{
+    return labels<CalloutTone>();
+}
+
+QStringList PageEditorViewModel::toneSymbols()
+{
+    return symbols<CalloutTone>();
+}
+
+QStringList PageEditorViewModel::languageLabels()
+{
+    return labels<CodeLanguage>();
+}
+
+void PageEditorViewModel::blockFocused(const QUuid &blockID)
+{
+    if (m_focusedBlock == blockID)
+        return;
+    m_focusedBlock = blockID;
+    m_dismissedText.reset();
+    showSlashMenu();
+}
+
+void PageEditorViewModel::blockLeft(const QUuid &blockID)
+{
+    if (m_focusedBlock == blockID)
+        blockFocused({});
+}
+
+void PageEditorViewModel::insertBlock(const QUuid &after)
+{
+    const Block fresh = freshBlock();
+    changePage([&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
+    requestFocus(fresh.id, 0);
+}
+
+void PageEditorViewModel::appendBlock()
+{
+    const Block fresh = freshBlock();
+    changePage([&](Page &page) { page.content.append(fresh); });
+    requestFocus(fresh.id, 0);
+}
+
+void PageEditorViewModel::duplicateBlock(const QUuid &blockID)
+{
+    changePage([&](Page &page) { PageBlocks::duplicate(page.content, blockID, QUuid::createUuid()); });
+}
+
+void PageEditorViewModel::deleteBlock(const QUuid &blockID)
+{
+    qsizetype index = -1;
+    changePage([&](Page &page) {
+        index = PageBlocks::indexOf(page.content, blockID);
+        PageBlocks::remove(page.content, blockID, freshBlock());
+    });
+    if (index < 0 || m_focusedBlock != blockID)
+        return;
+    const QList<Block> &blocks = page()->content;
+    requestFocus(blocks[std::min(index, blocks.size() - 1)].id, -1);
+}
+
+void PageEditorViewModel::moveBlock(const QUuid &blockID, int delta)
+{
+    changePage([&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
+}
+
+void PageEditorViewModel::changeType(const QUuid &blockID, int type)
+{
+    if (!isCase<BlockType>(type))
+        return;
+    changeBlock(blockID, [&](Block &block) { PageBlocks::changeType(block, BlockType(type)); });
+    requestFocus(blockID, -1);
+}
+
+void PageEditorViewModel::applySlash(const QUuid &blockID, int type)
+{
+    if (!isCase<BlockType>(type))
+        return;
+    changeBlock(blockID, [&](Block &block) {
+        PageBlocks::changeType(block, BlockType(type));
+        block.text.clear();
+    });
+    requestFocus(blockID, 0);
+}
+
+void PageEditorViewModel::dismissSlash()
+{
+    if (const Block *const focused = block(m_focusedBlock))
+        m_dismissedText = focused->text;
+    showSlashMenu();
+}
+
+QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text)
+{
+    const Block *const before = block(blockID);
+    if (!before || before->text == text)
+        return text;
+    const auto lines =
+        before->type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before->text, text);
+    if (!lines) {
+        changeBlock(blockID, [&](Block &block) { block.text = text; });
+        return text;
+    }
+    QUuid last = blockID;
+    changePage([&](Page &page) {
+        qsizetype index = PageBlocks::indexOf(page.content, blockID);
+        page.content[index].text = lines->first;
+        for (const QString &line : lines->rest) {
+            page.content.insert(++index, freshBlock(line));
+            last = page.content[index].id;
+        }
+    });
+    if (last != blockID)
+        requestFocus(last, int(lines->caret));
+    return lines->first;
+}
+
+void PageEditorViewModel::toggleChecked(const QUuid &blockID)
+{
+    changeBlock(blockID, [](Block &block) { block.checked = !block.checked; });
+}
+
+void PageEditorViewModel::setTone(const QUuid &blockID, int tone)
+{
+    if (isCase<CalloutTone>(tone))
+        changeBlock(blockID, [&](Block &block) { block.tone = CalloutTone(tone); });
+}
+
+void PageEditorViewModel::setLanguage(const QUuid &blockID, int language)
+{
+    if (isCase<CodeLanguage>(language))
+        changeBlock(blockID, [&](Block &block) { block.language = enumRawText(CodeLanguage(language)); });
+}
+
+void PageEditorViewModel::pageChanged(const RecordChange &change)
+{
+    if (change.id == m_pageID || change.id.isNull())
+        m_refresh.request();
+}
+
 void PageEditorViewModel::refresh()
 {
-    const Page *const page = m_store ? m_store->pages().first(m_pageID) : nullptr;
-    if (!page || m_title == page->title)
+    const Page *const shown = page();
+    if (!shown)
         return;
-    m_title = page->title;
-    emit titleChanged();
+    if (m_title != shown->title) {
+        m_title = shown->title;
+        emit titleChanged();
+    }
+    showBlocks(shown->content);
+    showSlashMenu();
+    giveFocus();
+}
+
+void PageEditorViewModel::showBlocks(const QList<Block> &blocks)
+{
+    const auto sameList = [](const Block &a, const Block &b) { return a.id == b.id && a.type == b.type; };
+    if (std::ranges::equal(m_blocks, blocks, sameList)) {
+        for (qsizetype i = 0; i < blocks.size(); ++i)
+            if (m_blocks[i] != blocks[i])
+                m_rows.changeRow(blocks[i].id, [&](BlockRow &row) { row.block = blocks[i]; });
+    } else {
+        m_rows.setRows(BlockRow::ofBlocks(blocks));
+    }
+    m_blocks = blocks;
+}
+
+void PageEditorViewModel::showSlashMenu()
+{
+    QList<int> types;
+    const Block *const focused = block(m_focusedBlock);
+    if (!focused || m_dismissedText != focused->text)
+        m_dismissedText.reset();
+    if (focused && !m_dismissedText)
+        for (const BlockType type : PageBlocks::slashMenu(*focused))
+            types.append(int(type));
+    if (types == m_slashTypes)
+        return;
+    m_slashTypes = types;
+    emit slashTypesChanged();
+}
+
+void PageEditorViewModel::requestFocus(const QUuid &blockID, int caret)
+{
+    m_wantedFocus = blockID;
+    m_wantedCaret = caret;
+    m_refresh.request();
+}
+
+void PageEditorViewModel::giveFocus()
+{
+    const auto row = std::ranges::find(m_rows.rows(), std::exchange(m_wantedFocus, {}), &BlockRow::id);
+    if (row != m_rows.rows().end())
+        emit focusRequested(int(row - m_rows.rows().begin()), m_wantedCaret);
+}
+
+const Page *PageEditorViewModel::page() const
+{
+    return m_store ? m_store->pages().first(m_pageID) : nullptr;
+}
+
+const Block *PageEditorViewModel::block(const QUuid &blockID) const
+{
+    const Page *const shown = page();
+    const qsizetype index = shown ? PageBlocks::indexOf(shown->content, blockID) : -1;
+    return index < 0 ? nullptr : &shown->content[index];
+}
+
+template <typename Edit>
+void PageEditorViewModel::changePage(Edit edit)
+{
+    if (!m_store)
+        return;
+    m_store->change<Page>(m_pageID, [&](Page &page) {
+        edit(page);
+        page.updatedDate = m_store->clock().now();
+    });
+}
+
+template <typename Edit>
+void PageEditorViewModel::changeBlock(const QUuid &blockID, Edit edit)
+{
+    changePage([&](Page &page) {
+        const qsizetype index = PageBlocks::indexOf(page.content, blockID);
+        if (index >= 0)
+            edit(page.content[index]);
+    });
 }

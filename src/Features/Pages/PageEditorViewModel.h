@@ -1,36 +1,121 @@
 #pragma once
 
+#include "Features/Pages/BlockRow.h"
+#include "Foundation/CoalescedCall.h"
+#include "Foundation/KeyedListModel.h"
 #include "Store/WorkspaceStore.h"
 
 #include <QtQml/qqmlregistration.h>
 
-/// What the editor of one page shows and does.
+/// What the editor of one page shows and does. Every operation goes straight into the store; once the page is
+/// gone they do nothing, and the rows show what they showed last. Positions stand for the cases of the tables
+/// of type, tone and language, in their order.
 class PageEditorViewModel : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
     Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
-    Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
+    /// `BlockRow`s.
+    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(bool isZen MEMBER m_isZen NOTIFY isZenChanged FINAL)
+    /// The types that the slash menu offers below the focused block; empty while it is closed.
+    Q_PROPERTY(QList<int> slashTypes READ slashTypes NOTIFY slashTypesChanged FINAL)
+
+    Q_PROPERTY(QList<QString> typeLabels READ typeLabels CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> typeSymbols READ typeSymbols CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> toneLabels READ toneLabels CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> toneSymbols READ toneSymbols CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> languageLabels READ languageLabels CONSTANT FINAL)
 
 public:
-    using QObject::QObject;
+    explicit PageEditorViewModel(QObject *parent = nullptr);
 
     WorkspaceStore *store() const { return m_store; }
     void setStore(WorkspaceStore *store);
     QUuid pageID() const { return m_pageID; }
     void setPageID(const QUuid &pageID);
     const QString &title() const { return m_title; }
+    void setTitle(const QString &title);
+    QAbstractItemModel *rows() { return &m_rows; }
+    const QList<int> &slashTypes() const { return m_slashTypes; }
+
+    static QStringList typeLabels();
+    static QStringList typeSymbols();
+    static QStringList toneLabels();
+    static QStringList toneSymbols();
+    static QStringList languageLabels();
+
+    /// The block that has the keyboard's focus; null for none.
+    const QUuid &focusedBlock() const { return m_focusedBlock; }
+    /// The view tells where the keyboard's focus went.
+    Q_INVOKABLE void blockFocused(const QUuid &blockID);
+    Q_INVOKABLE void blockLeft(const QUuid &blockID);
+
+    /// A fresh block directly after this one gets the focus.
+    Q_INVOKABLE void insertBlock(const QUuid &after);
+    /// A fresh block at the end gets the focus.
+    Q_INVOKABLE void appendBlock();
+    Q_INVOKABLE void duplicateBlock(const QUuid &blockID);
+    /// A page is never left without a block. If the block had the focus, its neighbour gets it.
+    Q_INVOKABLE void deleteBlock(const QUuid &blockID);
+    /// @param delta -1 for up, 1 for down; beyond either end the block stays
+    Q_INVOKABLE void moveBlock(const QUuid &blockID, int delta);
+    /// Keeps the text and focuses the block.
+    Q_INVOKABLE void changeType(const QUuid &blockID, int type);
+    /// Changes the type, takes the typed query away and focuses the block.
+    Q_INVOKABLE void applySlash(const QUuid &blockID, int type);
+    /// Closes the slash menu until the text changes.
+    Q_INVOKABLE void dismissSlash();
+
+    /// Writes the text of a block. Lines that the edit brings into a block of one line become blocks of their
+    /// own, the last of which gets the focus. Returns what the block holds then.
+    Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text);
+    Q_INVOKABLE void toggleChecked(const QUuid &blockID);
+    Q_INVOKABLE void setTone(const QUuid &blockID, int tone);
+    Q_INVOKABLE void setLanguage(const QUuid &blockID, int language);
 
 signals:
     void storeChanged();
     void pageIDChanged();
     void titleChanged();
+    void isZenChanged();
+    void slashTypesChanged();
+    /// The block of this row shall have the focus; sent once the row exists.
+    /// @param caret where the caret goes in its text; -1 leaves it where it is
+    void focusRequested(int row, int caret);
 
 private:
+    void pageChanged(const RecordChange &change);
     void refresh();
+    void showBlocks(const QList<Block> &blocks);
+    void showSlashMenu();
+    void requestFocus(const QUuid &blockID, int caret);
+    void giveFocus();
+
+    const Page *page() const;
+    /// The block as it stands in the store; null if it or the page is gone.
+    const Block *block(const QUuid &blockID) const;
+    /// Changes a copy of the page, with `updatedDate` now, and requests a save.
+    template <typename Edit>
+    void changePage(Edit edit);
+    template <typename Edit>
+    void changeBlock(const QUuid &blockID, Edit edit);
 
     WorkspaceStore *m_store = nullptr;
     QUuid m_pageID;
     QString m_title;
+    /// As the rows show them.
+    QList<Block> m_blocks;
+    KeyedListModel<BlockRow> m_rows;
+    bool m_isZen = false;
+
+    QUuid m_focusedBlock;
+    QList<int> m_slashTypes;
+    std::optional<QString> m_dismissedText;
+
+    QUuid m_wantedFocus;
+    int m_wantedCaret = -1;
+    CoalescedCall m_refresh;
 };

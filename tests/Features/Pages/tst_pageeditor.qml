@@ -1,20 +1,31 @@
 import QtQuick
 import QtTest
+import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
 import Orvel.Testing
 
+/// The real editor, worked with real mouse and key events; what counts in the end is what stands in the file.
 Item {
     id: root
-    height: 900
+
+    property PageEditorView view
+
+    height: 700
     width: 1000
 
     Component {
-        id: view
-        PageEditorView { anchors.fill: parent }
+        id: screen
+
+        PageEditorView {
+            anchors.fill: parent
+            focus: true
+        }
     }
 
     TestCase {
+        id: test
+
         name: "PageEditor"
         when: windowShown
 
@@ -22,9 +33,376 @@ Item {
             Workspace.reset()
         }
 
-        function test_opensAPage() {
-            const page = createTemporaryObject(view, root, { pageID: Workspace.addPage("Plan") })
-            verify(page)
+        /// Opens a page of blocks, each a text or an object of the block's fields.
+        function open(blocks) {
+            const id = Workspace.addPageOf(blocks.map(block => typeof block === "string" ? { text: block } : block))
+            root.view = createTemporaryObject(screen, root, { pageID: id })
+            root.view.forceActiveFocus()
+            waitForRendering(root.view)
+        }
+
+        function saved() {
+            return JSON.parse(Workspace.saved()).pages[0]
+        }
+
+        function texts() {
+            return saved().content.map(block => block.text).join("|")
+        }
+
+        function types() {
+            return saved().content.map(block => block.type).join(" ")
+        }
+
+        /// Everything below the item that passes the check and is seen.
+        function all(item, check) {
+            let found = check(item) ? [item] : []
+            for (let i = 0; i < item.children.length; ++i)
+                if (item.children[i].visible && item.children[i].opacity > 0)
+                    found = found.concat(all(item.children[i], check))
+            return found
+        }
+
+        function one(check, message) {
+            let found = []
+            tryVerify(() => { found = all(root.parent, check); return found.length > 0 }, 2000, message)
+            return found[0]
+        }
+
+        function named(name, type) {
+            return one(item => (item.text === name || item.title === name || item.Accessible.name === name)
+                               && (type === undefined || item instanceof type), "There is " + name)
+        }
+
+        function gone(type) {
+            tryVerify(() => all(root.parent, item => item instanceof type).length === 0, 2000, "It is gone")
+        }
+
+        function fields() {
+            return all(root.parent, item => item instanceof BlockField)
+        }
+
+        function field(text) {
+            return one(item => item instanceof BlockField && item.text === text, "There is a field " + text)
+        }
+
+        /// Puts the caret into the field of this text.
+        function edit(text, position) {
+            const target = field(text)
+            mouseClick(target, 4, target.height / 2)
+            verify(target.activeFocus)
+            target.cursorPosition = position ?? target.length
+            return target
+        }
+
+        function focused() {
+            return root.Window.activeFocusItem
+        }
+
+        /// The focus is in the field of this text, with the caret there.
+        function at(text, position) {
+            tryVerify(() => focused() instanceof BlockField && focused().text === text, 2000, "In " + text)
+            if (position !== undefined)
+                compare(focused().cursorPosition, position)
+        }
+
+        function type(text) {
+            for (const character of text)
+                keyClick(character)
+        }
+
+        function choose(name) {
+            const item = named(name, OVMenuItem)
+            tryCompare(item.menu, "opened", true)
+            mouseClick(item)
+        }
+
+        function test_writesWhatIsTyped() {
+            open(["one", "three"])
+            const before = saved().updatedDate
+            Workspace.advanceHours(1)
+            edit("one")
+            type("!")
+            compare(texts(), "one!|three")
+            verify(saved().updatedDate !== before)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(texts(), "one|three")
+            keyClick(Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(texts(), "one!|three")
+        }
+
+        function test_returnMakesAParagraphBelow() {
+            open([{ type: "checklist", text: "one" }, "three"])
+            edit("one", 1)
+            keyClick(Qt.Key_Return)
+            at("", 0)
+            type("two")
+            compare(texts(), "one|two|three")
+            compare(types(), "checklist paragraph paragraph")
+            for (let i = 0; i < 5; ++i)
+                keyClick(Qt.Key_Backspace)
+            compare(texts(), "one||three")
+            keyClick(Qt.Key_Return, Qt.ShiftModifier)
+            at("", 0)
+            compare(texts(), "one|||three")
+        }
+
+        function test_arrowsKeepTheColumn() {
+            open([{ type: "heading1", text: "A heading of some width" }, "short", "A paragraph that is much longer"])
+            edit("A paragraph that is much longer", 20)
+            const x = () => focused().mapToItem(root, focused().cursorRectangle.x, 0).x
+            const start = x()
+            keyClick(Qt.Key_Up)
+            at("short", 5)
+            keyClick(Qt.Key_Up)
+            at("A heading of some width")
+            fuzzyCompare(x(), start, 12)
+            keyClick(Qt.Key_Up)
+            tryVerify(() => !(focused() instanceof BlockField))
+            keyClick(Qt.Key_Down)
+            at("A heading of some width", 0)
+            keyClick(Qt.Key_Down)
+            at("short", 0)
+        }
+
+        function test_arrowsStayInALongBlock() {
+            open(["word ".repeat(60).trim(), "next"])
+            const text = edit("word ".repeat(60).trim(), 0)
+            verify(text.lineCount > 2)
+            for (let line = 1; line < text.lineCount; ++line) {
+                keyClick(Qt.Key_Down)
+                verify(text.activeFocus)
+            }
+            keyClick(Qt.Key_Down)
+            at("next", 0)
+        }
+
+        function test_movesBlocksWithTheCaret() {
+            open(["one", "two", "three"])
+            edit("one", 2)
+            keyClick(Qt.Key_Down, Qt.ControlModifier | Qt.ShiftModifier)
+            tryVerify(() => texts() === "two|one|three")
+            at("one", 2)
+            type("x")
+            keyClick(Qt.Key_Down, Qt.ControlModifier | Qt.ShiftModifier)
+            keyClick(Qt.Key_Down, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(texts(), "two|three|onxe")
+            at("onxe", 3)
+            keyClick(Qt.Key_Up, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(texts(), "two|onxe|three")
+        }
+
+        function test_pastesLinesAsBlocks() {
+            open([{ type: "bulleted", text: "one two" }, "end"])
+            edit("one two", 4)
+            Composer.copy("a\nb\n\nc")
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            at("ctwo", 1)
+            compare(texts(), "one a|b||ctwo|end")
+            compare(types(), "bulleted paragraph paragraph paragraph paragraph")
+            compare(new Set(saved().content.map(block => block.id)).size, 5)
+            edit("end")
+            Composer.copy("!\n")
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            compare(texts(), "one a|b||ctwo|end!")
+            compare(focused().text, "end!")
+        }
+
+        function test_composesText() {
+            open(["日"])
+            edit("日")
+            Composer.compose("ほ")
+            compare(texts(), "日")
+            keyClick(Qt.Key_Down)
+            Composer.compose("ほん")
+            Composer.commit("本")
+            compare(texts(), "日本")
+            compare(focused().cursorPosition, 2)
+            Composer.commit("👩‍👩‍👧")
+            compare(texts(), "日本👩‍👩‍👧")
+        }
+
+        function test_keepsWhatItOnlyShows() {
+            open(["a\u00a0b", "two\nlines", ""])
+            compare(texts(), "a\u00a0b|two\nlines|")
+            edit("a b")
+            type("c")
+            compare(texts(), "a\u00a0bc|two\nlines|")
+            edit("two\nlines")
+            type("!")
+            compare(texts(), "a\u00a0bc|two\nlines!|")
+        }
+
+        function test_slashMenu() {
+            open(["", "two"])
+            edit("")
+            type("/he")
+            tryCompare(named("BASIC BLOCKS", OVText), "visible", true)
+            compare(all(root.parent, item => item instanceof SlashMenuItem).map(item => item.text).join(),
+                    "Heading 1,Heading 2,Heading 3,To-do")
+            keyClick(Qt.Key_Escape)
+            gone(SlashMenuItem)
+            at("/he", 3)
+            keyClick(Qt.Key_Backspace)
+            mouseClick(named("Heading 2", SlashMenuItem))
+            at("", 0)
+            gone(SlashMenuItem)
+            type("Title")
+            compare(texts(), "Title|two")
+            compare(types(), "heading2 paragraph")
+            compare(saved().content.length, 2)
+        }
+
+        function test_slashMenuLeavesReturnAlone() {
+            open(["/c"])
+            edit("/c")
+            named("Code", SlashMenuItem)
+            keyClick(Qt.Key_Return)
+            at("", 0)
+            gone(SlashMenuItem)
+            compare(types(), "paragraph paragraph")
+            compare(texts(), "/c|")
+        }
+
+        function test_checksATodo() {
+            open([{ type: "checklist", text: "milk" }])
+            mouseClick(named("milk", OVCheckBox))
+            verify(saved().content[0].checked)
+            compare(named("milk", OVCheckBox).checked, true)
+            edit("milk")
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            verify(focused() instanceof OVCheckBox)
+            keyClick(Qt.Key_Space)
+            verify(!saved().content[0].checked)
+            keyClick(Qt.Key_Tab)
+            at("milk")
+        }
+
+        function test_choosesATone() {
+            open([{ type: "callout", text: "Mind" }])
+            mouseClick(named("Tone: info", OVPressable))
+            choose("warning")
+            compare(saved().content[0].tone, "warning")
+        }
+
+        function test_blockMenuByMouse() {
+            open(["one", "two"])
+            const target = field("two")
+            mouseMove(target, 20, 10)
+            mouseClick(named("Add a block below", OVIconButton))
+            at("", 0)
+            compare(texts(), "one|two|")
+            mouseMove(target, 20, 10)
+            mouseClick(one(item => item instanceof OVIconButton && item.text === "Block menu"
+                                   && Math.abs(item.mapToItem(target, 0, 0).y) < 20))
+            choose("Duplicate")
+            compare(texts(), "one|two|two|")
+        }
+
+        function test_blockMenuByKeys() {
+            open(["one", "two"])
+            edit("one", 1)
+            keyClick(Qt.Key_F10, Qt.ShiftModifier)
+            tryVerify(() => focused() instanceof OVMenuItem || focused().menu || true)
+            const turn = named("Turn into", OVMenuItem)
+            tryCompare(turn.menu, "opened", true)
+            verify(!named("Move up", OVMenuItem).enabled)
+            keyClick(Qt.Key_Right)
+            const heading = named("Heading 1", OVMenuItem)
+            tryCompare(heading.menu, "opened", true)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            tryVerify(() => types() === "heading1 paragraph")
+            at("one", 1)
+            keyClick(Qt.Key_Menu)
+            tryCompare(named("Delete", OVMenuItem).menu, "opened", true)
+            keyClick("d")
+            keyClick("d")
+            keyClick(Qt.Key_Return)
+            at("two")
+            compare(texts(), "two")
+        }
+
+        function test_tabGoesThroughTheBlocks() {
+            open(["one", { type: "checklist", text: "two" }, { type: "divider" }])
+            edit("one")
+            keyClick(Qt.Key_Tab)
+            verify(focused() instanceof OVCheckBox)
+            keyClick(Qt.Key_Tab)
+            at("two")
+            keyClick(Qt.Key_Tab)
+            verify(focused() instanceof DividerBlock)
+            keyClick(Qt.Key_Tab)
+            compare(focused().text, "Add a block")
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            verify(focused() instanceof DividerBlock)
+            keyClick(Qt.Key_Up)
+            at("two")
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            at("one")
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            tryVerify(() => !(focused() instanceof BlockField))
+        }
+
+        function test_addsABlockAtTheEnd() {
+            open(["one"])
+            mouseClick(named("Add a block", OVPressable))
+            at("", 0)
+            compare(texts(), "one|")
+        }
+
+        function test_zen() {
+            open(["one", "/two"])
+            edit("/two")
+            const editor = one(item => item instanceof BlockList).editor
+            editor.isZen = true
+            tryVerify(() => all(root.parent, item => item instanceof OVSecondaryButton).length === 1)
+            at("/two", 4)
+            compare(fields().length, 2)
+            keyClick(Qt.Key_Home)
+            keyClick(Qt.Key_Delete)
+            type("/t")
+            keyClick(Qt.Key_End)
+            while (focused().length > 2)
+                keyClick(Qt.Key_Backspace)
+            named("Text", SlashMenuItem)
+            keyClick(Qt.Key_Escape)
+            gone(SlashMenuItem)
+            compare(editor.isZen, true)
+            keyClick(Qt.Key_Escape)
+            compare(editor.isZen, false)
+            tryVerify(() => all(root.parent, item => item instanceof OVSecondaryButton).length === 0)
+            at("/t")
+            compare(texts(), "one|/t")
+        }
+
+        function test_staysInPlaceInALongPage() {
+            const blocks = []
+            for (let i = 0; i < 2000; ++i)
+                blocks.push("Block " + i)
+            open(blocks)
+            verify(fields().length < 60, "Only the rows in sight exist")
+            edit("Block 5")
+            for (let i = 0; i < 30; ++i)
+                keyClick(Qt.Key_Down)
+            at("Block 35", 7)
+            const list = one(item => item instanceof BlockList)
+            verify(list.contentY > 0)
+            const caret = focused().mapToItem(list, 0, focused().cursorRectangle.y).y
+            verify(caret > 0 && caret < list.height)
+            const held = focused()
+            list.contentY += 3000
+            wait(0)
+            verify(held.activeFocus)
+            type("x")
+            tryVerify(() => { const y = held.mapToItem(list, 0, 0).y; return y >= 0 && y < list.height })
+            compare(saved().content[35].text, "Block 3x5")
+            keyClick(Qt.Key_End, Qt.ControlModifier)
+            at("Block 1999")
+            keyClick(Qt.Key_Return)
+            at("", 0)
+            type("end")
+            compare(saved().content[2000].text, "end")
         }
     }
 }

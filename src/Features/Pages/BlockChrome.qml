@@ -1,0 +1,36 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// What a row shows at its left under the pointer: a button for a new block below, and the handle that opens
+/// the block's menu.
+Row {
+    id: root
+
+    signal insertRequested()
+    signal menuRequested(from: Item)
+
+    OVIconButton {
+        activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
+        iconSize: Theme.iconRow
+        implicitHeight: Theme.space24
+        implicitWidth: Theme.space24
+        radius: Theme.cornerMark
+        symbol: "plus"
+        text: qsTr("Add a block below")
+        onClicked: root.insertRequested()
+    }
+
+    OVIconButton {
+        id: handle
+        activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
+        iconSize: Theme.iconRow
+        implicitHeight: Theme.space24
+        implicitWidth: Theme.space24
+        radius: Theme.cornerMark
+        symbol: "line.3.horizontal"
+        text: qsTr("Block menu")
+        onClicked: root.menuRequested(handle)
+    }
+}

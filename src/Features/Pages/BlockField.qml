@@ -1,0 +1,97 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// The text of a block: one line that wraps, joined with the stored text.
+TextEdit {
+    id: field
+
+    required property PageEditorViewModel editor
+    required property var blockID
+    required property string storedText
+    property string placeholder
+    /// Of a line of text, against the size of the font.
+    property real lineRatio: 1.6
+    readonly property int lineHeight: Math.max(Math.ceil(metrics.lineSpacing), Math.round(font.pixelSize * lineRatio))
+    readonly property int extraHeight: lineHeight - Math.ceil(metrics.lineSpacing)
+    /// The spacing lies below each line; half of it goes above the first.
+    readonly property int lead: Math.floor(extraHeight / 2)
+    /// Free room above and below the lines.
+    property int gapAbove: Theme.space4
+    property int gapBelow: Theme.space4
+
+    /// Whether Up or Down would leave the text.
+    function isOnOuterLine(direction: int): bool {
+        const outer = positionToRectangle(direction < 0 ? 0 : length)
+        const caret = cursorRectangle
+        return direction < 0 ? caret.y < outer.y + outer.height / 2 : caret.y + caret.height / 2 > outer.y
+    }
+
+    /// Puts the caret on the first or last line, as near to this place across as can be.
+    function enter(direction: int, column: real) {
+        const line = positionToRectangle(direction > 0 ? 0 : length)
+        cursorPosition = positionAt(column, line.y + line.height / 2)
+        forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    bottomPadding: gapBelow + lead - extraHeight
+    color: Theme.ovInk
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.sizeReading
+    font.weight: Theme.textWeight
+    selectByMouse: true
+    selectedTextColor: Theme.ovInk
+    selectionColor: Theme.selection
+    textFormat: TextEdit.PlainText
+    topPadding: gapAbove + lead
+    wrapMode: TextEdit.Wrap
+    Accessible.name: placeholder
+    Accessible.role: Accessible.EditableText
+
+    cursorDelegate: OVCaret { }
+    onActiveFocusChanged: {
+        if (activeFocus)
+            editor.blockFocused(blockID)
+    }
+
+    FieldText {
+        id: content
+        composing: field.inputMethodComposing
+        document: field.textDocument
+        text: field.storedText
+        onEdited: text => content.setText(field.editor.setText(field.blockID, text))
+    }
+
+    FontMetrics {
+        id: metrics
+        font: field.font
+    }
+
+    LineSpacing {
+        distance: field.extraHeight
+        document: field.textDocument
+    }
+
+    OVText {
+        color: Theme.ovInkTertiary
+        font.family: field.font.family
+        font.italic: field.font.italic
+        font.pixelSize: field.font.pixelSize
+        font.weight: field.font.weight
+        text: field.placeholder
+        visible: field.length === 0 && field.preeditText === ""
+        width: field.width
+        y: field.topPadding
+        Accessible.ignored: true
+    }
+
+    OVContextMenuArea {
+        focusTarget: field
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
+        menu: Component {
+            OVTextMenu { target: field }
+        }
+        // qmllint enable unqualified
+    }
+}

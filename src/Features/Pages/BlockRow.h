@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Models/Block.h"
+
+#include <QList>
+#include <QObject>
+
+/// A block of a page as its row shows it. Positions stand for the cases of the tables of type, tone and
+/// language, in their order.
+struct BlockRow {
+    Q_GADGET
+    Q_PROPERTY(QUuid blockID MEMBER id FINAL)
+    Q_PROPERTY(int type READ typeIndex FINAL)
+    Q_PROPERTY(QString typeLabel READ typeLabel FINAL)
+    /// Which body shows the block: "text", "code" or "divider".
+    Q_PROPERTY(QString body READ body FINAL)
+    Q_PROPERTY(QString blockText READ text FINAL)
+    Q_PROPERTY(QString placeholder READ placeholder FINAL)
+    /// 1 to 3 for a heading, else 0.
+    Q_PROPERTY(int headingLevel READ headingLevel FINAL)
+    /// What stands before the text: "bullet", "number", "check", "bar", "tone" or nothing.
+    Q_PROPERTY(QString marker READ marker FINAL)
+    /// "3." for a numbered block, else empty.
+    Q_PROPERTY(QString numberText READ numberText FINAL)
+    Q_PROPERTY(bool isChecked READ isChecked FINAL)
+    Q_PROPERTY(int tone READ tone FINAL)
+    Q_PROPERTY(QString toneSymbol READ toneSymbol FINAL)
+    Q_PROPERTY(int language READ languageIndex FINAL)
+    /// "12 lines".
+    Q_PROPERTY(QString lineCountText READ lineCountText FINAL)
+    /// Before any scaling.
+    Q_PROPERTY(int codeHeight READ codeHeight FINAL)
+    Q_PROPERTY(bool canMoveUp READ canMoveUp FINAL)
+    Q_PROPERTY(bool canMoveDown READ canMoveDown FINAL)
+
+public:
+    QUuid id;
+    Block block;
+    int number = 0;
+    bool isFirst = false;
+    bool isLast = false;
+
+    bool operator==(const BlockRow &) const = default;
+
+    static QList<BlockRow> ofBlocks(const QList<Block> &blocks);
+
+    int typeIndex() const { return int(block.type); }
+    QString typeLabel() const { return enumLabel(block.type); }
+    QString body() const;
+    /// Of a divider there is none to show.
+    QString text() const;
+    QString placeholder() const;
+    int headingLevel() const;
+    QString marker() const;
+    QString numberText() const;
+    bool isChecked() const { return block.type == BlockType::checklist && block.checked; }
+    int tone() const { return int(block.tone); }
+    QString toneSymbol() const { return enumSymbol(block.tone); }
+    int languageIndex() const;
+    QString lineCountText() const;
+    int codeHeight() const;
+    bool canMoveUp() const { return !isFirst; }
+    bool canMoveDown() const { return !isLast; }
+};

@@ -1,0 +1,32 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// A rule across the page. It takes the focus as a whole, so that keys reach its menu.
+BlockBody {
+    id: root
+
+    activeFocusOnTab: false
+    implicitHeight: Theme.space32
+    Accessible.name: qsTr("Divider")
+    Accessible.role: Accessible.Separator
+    Keys.forwardTo: root.keyTarget
+    onActiveFocusChanged: {
+        if (!activeFocus)
+            return
+        root.editor.blockFocused(root.blockID)
+        root.caretMoved(root, Qt.rect(0, 0, width, height))
+    }
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.activeFocus ? Theme.accent : Theme.ovBorderStrong
+        height: root.activeFocus ? 2 : Theme.lineWidth
+        radius: height / 2
+        width: parent.width
+    }
+
+    TapHandler {
+        onTapped: root.forceActiveFocus(Qt.MouseFocusReason)
+    }
+}

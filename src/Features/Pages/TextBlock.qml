@@ -1,0 +1,127 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// A block of text, with what marks its kind.
+BlockBody {
+    id: root
+
+    required property string storedText
+    required property string placeholder
+    required property string label
+    required property int headingLevel
+    required property string marker
+    required property string numberText
+    required property bool isChecked
+    required property int tone
+    required property string toneSymbol
+
+    readonly property bool isCallout: marker === "tone"
+    readonly property int headingSize: [Theme.sizeReading, Theme.sizeHeading1, Theme.sizeHeading2, Theme.sizeHeading3][headingLevel]
+    readonly property int headingGap: [Theme.space4, Theme.space24, Theme.space16, Theme.space12][headingLevel]
+    readonly property int markerWidth: marker === "" ? 0 : marker === "bar" ? Theme.space16
+                                     : Math.max(Theme.space24 + Theme.space4, mark.implicitWidth + Theme.space8)
+
+    signal toneMenuRequested(from: Item)
+
+    function stops(): list<Item> {
+        const control = mark.control
+        return control ? [control, field] : [field]
+    }
+
+    function leaves(direction: int): bool {
+        return !field.activeFocus || (!field.inputMethodComposing && field.isOnOuterLine(direction))
+    }
+
+    function columnIn(item: Item): real {
+        return field.mapToItem(item, field.cursorRectangle.x, 0).x
+    }
+
+    function enter(direction: int, item: Item, column: real) {
+        field.enter(direction, field.mapFromItem(item, column, 0).x)
+    }
+
+    function focusAt(caret: int) {
+        if (caret >= 0)
+            field.cursorPosition = Math.min(caret, field.length)
+        field.forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    function focusAtEnd() {
+        focusAt(field.length)
+    }
+
+    firstLineCenter: mark.y + mark.height / 2
+    implicitHeight: field.implicitHeight + (isCallout ? Theme.space4 * 2 : 0)
+
+    Rectangle {
+        anchors.bottomMargin: Theme.space4
+        anchors.fill: parent
+        anchors.topMargin: Theme.space4
+        border.color: Qt.alpha(mark.toneColor, Theme.inkMode ? 1 : 0.3)
+        border.width: Theme.lineWidth
+        color: Qt.alpha(mark.toneColor, Theme.inkMode ? 0 : 0.09)
+        radius: Theme.cornerField
+        visible: root.isCallout
+    }
+
+    Rectangle {
+        anchors.bottom: field.bottom
+        anchors.bottomMargin: Theme.space4
+        anchors.top: field.top
+        anchors.topMargin: Theme.space4
+        color: Theme.ovInkTertiary
+        radius: width / 2
+        visible: root.marker === "bar"
+        width: 3
+    }
+
+    BlockMarker {
+        id: mark
+        editor: root.editor
+        blockID: root.blockID
+        height: field.lineHeight
+        isChecked: root.isChecked
+        label: root.storedText === "" ? root.label : root.storedText
+        marker: root.marker
+        numberText: root.numberText
+        tone: root.tone
+        toneSymbol: root.toneSymbol
+        width: root.markerWidth
+        x: root.isCallout ? Theme.space12 : 0
+        y: field.y + field.gapAbove
+        onToneMenuRequested: from => root.toneMenuRequested(from)
+    }
+
+    BlockField {
+        id: field
+        anchors.left: mark.right
+        anchors.right: parent.right
+        anchors.rightMargin: root.isCallout ? Theme.space12 : 0
+        blockID: root.blockID
+        color: root.isChecked ? Theme.ovInkTertiary : root.marker === "bar" ? Theme.ovInkSecondary : Theme.ovInk
+        editor: root.editor
+        focus: true
+        font.italic: root.marker === "bar"
+        font.letterSpacing: root.headingLevel === 1 ? -0.3 * Theme.fontScale : 0
+        font.pixelSize: root.headingSize
+        font.strikeout: root.isChecked
+        font.weight: root.headingLevel > 0 ? Font.DemiBold : Theme.textWeight
+        gapAbove: root.isCallout ? Theme.space8 : root.headingGap
+        gapBelow: root.isCallout ? Theme.space8 : Theme.space4
+        lineRatio: root.headingLevel > 0 ? 1.3 : 1.6
+        placeholder: root.placeholder
+        storedText: root.storedText
+        y: root.isCallout ? Theme.space4 : 0
+        Accessible.name: root.label
+        Keys.forwardTo: root.keyTarget
+        onActiveFocusChanged: {
+            if (!activeFocus)
+                root.editor.blockLeft(blockID)
+        }
+        onCursorRectangleChanged: {
+            if (activeFocus)
+                root.caretMoved(field, cursorRectangle)
+        }
+    }
+}

@@ -42,7 +42,7 @@ FocusScope {
 
         anchors.fill: parent
         asynchronous: root.starting
-        page: "../Onboarding/OnboardingView.qml"
+        page: "OnboardingLayer.qml"
         shown: !root.model.hasCompletedOnboarding
         onLoaded: root.starting = false
     }

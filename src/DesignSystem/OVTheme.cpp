@@ -2,14 +2,13 @@
 
 #include "DesignSystem/ThemeRevision.h"
 
-#include <optional>
-
 namespace
 {
 
 struct State {
     OVThemeSnapshot snapshot;
     std::optional<AppSettings> settings;
+    std::optional<AppearanceMode> tried;
     bool systemDark = false;
 };
 
@@ -24,7 +23,9 @@ State &state()
 void OVTheme::apply(const AppSettings &settings)
 {
     state().settings = settings;
-    const OVThemeSnapshot next = OVThemeSnapshot::resolved(settings, state().systemDark);
+    AppSettings shown = settings;
+    shown.appearance = state().tried.value_or(settings.appearance);
+    const OVThemeSnapshot next = OVThemeSnapshot::resolved(shown, state().systemDark);
     if (next == state().snapshot)
         return;
     state().snapshot = next;
@@ -34,6 +35,13 @@ void OVTheme::apply(const AppSettings &settings)
 void OVTheme::setSystemDark(bool dark)
 {
     state().systemDark = dark;
+    if (const auto settings = state().settings)
+        apply(*settings);
+}
+
+void OVTheme::tryAppearance(std::optional<AppearanceMode> appearance)
+{
+    state().tried = appearance;
     if (const auto settings = state().settings)
         apply(*settings);
 }

@@ -150,11 +150,11 @@ private slots:
         m_workspace.resetToFirstRun();
         ui().select(u"tasks"_s);
         edit([](AppSettings &settings) { settings.reducedMotion = true; });
-        open("OnboardingView");
+        open("OnboardingLayer");
         QVERIFY(!item("WorkspaceLayer"));
         QVERIFY(!menuBar());
         for (int round = 0; round < 2; ++round) {
-            QTRY_VERIFY(item("OnboardingView")->hasActiveFocus());
+            QTRY_VERIFY(item("OnboardingLayer")->hasActiveFocus());
             QTRY_VERIFY(!item("WorkspaceLayer"));
             press(u"Return"_s);
             for (const char letter : {'A', 'd', 'a'})
@@ -166,7 +166,7 @@ private slots:
             QVERIFY(store().settings().hasCompletedOnboarding);
             QCOMPARE(store().settings().userName, u"Ada"_s);
             QCOMPARE(ui().selection().text(), u"dashboard"_s);
-            QTRY_VERIFY(!item("OnboardingView"));
+            QTRY_VERIFY(!item("OnboardingLayer"));
             QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
             QVERIFY(menuBar()->isVisible());
             press(u"Ctrl+4"_s);
@@ -178,35 +178,47 @@ private slots:
     void theFirstRunCrossFadesIntoTheWorkspace()
     {
         m_workspace.resetToFirstRun();
-        open("OnboardingView");
+        open("OnboardingLayer");
         QTRY_VERIFY(item("OrvelIntroView"));
         press(u"Return"_s);
         QTRY_VERIFY(!item("OrvelIntroView"));
-        QVERIFY(item("OnboardingView")->hasActiveFocus());
-        QSignalSpy frames(m_window, &QQuickWindow::frameSwapped);
+        QVERIFY(item("OnboardingLayer")->hasActiveFocus());
         edit([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
-        bool bothSeen = false;
-        while (item("OnboardingView") && frames.wait()) {
-            const auto opacity = [this](const QByteArray &type) {
-                return item(type)->parentItem()->opacity();
-            };
-            if (!item("OnboardingView"))
-                break;
-            QVERIFY(!item("OnboardingView")->isEnabled());
-            QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
-            const double coming = opacity("WorkspaceLayer");
-            const double going = opacity("OnboardingView");
-            bothSeen = bothSeen || (coming > 0.05 && coming < 0.95 && going > 0.05 && going < 0.95);
-        }
-        QVERIFY(bothSeen);
+        QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
+        QCOMPARE(item("WorkspaceLayer")->parentItem()->opacity(), 0.0);
+        QCOMPARE(item("OnboardingLayer")->parentItem()->opacity(), 1.0);
+        QVERIFY(!item("OnboardingLayer")->isEnabled());
+        QTRY_VERIFY(!item("OnboardingLayer"));
         QTRY_COMPARE(item("WorkspaceLayer")->parentItem()->opacity(), 1.0);
+    }
+
+    void theAppearanceIsShownWhileItIsChosenButNotStored()
+    {
+        m_workspace.resetToFirstRun();
+        edit([](AppSettings &settings) { settings.reducedMotion = true; });
+        open("OnboardingLayer");
+        for (int step = 0; step < 4; ++step)
+            press(u"Return"_s);
+        press(u"Shift+Tab"_s);
+        press(u"Shift+Tab"_s);
+        QVERIFY(m_window->color().lightness() > 128);
+        press(u"End"_s);
+        QVERIFY(m_window->color().lightness() < 128);
+        QVERIFY(m_workspace.saved().contains(u"\"appearance\":\"system\""));
+        press(u"Return"_s);
+        press(u"Return"_s);
+        QTRY_VERIFY(!item("OnboardingLayer"));
+        QVERIFY(m_window->color().lightness() < 128);
+        QVERIFY(m_workspace.saved().contains(u"\"appearance\":\"dark\""));
+        edit([](AppSettings &settings) { settings.appearance = AppearanceMode::light; });
+        QVERIFY(m_window->color().lightness() > 128);
     }
 
     void noCommandReachesBehindTheFirstRun()
     {
         m_workspace.resetToFirstRun();
         edit([](AppSettings &settings) { settings.reducedMotion = true; });
-        open("OnboardingView");
+        open("OnboardingLayer");
         const Snapshot before = store().snapshot();
         const QSignalSpy quit(m_engine.get(), &QQmlEngine::quit);
         m_engine->disconnect(qApp);
@@ -218,7 +230,7 @@ private slots:
         QVERIFY(!ui().isSearchPresented() && !ui().isShortcutsPresented() && ui().isSidebarVisible());
         QCOMPARE(quit.count(), 1);
         QTRY_COMPARE(m_window->visibility(), QWindow::FullScreen);
-        QVERIFY(item("OnboardingView")->hasActiveFocus());
+        QVERIFY(item("OnboardingLayer")->hasActiveFocus());
     }
 
     void hasItsSizeAndTitle()

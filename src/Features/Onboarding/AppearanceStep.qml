@@ -38,7 +38,7 @@ OnboardingPage {
                 Keys.onEnterPressed: root.accepted()
                 Keys.onReturnPressed: root.accepted()
                 onClicked: {
-                    grid.current = index
+                    grid.follow(index)
                     root.onboarding.appearance = index
                 }
             }

@@ -1,7 +1,7 @@
 import QtQuick
 
 /// A grid of controls that is one stop for Tab; the arrow keys, Home and End go from one to the next. The controls
-/// take `activeFocusOnTab` from `current` and set it when they get the focus.
+/// take `activeFocusOnTab` from `current` and tell of a press with `follow`.
 Grid {
     id: root
 
@@ -16,9 +16,17 @@ Grid {
     function go(index: int) {
         if (index < 0 || index >= items.count)
             return
-        current = index
+        // What has the focus cannot cease to be a stop for Tab, so the focus goes first.
         items.itemAt(index).forceActiveFocus(Qt.TabFocusReason)
+        current = index
         moved(index)
+    }
+
+    /// Follows a press by the pointer, which takes the focus along only if it is in the grid.
+    function follow(index: int) {
+        if (items.itemAt(current)?.activeFocus ?? false)
+            items.itemAt(index).forceActiveFocus(Qt.MouseFocusReason)
+        current = index
     }
 
     Keys.onLeftPressed: event => {

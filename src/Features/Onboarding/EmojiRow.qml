@@ -56,7 +56,7 @@ Column {
                 Keys.onEnterPressed: root.accepted()
                 Keys.onReturnPressed: root.accepted()
                 onClicked: {
-                    grid.current = index
+                    grid.follow(index)
                     root.chosen(modelData)
                 }
             }

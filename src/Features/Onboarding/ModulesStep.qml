@@ -48,11 +48,10 @@ OnboardingPage {
                 symbol: modelData.symbol
                 text: modelData.title
                 width: grid.cellWidth
-                onActiveFocusChanged: {
-                    if (activeFocus)
-                        grid.current = index
+                onClicked: {
+                    grid.follow(index)
+                    root.onboarding.toggleModule(index)
                 }
-                onClicked: root.onboarding.toggleModule(index)
             }
         }
     }

@@ -16,6 +16,7 @@ Instantiator {
         required property var modelData
 
         sequence: modelData.keys
+        enabled: modelData.keys !== ""
         context: Qt.ApplicationShortcut
         autoRepeat: false
         onActivated: keys.commands.run(modelData.id)

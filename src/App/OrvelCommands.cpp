@@ -1,6 +1,9 @@
 #include "App/OrvelCommands.h"
 
 #include "Features/Shell/KeyText.h"
+#include "Support/OVQuotes.h"
+
+#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +36,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {file, u"newNote"_s, u"New Note"_s, u"Ctrl+Shift+N"_s, &OrvelCommands::newNote},
         {file, u"newTask"_s, u"New Task"_s, u"Ctrl+Shift+K"_s, &OrvelCommands::newTask},
         {file, u"settings"_s, u"Settings…"_s, u"Ctrl+,"_s, Kind::settings, next},
+        {file, u"updates"_s, u"Check for Updates…"_s, {}, &OrvelCommands::checkForUpdates, next},
         {file, u"quit"_s, u"Quit"_s, u"Ctrl+Q"_s, &OrvelCommands::quitRequested, next, window},
 
         {navigate, u"dashboard"_s, u"Dashboard"_s, u"Ctrl+1"_s, Kind::dashboard},
@@ -52,6 +56,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
          &OrvelCommands::cycleNavigation},
         {view, u"appearance"_s, u"Cycle Appearance"_s, u"Ctrl+Shift+L"_s, &OrvelCommands::cycleAppearance},
         {view, u"theme"_s, u"Cycle Accent"_s, u"Ctrl+Shift+T"_s, &OrvelCommands::cycleAccent},
+        {view, u"shuffleQuote"_s, u"Shuffle Daily Quote"_s, u"Ctrl+Shift+Q"_s, &OrvelCommands::shuffleQuote},
         {view, u"shortcuts"_s, u"Keyboard Shortcuts"_s, u"Ctrl+/"_s, &OrvelCommands::presentShortcuts},
         {view, u"sidebar"_s, u"Toggle Sidebar"_s, u"Ctrl+Shift+S"_s, &OrvelCommands::toggleSidebar, next},
         {view, u"fullScreen"_s, u"Full Screen"_s, u"F11"_s, &OrvelCommands::fullScreenToggled, next, window},
@@ -121,6 +126,11 @@ void OrvelCommands::cycleAccent()
 {
     m_store->changeSettings(
         [](AppSettings &settings) { settings.theme.accent = nextCase(settings.theme.accent); });
+}
+
+void OrvelCommands::shuffleQuote()
+{
+    m_ui->setRandomQuote(OVQuotes::random(m_ui->randomQuote(), *QRandomGenerator::global()));
 }
 
 void OrvelCommands::toggleSidebar()

@@ -49,6 +49,7 @@ class OrvelCommands : public QObject
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store MEMBER m_store REQUIRED FINAL)
     Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
+    Q_PROPERTY(UpdateService *updates MEMBER m_updates REQUIRED FINAL)
     Q_PROPERTY(QList<OrvelMenu> menus READ menus CONSTANT FINAL)
     Q_PROPERTY(QList<OrvelCommand> commands READ commands CONSTANT FINAL)
 
@@ -78,10 +79,13 @@ private:
     void cycleNavigation();
     void cycleAppearance();
     void cycleAccent();
+    void shuffleQuote();
     void toggleSidebar();
     void presentSearch();
     void presentShortcuts();
+    void checkForUpdates() { m_updates->check(true); }
 
     WorkspaceStore *m_store = nullptr;
     UIState *m_ui = nullptr;
+    UpdateService *m_updates = nullptr;
 };

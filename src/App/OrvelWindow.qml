@@ -43,6 +43,7 @@ Window {
         id: commands
         store: Orvel.store
         ui: Orvel.ui
+        updates: Orvel.updates
         onFullScreenToggled: window.toggleFullScreen()
         onQuitRequested: Qt.quit()
     }

@@ -1,6 +1,8 @@
 import QtQuick
 import Orvel.App
 import Orvel.DesignSystem
+import Orvel.Session
+import Orvel.Updates
 
 /// The layers of the window: the background, the workspace or what comes before it, the onboarding, and for a moment
 /// after the start the intro on top of all.
@@ -45,6 +47,14 @@ FocusScope {
         page: "OnboardingLayer.qml"
         shown: !root.model.hasCompletedOnboarding
         onLoaded: root.starting = false
+    }
+
+    UpdatesLayer {
+        anchors.fill: parent
+        enabled: !root.showIntro
+        updates: Orvel.updates
+
+        Component.onCompleted: updates.checkRegularly(this)
     }
 
     FadingLayer {

@@ -1,3 +1,4 @@
+#include "App/AppUpdates.h"
 #include "App/SavePoints.h"
 #include "App/SingleInstance.h"
 #include "App/TerminationSignals.h"
@@ -69,7 +70,9 @@ int main(int argc, char *argv[])
     const SystemAppearance desktop(QDBusConnection::sessionBus());
     const ThemeSync theme(&store, &desktop);
     UIState ui;
-    OrvelSession session(&store, &ui);
+    AppUpdates updates(application.applicationVersion(), QStringLiteral(ORVEL_BUILD),
+                       QStringLiteral(ORVEL_UPDATE_SITE));
+    OrvelSession session(&store, &ui, updates.service());
 
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     QQmlApplicationEngine engine;

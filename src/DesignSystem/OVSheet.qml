@@ -9,6 +9,7 @@ T.Popup {
 
     readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: sheet }
     property string title: ""
+    property string accessibleName: title
     /// The widest the sheet becomes.
     property real maximumWidth: Theme.sheetWidth
     default property alias content: column.data
@@ -33,7 +34,7 @@ T.Popup {
     contentItem: FocusScope {
         focus: true
         Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
+        Accessible.name: sheet.accessibleName
 
         Item {
             id: header

@@ -123,6 +123,7 @@ class Theme : public QObject
     Q_PROPERTY(int fieldWidth READ fieldWidth NOTIFY changed FINAL)
     Q_PROPERTY(int menuWidth READ menuWidth NOTIFY changed FINAL)
     Q_PROPERTY(int dialogWidth READ dialogWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int promptWidth READ promptWidth NOTIFY changed FINAL)
     Q_PROPERTY(int sheetWidth READ sheetWidth NOTIFY changed FINAL)
     Q_PROPERTY(double disabledOpacity READ disabledOpacity NOTIFY changed FINAL)
 
@@ -240,6 +241,7 @@ public:
     int fieldWidth() const { return scaled(240); }
     int menuWidth() const { return scaled(180); }
     int dialogWidth() const { return scaled(420); }
+    int promptWidth() const { return scaled(440); }
     int sheetWidth() const { return scaled(560); }
     double disabledOpacity() const { return 0.45; }
 

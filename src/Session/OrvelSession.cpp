@@ -5,8 +5,8 @@ namespace
 constexpr char sessionProperty[] = "orvelSession";
 }
 
-OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, QObject *parent)
-    : QObject(parent), m_store(store), m_ui(ui)
+OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates)
+    : m_store(store), m_ui(ui), m_updates(updates)
 {
 }
 

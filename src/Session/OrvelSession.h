@@ -14,10 +14,12 @@ class OrvelSession : public QObject
     QML_SINGLETON
     Q_PROPERTY(WorkspaceStore *store READ store CONSTANT FINAL)
     Q_PROPERTY(UIState *ui READ ui CONSTANT FINAL)
+    Q_PROPERTY(UpdateService *updates READ updates CONSTANT FINAL)
 
 public:
     /// The objects outlive the session, and the session outlives the engine.
-    OrvelSession(WorkspaceStore *store, UIState *ui, QObject *parent = nullptr);
+    /// @param updates null where no screen speaks of updates
+    OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates = nullptr);
 
     void provideTo(QQmlEngine &engine);
     /// Called by the engine when QML first names `Orvel`.
@@ -25,8 +27,10 @@ public:
 
     WorkspaceStore *store() const { return m_store; }
     UIState *ui() const { return m_ui; }
+    UpdateService *updates() const { return m_updates; }
 
 private:
     WorkspaceStore *m_store;
     UIState *m_ui;
+    UpdateService *m_updates;
 };

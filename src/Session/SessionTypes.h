@@ -3,6 +3,7 @@
 #include "Foundation/Clock.h"
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
+#include "Support/Updates/UpdateService.h"
 
 #include <QtQml/qqml.h>
 
@@ -19,6 +20,13 @@ struct UIStateType {
     QML_FOREIGN(UIState)
     QML_NAMED_ELEMENT(UIState)
     QML_UNCREATABLE("The application makes the UI state.")
+};
+
+struct UpdateServiceType {
+    Q_GADGET
+    QML_FOREIGN(UpdateService)
+    QML_NAMED_ELEMENT(UpdateService)
+    QML_UNCREATABLE("The application makes the update service.")
 };
 
 struct ClockType {

@@ -18,6 +18,7 @@ private:
     ManualClock m_clock;
     WorkspaceStore m_store{{m_folder.filePath(u"workspace.json"_s), &m_clock, 1h}};
     UIState m_ui;
+    UpdateService m_updates{{}};
     OrvelCommands m_commands;
 
 private slots:
@@ -25,6 +26,7 @@ private slots:
     {
         m_commands.setProperty("store", QVariant::fromValue(&m_store));
         m_commands.setProperty("ui", QVariant::fromValue(&m_ui));
+        m_commands.setProperty("updates", QVariant::fromValue(&m_updates));
     }
     void init()
     {
@@ -45,9 +47,9 @@ private slots:
         const auto menus = OrvelCommands::menus();
         QCOMPARE(menus.size(), 3);
         QCOMPARE(menus[0].title, u"&File"_s);
-        QCOMPARE(titles(menus[0]),
-                 (QStringList{u"New Page Ctrl+N"_s, u"New Note Ctrl+Shift+N"_s, u"New Task Ctrl+Shift+K"_s,
-                              u"--- Settings… Ctrl+,"_s, u"--- Quit Ctrl+Q"_s}));
+        QCOMPARE(titles(menus[0]), (QStringList{u"New Page Ctrl+N"_s, u"New Note Ctrl+Shift+N"_s,
+                                                u"New Task Ctrl+Shift+K"_s, u"--- Settings… Ctrl+,"_s,
+                                                u"--- Check for Updates… "_s, u"--- Quit Ctrl+Q"_s}));
         QCOMPARE(menus[1].title, u"&Navigate"_s);
         QCOMPARE(titles(menus[1]),
                  (QStringList{u"Dashboard Ctrl+1"_s, u"Today Ctrl+2"_s, u"Focus Ctrl+3"_s, u"Tasks Ctrl+4"_s,
@@ -57,8 +59,9 @@ private slots:
         QCOMPARE(menus[2].title, u"&View"_s);
         QCOMPARE(titles(menus[2]),
                  (QStringList{u"Cycle Navigation Style Ctrl+Shift+D"_s, u"Cycle Appearance Ctrl+Shift+L"_s,
-                              u"Cycle Accent Ctrl+Shift+T"_s, u"Keyboard Shortcuts Ctrl+/"_s,
-                              u"--- Toggle Sidebar Ctrl+Shift+S"_s, u"--- Full Screen F11"_s}));
+                              u"Cycle Accent Ctrl+Shift+T"_s, u"Shuffle Daily Quote Ctrl+Shift+Q"_s,
+                              u"Keyboard Shortcuts Ctrl+/"_s, u"--- Toggle Sidebar Ctrl+Shift+S"_s,
+                              u"--- Full Screen F11"_s}));
     }
 
     void noKeyAndNoIdIsGivenTwice()
@@ -68,6 +71,8 @@ private slots:
         for (const OrvelCommand &command : OrvelCommands::commands()) {
             QVERIFY2(!ids.contains(command.id) && !keys.contains(command.keys), qPrintable(command.id));
             ids.insert(command.id);
+            if (command.keys.isEmpty())
+                continue;
             keys.insert(command.keys);
             const QKeySequence sequence(command.keys, QKeySequence::PortableText);
             QVERIFY2(sequence.count() == 1 && sequence[0].key() != Qt::Key_unknown, qPrintable(command.keys));
@@ -113,6 +118,21 @@ private slots:
             m_commands.run(command.id);
             QCOMPARE(m_ui.selection().text(), command.id);
         }
+    }
+
+    void theQuoteIsShuffled()
+    {
+        for (int i = 0; i < 40; ++i) {
+            const auto before = m_ui.randomQuote();
+            m_commands.run(u"shuffleQuote"_s);
+            QVERIFY(m_ui.randomQuote() && m_ui.randomQuote() != before);
+        }
+    }
+
+    void aCheckForUpdatesAnswers()
+    {
+        m_commands.run(u"updates"_s);
+        QCOMPARE(m_updates.notice(), u"Bad update address."_s);
     }
 
     void choicesGoRound()

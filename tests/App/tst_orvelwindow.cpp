@@ -23,7 +23,7 @@ private:
     TestWorkspace m_workspace;
     SystemAppearance m_desktop{QDBusConnection(QString())};
     ThemeSync m_theme{&m_workspace.store(), &m_desktop};
-    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates()};
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow *m_window = nullptr;
 

@@ -27,7 +27,7 @@ public slots:
 private:
     TestComposer m_composer;
     TestWorkspace m_workspace;
-    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates()};
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(orvel, Setup)

@@ -3,6 +3,7 @@
 #include "Harness/ManualClock.h"
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
+#include "Support/Updates/UpdateService.h"
 
 #include <QTemporaryDir>
 
@@ -22,6 +23,8 @@ public:
 
     WorkspaceStore &store() { return m_store; }
     UIState &ui() { return m_ui; }
+    /// It knows no site, so it never asks one.
+    UpdateService &updates() { return m_updates; }
     ManualClock &clock() { return m_clock; }
 
     /// An empty workspace that has finished its onboarding, with the window on the dashboard.
@@ -161,4 +164,5 @@ private:
     ManualClock m_clock;
     WorkspaceStore m_store;
     UIState m_ui;
+    UpdateService m_updates{{}};
 };

@@ -13,5 +13,6 @@ struct ScratchWorkspace {
     SystemClock clock;
     WorkspaceStore store{{.filePath = folder.filePath(QStringLiteral("workspace.json")), .clock = &clock}};
     UIState ui;
-    OrvelSession session{&store, &ui};
+    UpdateService updates{{}};
+    OrvelSession session{&store, &ui, &updates};
 };

@@ -65,6 +65,11 @@ bool UpdateService::isNewer(const QString &version, const QString &build, const 
     return order > 0 || (order == 0 && number(build) > number(thanBuild));
 }
 
+QString UpdateService::progressText() const
+{
+    return u"%1% — this can take a moment on a slow connection."_s.arg(qRound(installProgressOrZero() * 100));
+}
+
 void UpdateService::check(bool manual)
 {
     if (isChecking() || isInstalling() || (m_available && !manual))
@@ -130,7 +135,7 @@ void UpdateService::install()
 {
     if (!m_available || isInstalling())
         return;
-    if (m_available->downloadURL.isEmpty() || !m_options.installer->canInstall()) {
+    if (m_available->downloadURL.isEmpty() || !m_options.installer || !m_options.installer->canInstall()) {
         openDownloadPage();
         return;
     }

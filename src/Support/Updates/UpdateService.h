@@ -19,6 +19,7 @@ class UpdateService : public QObject
     Q_PROPERTY(bool isInstalling READ isInstalling NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString failure READ failure NOTIFY phaseChanged FINAL)
     Q_PROPERTY(double installProgress READ installProgressOrZero NOTIFY installProgressChanged FINAL)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY installProgressChanged FINAL)
 
 public:
     struct Phase {
@@ -32,7 +33,7 @@ public:
 
     struct Options {
         QNetworkAccessManager *network = nullptr;
-        /// Lives longer than the service.
+        /// Lives longer than the service; null for a copy that never replaces itself.
         UpdateInstaller *installer = nullptr;
         /// The base address of the update site, without a slash at its end.
         QString origin = {};
@@ -74,6 +75,7 @@ public:
     bool isInstalling() const { return m_phase.kind == Phase::Kind::installing; }
     const QString &failure() const { return m_phase.message; }
     double installProgressOrZero() const { return m_installProgress.value_or(0); }
+    QString progressText() const;
 
     /// Asks the site, unless it is being asked or an install is under way. A check nobody asked for says
     /// nothing but an offer, and does not disturb one that stands.

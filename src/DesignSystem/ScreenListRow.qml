@@ -15,9 +15,10 @@ FocusScope {
     readonly property alias hovered: pointer.hovered
     default property alias content: appear.content
 
-    /// Shift+Tab, unless a part of the row takes it.
-    function leaveBackwards() {
+    /// What Shift+Tab does here; false to leave it to others.
+    function leaveBackwards(): bool {
         list.leftBackwards()
+        return true
     }
 
     activeFocusOnTab: activeFocus
@@ -34,7 +35,7 @@ FocusScope {
     }
     ListView.onRemove: removal.start()
 
-    Keys.onBacktabPressed: leaveBackwards()
+    Keys.onBacktabPressed: event => event.accepted = leaveBackwards()
 
     OVAppear {
         id: appear

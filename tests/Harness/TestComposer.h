@@ -17,6 +17,7 @@ public:
     Q_INVOKABLE void commit(const QString &text) { send({}, text); }
     /// Puts a text into the clipboard.
     Q_INVOKABLE void copy(const QString &text) { QGuiApplication::clipboard()->setText(text); }
+    Q_INVOKABLE QString copied() { return QGuiApplication::clipboard()->text(); }
 
 private:
     static void send(const QString &preedit, const QString &commit)

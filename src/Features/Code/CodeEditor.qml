@@ -18,6 +18,8 @@ FocusScope {
     property string placeholder
     property string accessibleName: qsTr("Code")
     property int verticalPadding: Theme.space8
+    /// Gets the keys before the editor does; null for nothing.
+    property Item keyTarget: null
     readonly property int caretLine: code.caretLine
     readonly property int caretColumn: code.caretColumn
     readonly property int lineCount: code.lineCount
@@ -129,6 +131,7 @@ FocusScope {
                    ? view.width
                    : Math.ceil((contentWidth + leftPadding + rightPadding) / widthStep) * widthStep
             wrapMode: root.wrap ? TextEdit.Wrap : TextEdit.NoWrap
+            Keys.forwardTo: root.keyTarget ? [root.keyTarget] : []
             Keys.onPressed: event => keys.handle(event)
             onCursorPositionChanged: keys.reveal()
         }

@@ -12,6 +12,9 @@ FocusScope {
     /// Where the middle of the first line stands.
     property real firstLineCenter: height / 2
 
+    /// Whether the focus is where almost every key means something of its own.
+    property bool hasOwnKeys: false
+
     /// The caret was moved by the person, or the field under it grew.
     signal caretMoved(field: Item, caret: rect)
 

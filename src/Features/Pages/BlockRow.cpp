@@ -1,7 +1,6 @@
 #include "Features/Pages/BlockRow.h"
 
 #include "Features/Pages/PageBlocks.h"
-#include "Models/CodeLanguage.h"
 
 QList<BlockRow> BlockRow::ofBlocks(const QList<Block> &blocks)
 {
@@ -80,11 +79,6 @@ QString BlockRow::marker() const
 QString BlockRow::numberText() const
 {
     return number > 0 ? QStringLiteral("%1.").arg(number) : QString();
-}
-
-int BlockRow::languageIndex() const
-{
-    return int(enumFromRaw<CodeLanguage>(block.language).value_or(CodeLanguage{}));
 }
 
 QString BlockRow::lineCountText() const

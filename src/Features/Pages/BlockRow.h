@@ -5,8 +5,8 @@
 #include <QList>
 #include <QObject>
 
-/// A block of a page as its row shows it. Positions stand for the cases of the tables of type, tone and
-/// language, in their order.
+/// A block of a page as its row shows it. Positions stand for the cases of the tables of type and tone, in
+/// their order.
 struct BlockRow {
     Q_GADGET
     Q_PROPERTY(QUuid blockID MEMBER id FINAL)
@@ -25,7 +25,8 @@ struct BlockRow {
     Q_PROPERTY(bool isChecked READ isChecked FINAL)
     Q_PROPERTY(int tone READ tone FINAL)
     Q_PROPERTY(QString toneSymbol READ toneSymbol FINAL)
-    Q_PROPERTY(int language READ languageIndex FINAL)
+    /// A raw text; maybe of no known language.
+    Q_PROPERTY(QString language READ language FINAL)
     /// "12 lines".
     Q_PROPERTY(QString lineCountText READ lineCountText FINAL)
     /// Before any scaling.
@@ -56,7 +57,7 @@ public:
     bool isChecked() const { return block.type == BlockType::checklist && block.checked; }
     int tone() const { return int(block.tone); }
     QString toneSymbol() const { return enumSymbol(block.tone); }
-    int languageIndex() const;
+    QString language() const { return block.language; }
     QString lineCountText() const;
     int codeHeight() const;
     bool canMoveUp() const { return !isFirst; }

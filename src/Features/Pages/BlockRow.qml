@@ -18,6 +18,9 @@ ScreenListRow {
     required property bool isChecked
     required property int tone
     required property string toneSymbol
+    required property string language
+    required property string lineCountText
+    required property int codeHeight
     required property bool canMoveUp
     required property bool canMoveDown
     required property PageEditorViewModel editor
@@ -36,8 +39,10 @@ ScreenListRow {
     signal menuRequested(from: Item)
     signal toneMenuRequested(from: Item)
 
-    function leaveBackwards() {
-        tab(false)
+    function leaveBackwards(): bool {
+        if (!part.hasOwnKeys)
+            tab(false)
+        return !part.hasOwnKeys
     }
 
     function tab(forward: bool) {
@@ -49,20 +54,38 @@ ScreenListRow {
             tabbed(forward)
     }
 
-    /// Does what a key together with Control stands for; false for any other.
-    function actWithControl(key: int, shift: bool): bool {
-        if (shift && (key === Qt.Key_Up || key === Qt.Key_Down)) {
-            editor.moveBlock(blockID, key === Qt.Key_Up ? -1 : 1)
+    /// Does what a key means for any block; false for any other.
+    function actOnBlock(key: int, control: bool, shift: bool): bool {
+        switch (key) {
+        case Qt.Key_Up:
+        case Qt.Key_Down:
+            if (control && shift)
+                editor.moveBlock(blockID, key === Qt.Key_Up ? -1 : 1)
+            return control && shift
+        case Qt.Key_Tab:
+        case Qt.Key_Backtab:
+            if (control)
+                tab(!shift)
+            return control
+        case Qt.Key_Menu:
+            menuRequested(row)
             return true
-        }
-        if (!shift && (key === Qt.Key_Home || key === Qt.Key_End)) {
-            jumped(key)
-            return true
+        case Qt.Key_F10:
+            if (shift)
+                menuRequested(row)
+            return shift
         }
         return false
     }
 
-    function act(key: int, shift: bool): bool {
+    /// Does what a key means where a line of text is written; false for any other.
+    function actOnText(key: int, control: bool, shift: bool): bool {
+        if (control) {
+            const isEnd = key === Qt.Key_Home || key === Qt.Key_End
+            if (isEnd && !shift)
+                jumped(key)
+            return isEnd && !shift
+        }
         switch (key) {
         case Qt.Key_Up:
         case Qt.Key_Down: {
@@ -81,21 +104,13 @@ ScreenListRow {
             return true
         case Qt.Key_Return:
         case Qt.Key_Enter:
-            if (body !== "code")
-                editor.insertBlock(blockID)
-            return body !== "code"
+            editor.insertBlock(blockID)
+            return true
         case Qt.Key_Escape:
             if (editor.slashTypes.length === 0)
                 return false
             editor.dismissSlash()
             return true
-        case Qt.Key_Menu:
-            menuRequested(row)
-            return true
-        case Qt.Key_F10:
-            if (shift)
-                menuRequested(row)
-            return shift
         }
         return false
     }
@@ -106,13 +121,14 @@ ScreenListRow {
     Accessible.role: Accessible.ListItem
 
     Keys.onPressed: event => {
-        const control = event.modifiers & Qt.ControlModifier
+        const control = (event.modifiers & Qt.ControlModifier) !== 0
         const shift = (event.modifiers & Qt.ShiftModifier) !== 0
         if (event.key !== Qt.Key_Up && event.key !== Qt.Key_Down)
             caret.column = -1
         if (event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
             return
-        event.accepted = control ? actWithControl(event.key, shift) : act(event.key, shift)
+        event.accepted = actOnBlock(event.key, control, shift)
+                || (!part.hasOwnKeys && actOnText(event.key, control, shift))
     }
 
     HoverHandler {
@@ -169,12 +185,28 @@ ScreenListRow {
             onCaretMoved: (field, caret) => row.caretMoved(field, caret)
         }
     }
+
+    Component {
+        id: codeBody
+        CodeBlock {
+            blockID: row.blockID
+            codeHeight: row.codeHeight
+            editor: row.editor
+            keyTarget: row
+            language: row.language
+            lineCountText: row.lineCountText
+            placeholder: row.placeholder
+            storedText: row.blockText
+            onCaretMoved: (field, caret) => row.caretMoved(field, caret)
+            onDeparted: direction => row.departed(direction)
+        }
+    }
     // qmllint enable unqualified
 
     Loader {
         id: loader
         focus: true
-        sourceComponent: row.body === "divider" ? dividerBody : textBody
+        sourceComponent: row.body === "divider" ? dividerBody : row.body === "code" ? codeBody : textBody
         width: parent.width
     }
 }

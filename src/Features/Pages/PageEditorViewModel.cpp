@@ -3,6 +3,9 @@
 #include "Features/Pages/PageBlocks.h"
 #include "Models/CodeLanguage.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace
@@ -91,11 +94,6 @@ QStringList PageEditorViewModel::toneLabels()
 QStringList PageEditorViewModel::toneSymbols()
 {
     return symbols<CalloutTone>();
-}
-
-QStringList PageEditorViewModel::languageLabels()
-{
-    return labels<CodeLanguage>();
 }
 
 void PageEditorViewModel::blockFocused(const QUuid &blockID)
@@ -212,10 +210,35 @@ void PageEditorViewModel::setTone(const QUuid &blockID, int tone)
         changeBlock(blockID, [&](Block &block) { block.tone = CalloutTone(tone); });
 }
 
-void PageEditorViewModel::setLanguage(const QUuid &blockID, int language)
+void PageEditorViewModel::setLanguage(const QUuid &blockID, const QString &language)
 {
-    if (isCase<CodeLanguage>(language))
-        changeBlock(blockID, [&](Block &block) { block.language = enumRawText(CodeLanguage(language)); });
+    if (enumFromRaw<CodeLanguage>(language))
+        changeBlock(blockID, [&](Block &block) { block.language = language; });
+}
+
+CodeRun *PageEditorViewModel::codeRun(const QUuid &blockID)
+{
+    CodeRun *&run = m_runs[blockID];
+    if (!run)
+        run = new CodeRun(this);
+    return run;
+}
+
+void PageEditorViewModel::runInlineCode(const QUuid &blockID)
+{
+    if (const Block *const code = block(blockID))
+        codeRun(blockID)->run(code->text, code->language);
+}
+
+void PageEditorViewModel::copyCode(const QUuid &blockID) const
+{
+    if (const Block *const code = block(blockID))
+        QGuiApplication::clipboard()->setText(code->text);
+}
+
+void PageEditorViewModel::copyOutput(const QUuid &blockID)
+{
+    QGuiApplication::clipboard()->setText(codeRun(blockID)->output());
 }
 
 void PageEditorViewModel::pageChanged(const RecordChange &change)
@@ -249,6 +272,18 @@ void PageEditorViewModel::showBlocks(const QList<Block> &blocks)
         m_rows.setRows(BlockRow::ofBlocks(blocks));
     }
     m_blocks = blocks;
+    dropRuns();
+}
+
+void PageEditorViewModel::dropRuns()
+{
+    m_runs.removeIf([this](const auto &run) {
+        const qsizetype index = PageBlocks::indexOf(m_blocks, run.key());
+        const bool isGone = index < 0 || m_blocks[index].type != BlockType::code;
+        if (isGone)
+            run.value()->deleteLater();
+        return isGone;
+    });
 }
 
 void PageEditorViewModel::showSlashMenu()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Features/Code/CodeRun.h"
 #include "Features/Pages/BlockRow.h"
 #include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
@@ -9,7 +10,7 @@
 
 /// What the editor of one page shows and does. Every operation goes straight into the store; once the page is
 /// gone they do nothing, and the rows show what they showed last. Positions stand for the cases of the tables
-/// of type, tone and language, in their order.
+/// of type and tone, in their order.
 class PageEditorViewModel : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,6 @@ class PageEditorViewModel : public QObject
     Q_PROPERTY(QList<QString> typeSymbols READ typeSymbols CONSTANT FINAL)
     Q_PROPERTY(QList<QString> toneLabels READ toneLabels CONSTANT FINAL)
     Q_PROPERTY(QList<QString> toneSymbols READ toneSymbols CONSTANT FINAL)
-    Q_PROPERTY(QList<QString> languageLabels READ languageLabels CONSTANT FINAL)
 
 public:
     explicit PageEditorViewModel(QObject *parent = nullptr);
@@ -45,7 +45,6 @@ public:
     static QStringList typeSymbols();
     static QStringList toneLabels();
     static QStringList toneSymbols();
-    static QStringList languageLabels();
 
     /// The block that has the keyboard's focus; null for none.
     const QUuid &focusedBlock() const { return m_focusedBlock; }
@@ -74,7 +73,15 @@ public:
     Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text);
     Q_INVOKABLE void toggleChecked(const QUuid &blockID);
     Q_INVOKABLE void setTone(const QUuid &blockID, int tone);
-    Q_INVOKABLE void setLanguage(const QUuid &blockID, int language);
+    /// @param language the raw text of a language
+    Q_INVOKABLE void setLanguage(const QUuid &blockID, const QString &language);
+
+    /// The runs of a code block, for as long as the block and this object are there.
+    Q_INVOKABLE CodeRun *codeRun(const QUuid &blockID);
+    /// Runs the code as it stands now, unless it is running already.
+    Q_INVOKABLE void runInlineCode(const QUuid &blockID);
+    Q_INVOKABLE void copyCode(const QUuid &blockID) const;
+    Q_INVOKABLE void copyOutput(const QUuid &blockID);
 
 signals:
     void storeChanged();
@@ -90,6 +97,7 @@ private:
     void pageChanged(const RecordChange &change);
     void refresh();
     void showBlocks(const QList<Block> &blocks);
+    void dropRuns();
     void showSlashMenu();
     void requestFocus(const QUuid &blockID, int caret);
     void giveFocus();
@@ -114,6 +122,8 @@ private:
     QUuid m_focusedBlock;
     QList<int> m_slashTypes;
     std::optional<QString> m_dismissedText;
+
+    QHash<QUuid, CodeRun *> m_runs;
 
     QUuid m_wantedFocus;
     int m_wantedCaret = -1;

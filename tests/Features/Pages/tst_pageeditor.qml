@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Orvel.Code
 import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
@@ -320,6 +321,53 @@ Item {
             keyClick(Qt.Key_Return)
             at("two")
             compare(texts(), "two")
+        }
+
+        function test_runsCode() {
+            const code = "{\"a\":\u00a01}"
+            open([{ type: "code", text: code, language: "json" }, "after"])
+            one(item => item.text === "1 lines")
+            mouseClick(named("Run code", OVIconButton))
+            one(item => item.text === "Failed" || item.text === "Succeeded")
+            mouseClick(named("Copy code", OVIconButton))
+            compare(Composer.copied(), code)
+            mouseClick(named("Hide output", OVIconButton))
+            tryVerify(() => all(root.parent, item => item instanceof CodeConsole).length === 0)
+            const source = one(item => item instanceof CodeEditor).input
+            mouseClick(source)
+            source.cursorPosition = source.length
+            keyClick(Qt.Key_Return)
+            type("x")
+            compare(texts(), code + "\nx|after")
+            one(item => item.text === "2 lines")
+            keyClick(Qt.Key_Down, Qt.ControlModifier | Qt.ShiftModifier)
+            tryVerify(() => texts() === "after|" + code + "\nx")
+            verify(source.activeFocus)
+            keyClick(Qt.Key_Up)
+            keyClick(Qt.Key_Up)
+            at("after")
+            keyClick(Qt.Key_Down)
+            verify(source.activeFocus)
+            keyClick(Qt.Key_Tab, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(focused().text, "Copy code")
+            mouseClick(named("Language: JSON", OVMenuButton))
+            choose("HTML")
+            compare(saved().content[1].language, "html")
+            named("HTML is markup  -  there is nothing to run.", OVIconButton)
+        }
+
+        function test_resultsStayWhileTheirBlockIsOutOfSight() {
+            const blocks = [{ type: "code", text: "[1, 2]", language: "json" }]
+            for (let i = 0; i < 200; ++i)
+                blocks.push("Block " + i)
+            open(blocks)
+            mouseClick(named("Run code", OVIconButton))
+            one(item => item.text === "Succeeded")
+            const list = one(item => item instanceof BlockList)
+            list.positionViewAtEnd()
+            tryVerify(() => all(root.parent, item => item instanceof CodeConsole).length === 0)
+            list.positionViewAtBeginning()
+            one(item => item.text === "Succeeded")
         }
 
         function test_tabGoesThroughTheBlocks() {

@@ -1,0 +1,127 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// A block of source text that can be run where it stands.
+BlockBody {
+    id: root
+
+    required property string storedText
+    required property string placeholder
+    required property string language
+    required property string lineCountText
+    required property int codeHeight
+    readonly property CodeRun run: editor.codeRun(blockID)
+
+    /// An arrow key leads out of the text, upwards (-1) or downwards (1).
+    signal departed(direction: int)
+
+    function stops(): list<Item> {
+        return bar.stops().concat([code], result.active ? (result.item as CodeConsole).stops() : [])
+    }
+
+    function columnIn(item: Item): real {
+        return code.input.mapToItem(item, code.input.cursorRectangle.x, 0).x
+    }
+
+    function enter(direction: int, item: Item, column: real) {
+        const text = code.input
+        const line = text.positionToRectangle(direction > 0 ? 0 : text.length)
+        text.cursorPosition = text.positionAt(text.mapFromItem(item, column, 0).x, line.y + line.height / 2)
+        code.forceFocus()
+    }
+
+    function focusAt(caret: int) {
+        if (caret >= 0)
+            code.input.cursorPosition = Math.min(caret, code.input.length)
+        code.forceFocus()
+    }
+
+    function focusAtEnd() {
+        focusAt(code.input.length)
+    }
+
+    firstLineCenter: card.y + bar.height / 2
+    hasOwnKeys: code.activeFocus
+    implicitHeight: card.height + 2 * Theme.space8
+
+    Keys.onPressed: event => {
+        if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && event.modifiers === Qt.ControlModifier) {
+            event.accepted = true
+            root.editor.runInlineCode(root.blockID)
+        } else {
+            event.accepted = false
+        }
+    }
+
+    Rectangle {
+        id: card
+        border.color: code.visualFocus ? Theme.accent : Theme.ovBorder
+        border.width: Theme.lineWidth
+        color: Theme.ovSubtle
+        height: column.height
+        radius: Theme.cornerField
+        width: parent.width
+        y: Theme.space8
+
+        Column {
+            id: column
+            width: parent.width
+
+            CodeBlockBar {
+                id: bar
+                blockID: root.blockID
+                editor: root.editor
+                language: root.language
+                lineCountText: root.lineCountText
+                run: root.run
+                width: parent.width
+            }
+
+            CodeEditor {
+                id: code
+                accessibleName: root.placeholder
+                focus: true
+                height: Math.round(root.codeHeight * Theme.fontScale)
+                keyTarget: root.keyTarget
+                language: root.language
+                placeholder: root.placeholder
+                showLineNumbers: false
+                text: root.storedText
+                width: parent.width
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        root.editor.blockFocused(root.blockID)
+                    else
+                        root.editor.blockLeft(root.blockID)
+                }
+                onEdited: text => root.editor.setText(root.blockID, text)
+                onLeftDown: root.departed(1)
+                onLeftUp: root.departed(-1)
+
+                Connections {
+                    target: code.input
+                    function onCursorRectangleChanged() {
+                        if (code.activeFocus)
+                            root.caretMoved(code.input, code.input.cursorRectangle)
+                    }
+                }
+            }
+
+            Loader {
+                id: result
+                active: root.run.running || root.run.hasResult
+                width: parent.width
+
+                // A Loader of this Qt version cannot make a bound component.
+                // qmllint disable unqualified
+                sourceComponent: CodeConsole {
+                    run: root.run
+                    onCopyRequested: root.editor.copyOutput(root.blockID)
+                }
+                // qmllint enable unqualified
+            }
+        }
+    }
+}

@@ -1,0 +1,91 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// The head of a code block: its language, its lines, and the buttons to run and to copy it.
+Item {
+    id: root
+
+    required property PageEditorViewModel editor
+    required property var blockID
+    required property string language
+    required property string lineCountText
+    required property CodeRun run
+    readonly property bool canRun: CodeLanguageList.canRun(language)
+
+    function stops(): list<Item> {
+        return [languageButton, runButton, copyButton].filter(button => button.enabled)
+    }
+
+    implicitHeight: Theme.fieldHeight
+
+    OVMenuButton {
+        id: languageButton
+        activeFocusOnTab: false
+        anchors.verticalCenter: parent.verticalCenter
+        focusPolicy: Qt.NoFocus
+        plain: true
+        text: CodeLanguageList.label(root.language)
+        x: Theme.space4
+        Accessible.name: qsTr("Language: %1").arg(text)
+        onActiveFocusChanged: menuLoader.active = true
+        onPressed: menuLoader.active = true
+
+        menu: menuLoader.item as OVMenu
+    }
+
+    // The menu is made when it is first needed.
+    // qmllint disable unqualified
+    Loader {
+        id: menuLoader
+        active: false
+        sourceComponent: CodeLanguageMenu {
+            language: root.language
+            onPicked: raw => root.editor.setLanguage(root.blockID, raw)
+        }
+    }
+    // qmllint enable unqualified
+
+    OVText {
+        anchors.left: languageButton.right
+        anchors.leftMargin: Theme.space8
+        anchors.verticalCenter: parent.verticalCenter
+        role: OVText.Caption
+        text: root.lineCountText
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space4
+        anchors.verticalCenter: parent.verticalCenter
+
+        OVIconButton {
+            id: runButton
+            activeFocusOnTab: false
+            color: root.canRun ? Theme.ovSuccess : Theme.ovInkTertiary
+            enabled: !root.run.running
+            filled: true
+            focusPolicy: Qt.NoFocus
+            iconSize: Theme.iconRow
+            symbol: root.run.running ? "" : "play"
+            text: root.canRun ? qsTr("Run code") : CodeLanguageList.unsupportedReason(root.language)
+            onClicked: root.editor.runInlineCode(root.blockID)
+
+            OVBusyMark {
+                anchors.centerIn: parent
+                running: root.run.running
+            }
+        }
+
+        OVIconButton {
+            id: copyButton
+            activeFocusOnTab: false
+            focusPolicy: Qt.NoFocus
+            iconSize: Theme.iconRow
+            symbol: "doc.on.doc"
+            text: qsTr("Copy code")
+            onClicked: root.editor.copyCode(root.blockID)
+        }
+    }
+}

@@ -1,0 +1,279 @@
+#include "Features/Pages/PageEditorViewModel.h"
+#include "Harness/TestWorkspace.h"
+
+#include <QAbstractItemModelTester>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+void finishTurn()
+{
+    QCoreApplication::sendPostedEvents();
+}
+} // namespace
+
+class PageEditorViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void insertsBlocks();
+    void deletesBlocks();
+    void focusFollowsADeletedBlock();
+    void movesBlocks();
+    void duplicatesBlocks();
+    void changesTypes();
+    void appliesTheSlashMenu();
+    void dismissesTheSlashMenu();
+    void writesOneRowForAKey();
+    void breaksPastedLines();
+    void keepsUnknownLanguages();
+    void standsStillWithoutItsPage();
+    void dropsTheRunsOfDeletedBlocks();
+
+private:
+    void open(const QStringList &texts)
+    {
+        QVariantList blocks;
+        for (const QString &text : texts)
+            blocks.append(QVariantMap{{u"text"_s, text}});
+        openBlocks(blocks);
+    }
+    void openBlocks(const QVariantList &blocks)
+    {
+        m_page = QUuid(m_workspace.addPageOf(blocks));
+        m_model->setPageID(m_page);
+        m_workspace.advanceHours(1);
+        finishTurn();
+    }
+    const Page &page() const { return *m_workspace.store().pages().first(m_page); }
+    QUuid id(int index) const { return page().content[index].id; }
+    /// The texts in the store, and a check that the rows show the same.
+    QString texts()
+    {
+        finishTurn();
+        QStringList texts;
+        for (int i = 0; i < page().content.size(); ++i) {
+            texts.append(page().content[i].text);
+            if (role(i, "blockText") != texts.last())
+                texts.last() += u" (row: %1)"_s.arg(role(i, "blockText").toString());
+        }
+        return texts.join(u'|');
+    }
+    QVariant role(int row, const QByteArray &name) const
+    {
+        const QAbstractItemModel *const model = m_model->rows();
+        return model->index(row, 0).data(model->roleNames().key(name));
+    }
+    bool isTouched() const { return page().updatedDate == m_workspace.clock().now(); }
+
+    mutable TestWorkspace m_workspace;
+    QUuid m_page;
+    std::unique_ptr<PageEditorViewModel> m_model;
+    std::unique_ptr<QAbstractItemModelTester> m_tester;
+    std::unique_ptr<QSignalSpy> m_focus;
+};
+
+void PageEditorViewModelTest::init()
+{
+    m_workspace.reset();
+    m_model = std::make_unique<PageEditorViewModel>();
+    m_model->setStore(&m_workspace.store());
+    m_tester = std::make_unique<QAbstractItemModelTester>(m_model->rows());
+    m_focus = std::make_unique<QSignalSpy>(m_model.get(), &PageEditorViewModel::focusRequested);
+}
+
+void PageEditorViewModelTest::cleanup()
+{
+    m_focus.reset();
+    m_tester.reset();
+    m_model.reset();
+}
+
+void PageEditorViewModelTest::insertsBlocks()
+{
+    open({u"a"_s, u"b"_s});
+    m_model->insertBlock(id(0));
+    QVERIFY(m_focus->isEmpty());
+    QCOMPARE(texts(), u"a||b"_s);
+    QVERIFY(isTouched());
+    const Block fresh = page().content[1];
+    QCOMPARE(fresh, (Block{.id = fresh.id}));
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{1, 0}));
+    m_model->appendBlock();
+    QCOMPARE(texts(), u"a||b|"_s);
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{3, 0}));
+    m_model->insertBlock(QUuid::createUuid());
+    QCOMPARE(texts(), u"a||b|"_s);
+    QVERIFY(m_focus->isEmpty());
+}
+
+void PageEditorViewModelTest::deletesBlocks()
+{
+    open({u"a"_s});
+    const QUuid only = id(0);
+    m_model->deleteBlock(only);
+    QCOMPARE(texts(), QString());
+    QCOMPARE(page().content.size(), 1);
+    QVERIFY(id(0) != only);
+    QVERIFY(m_focus->isEmpty());
+}
+
+void PageEditorViewModelTest::focusFollowsADeletedBlock()
+{
+    open({u"a"_s, u"b"_s, u"c"_s});
+    m_model->blockFocused(id(1));
+    m_model->deleteBlock(id(0));
+    finishTurn();
+    QVERIFY(m_focus->isEmpty());
+    m_model->deleteBlock(id(0));
+    QCOMPARE(texts(), u"c"_s);
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{0, -1}));
+}
+
+void PageEditorViewModelTest::movesBlocks()
+{
+    open({u"a"_s, u"b"_s});
+    m_model->moveBlock(id(0), 1);
+    QCOMPARE(texts(), u"b|a"_s);
+    m_workspace.advanceHours(1);
+    QVERIFY(!isTouched());
+    m_model->moveBlock(id(0), -1);
+    QCOMPARE(texts(), u"b|a"_s);
+    QVERIFY(isTouched());
+    QVERIFY(m_focus->isEmpty());
+}
+
+void PageEditorViewModelTest::duplicatesBlocks()
+{
+    openBlocks({QVariantMap{
+        {u"text"_s, u"a"_s}, {u"type"_s, u"callout"_s}, {u"tone"_s, u"danger"_s}, {u"checked"_s, true}}});
+    m_model->duplicateBlock(id(0));
+    Block copy = page().content[1];
+    QVERIFY(copy.id != id(0));
+    copy.id = id(0);
+    QCOMPARE(copy, page().content[0]);
+    finishTurn();
+    QVERIFY(m_focus->isEmpty());
+}
+
+void PageEditorViewModelTest::changesTypes()
+{
+    openBlocks({QVariantMap{{u"text"_s, u"a"_s}, {u"type"_s, u"checklist"_s}, {u"checked"_s, true}}});
+    m_model->changeType(id(0), int(BlockType::numbered));
+    QCOMPARE(texts(), u"a"_s);
+    QCOMPARE(role(0, "numberText").toString(), u"1."_s);
+    QVERIFY(!page().content[0].checked);
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{0, -1}));
+    m_model->changeType(id(0), int(enumCases<BlockType>().size()));
+    QCOMPARE(page().content[0].type, BlockType::numbered);
+}
+
+void PageEditorViewModelTest::appliesTheSlashMenu()
+{
+    open({u"/cod"_s, u"b"_s});
+    QVERIFY(m_model->slashTypes().isEmpty());
+    m_model->blockFocused(id(0));
+    QCOMPARE(m_model->slashTypes(), QList{int(BlockType::code)});
+    m_model->applySlash(id(0), int(BlockType::code));
+    QCOMPARE(texts(), u"|b"_s);
+    QCOMPARE(page().content[0].type, BlockType::code);
+    QVERIFY(m_model->slashTypes().isEmpty());
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{0, 0}));
+}
+
+void PageEditorViewModelTest::dismissesTheSlashMenu()
+{
+    open({u"/"_s});
+    m_model->blockFocused(id(0));
+    QCOMPARE(m_model->slashTypes().size(), 11);
+    m_model->dismissSlash();
+    QVERIFY(m_model->slashTypes().isEmpty());
+    m_model->setText(id(0), u"/q"_s);
+    finishTurn();
+    QCOMPARE(m_model->slashTypes(), QList{int(BlockType::quote)});
+    m_model->setText(id(0), u"/"_s);
+    finishTurn();
+    QCOMPARE(m_model->slashTypes().size(), 11);
+    m_model->blockLeft(id(0));
+    QVERIFY(m_model->slashTypes().isEmpty());
+}
+
+void PageEditorViewModelTest::writesOneRowForAKey()
+{
+    QStringList many;
+    for (int i = 0; i < 2000; ++i)
+        many.append(u"Block %1"_s.arg(i));
+    open(many);
+    QSignalSpy changes(m_model->rows(), &QAbstractItemModel::dataChanged);
+    QCOMPARE(m_model->setText(id(1000), u"x"_s), u"x"_s);
+    finishTurn();
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes[0][0].toModelIndex().row(), 1000);
+    QCOMPARE(changes[0][2].value<QList<int>>().size(), 1);
+    QVERIFY(isTouched());
+    QVERIFY(m_workspace.saved().contains(u"\"text\":\"x\""_s));
+}
+
+void PageEditorViewModelTest::breaksPastedLines()
+{
+    openBlocks({QVariantMap{{u"text"_s, u"ab"_s}, {u"type"_s, u"quote"_s}},
+                QVariantMap{{u"text"_s, u"x"_s}, {u"type"_s, u"code"_s}}});
+    QSignalSpy changes(&m_workspace.store(), &WorkspaceStore::pagesChanged);
+    QCOMPARE(m_model->setText(id(0), u"a1\n2b"_s), u"a1"_s);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(texts(), u"a1|2b|x"_s);
+    QCOMPARE(page().content[0].type, BlockType::quote);
+    QCOMPARE(page().content[1].type, BlockType::paragraph);
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{1, 1}));
+    m_model->setText(id(2), u"x\ny"_s);
+    QCOMPARE(texts(), u"a1|2b|x\ny"_s);
+}
+
+void PageEditorViewModelTest::keepsUnknownLanguages()
+{
+    openBlocks({QVariantMap{{u"type"_s, u"code"_s}, {u"language"_s, u"cobol"_s}}});
+    QCOMPARE(role(0, "language").toString(), u"cobol"_s);
+    m_model->setLanguage(id(0), u"fortran"_s);
+    QCOMPARE(page().content[0].language, u"cobol"_s);
+    m_model->setLanguage(id(0), u"python"_s);
+    QCOMPARE(page().content[0].language, u"python"_s);
+}
+
+void PageEditorViewModelTest::standsStillWithoutItsPage()
+{
+    open({u"a"_s});
+    const QUuid block = id(0);
+    m_workspace.store().erase<Page>(m_page);
+    finishTurn();
+    m_model->insertBlock(block);
+    m_model->deleteBlock(block);
+    m_model->changeType(block, 1);
+    QCOMPARE(m_model->setText(block, u"b"_s), u"b"_s);
+    m_model->runInlineCode(block);
+    finishTurn();
+    QVERIFY(m_workspace.store().pages().isEmpty());
+    QCOMPARE(role(0, "blockText").toString(), u"a"_s);
+    QVERIFY(m_focus->isEmpty());
+}
+
+void PageEditorViewModelTest::dropsTheRunsOfDeletedBlocks()
+{
+    openBlocks({QVariantMap{{u"type"_s, u"code"_s}}, QVariantMap{{u"type"_s, u"code"_s}}});
+    const QPointer<CodeRun> gone = m_model->codeRun(id(0));
+    const QPointer<CodeRun> kept = m_model->codeRun(id(1));
+    QCOMPARE(m_model->codeRun(id(0)), gone.get());
+    m_model->deleteBlock(id(0));
+    finishTurn();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!gone);
+    QVERIFY(kept);
+}
+
+QTEST_MAIN(PageEditorViewModelTest)
+#include "tst_pageeditorviewmodel.moc"

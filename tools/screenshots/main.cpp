@@ -3,6 +3,7 @@
 
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
+#include "SamplePages.h"
 #include "SampleWorkspace.h"
 #include "ScratchWorkspace.h"
 
@@ -192,6 +193,57 @@ QList<Picture> onboardingPictures()
     return pictures;
 }
 
+/// The editor alone, after a script has done something in it.
+QByteArray editorPage(const QByteArray &script)
+{
+    return "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Pages\nimport Orvel.Session\n"
+           "Item { OVBackground { anchors.fill: parent }\n"
+           "PageEditorView { id: view; anchors.fill: parent; focus: true; pageID: Orvel.ui.selection.id }\n"
+           "Timer { interval: 200; running: true; onTriggered: { " +
+           script + " } } }";
+}
+
+QList<Picture> pagePictures()
+{
+    const auto on = [](QUuid (*make)(WorkspaceStore &)) {
+        return [make](WorkspaceStore &store, UIState &ui) {
+            SampleWorkspace::fill(store);
+            ui.selectPage(make(store));
+        };
+    };
+    const Content every = on(SamplePages::everyBlock);
+    const Content workshop = on(SamplePages::workshop);
+    const Content empty = on([](WorkspaceStore &store) { return store.newPage(PageKind::page); });
+    const Content many = on(SamplePages::manyBlocks);
+    const QSize tall(1240, 1600);
+    QList<Picture> pictures;
+    const auto add = [&](const QByteArray &name, const QByteArray &page, QSize size, const Content &content,
+                         const Look &look) {
+        pictures.append({QStringLiteral("page-") + QString::fromLatin1(name), page, size, content, look});
+    };
+    for (const auto &[name, look] : looks())
+        add("every-" + name.toLatin1(), windowPage, tall, every, look);
+    add("every-small", windowPage, smallSize, every, light);
+    add("every-small-huge", windowPage, smallSize, every, both(dark, huge));
+    add("empty", windowPage, windowSize, empty, light);
+    add("many",
+        editorPage("view.list.positionViewAtIndex(1000, ListView.Beginning); "
+                   "view.list.focusBlock(1005, 3)"),
+        windowSize, many, light);
+    const QByteArray run =
+        "for (let i = 1; i < 4; ++i) view.editor.runInlineCode(view.list.rowAt(i).blockID)";
+    for (const auto &[name, look] : looks()) {
+        add("run-" + name.toLatin1(), editorPage(run), windowSize, workshop, look);
+        add("slash-" + name.toLatin1(), editorPage("view.list.focusBlock(0, 1)"), windowSize, workshop, look);
+    }
+    add("slash-low", editorPage("view.list.focusBlock(5, 1)"), smallSize, workshop, light);
+    add("menu", editorPage("const row = view.list.rowAt(4); view.list.openMenu(row, row)"), windowSize,
+        workshop, light);
+    add("zen", editorPage("view.editor.isZen = true"), windowSize, every, light);
+    add("zen-dark", editorPage("view.editor.isZen = true"), windowSize, every, dark);
+    return pictures;
+}
+
 /// Lets bindings, animations and images settle.
 void settle(int milliseconds)
 {
@@ -247,7 +299,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     for (const Picture &picture :
-         galleryPictures() + onboardingPictures() + shellPictures() + tasksPictures()) {
+         galleryPictures() + onboardingPictures() + pagePictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

@@ -10,6 +10,8 @@ FocusScope {
 
     required property var pageID
     readonly property string title: editor.title
+    readonly property alias editor: editor
+    readonly property alias list: list
 
     Accessible.name: title
     Accessible.role: Accessible.Pane

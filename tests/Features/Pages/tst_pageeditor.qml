@@ -363,7 +363,7 @@ Item {
             open(blocks)
             mouseClick(named("Run code", OVIconButton))
             one(item => item.text === "Succeeded")
-            const list = one(item => item instanceof BlockList)
+            const list = root.view.list
             list.positionViewAtEnd()
             tryVerify(() => all(root.parent, item => item instanceof CodeConsole).length === 0)
             list.positionViewAtBeginning()
@@ -402,7 +402,7 @@ Item {
         function test_zen() {
             open(["one", "/two"])
             edit("/two")
-            const editor = one(item => item instanceof BlockList).editor
+            const editor = root.view.editor
             editor.isZen = true
             tryVerify(() => all(root.parent, item => item instanceof OVSecondaryButton).length === 1)
             at("/two", 4)
@@ -434,7 +434,7 @@ Item {
             for (let i = 0; i < 30; ++i)
                 keyClick(Qt.Key_Down)
             at("Block 35", 7)
-            const list = one(item => item instanceof BlockList)
+            const list = root.view.list
             verify(list.contentY > 0)
             const caret = focused().mapToItem(list, 0, focused().cursorRectangle.y).y
             verify(caret > 0 && caret < list.height)

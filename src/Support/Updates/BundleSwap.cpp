@@ -2,6 +2,7 @@
 
 #include "Foundation/AtomicFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 
@@ -22,6 +23,8 @@ std::expected<void, QString> BundleSwap::start(const QString &target, const QStr
     QProcess process;
     process.setProgram(u"/bin/sh"_s);
     process.setArguments({path, target, staged, work, QString::number(processId)});
+    // The current folder may lie in the bundle that goes.
+    process.setWorkingDirectory(QDir::homePath());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

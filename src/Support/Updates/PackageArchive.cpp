@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <QtEndian>
 
 #include <algorithm>
 #include <archive.h>
@@ -23,17 +24,41 @@ using Reader =
 
 /// So that a tiny archive of much the same bytes is not taken for a bomb.
 constexpr qint64 bytesBeforeRatioCounts = 1 << 20;
+/// Of one name.
+constexpr qsizetype mostNameBytes = 1024;
 
 std::unexpected<QString> refusal(const QString &reason)
 {
     return std::unexpected(reason);
 }
 
+/// Whether the directory at the end of the archive is small: the reader holds it in memory, several times its
+/// size.
+bool hasSmallDirectory(const QString &archive, qint64 mostBytes)
+{
+    constexpr qsizetype endSize = 22, longestComment = 65535;
+    QFile file(archive);
+    if (!file.open(QIODevice::ReadOnly) ||
+        !file.seek(qMax<qint64>(0, file.size() - endSize - longestComment)))
+        return false;
+    const qint64 tailStart = file.pos();
+    const QByteArray tail = file.readAll();
+    const qsizetype end = tail.chopped(qMin(tail.size(), endSize - 4)).lastIndexOf("PK\5\6");
+    if (end < 0)
+        return false;
+    // The larger form is for archives that no package grows into.
+    if (end >= 20 && tail.sliced(end - 20).startsWith("PK\6\7"))
+        return false;
+    const qint64 size = qFromLittleEndian<quint32>(tail.constData() + end + 12);
+    const qint64 start = qFromLittleEndian<quint32>(tail.constData() + end + 16);
+    return size <= mostBytes && tailStart + end - start <= mostBytes;
+}
+
 /// The parts of a name that stays inside; empty for any other.
 QStringList partsOf(const QByteArray &name)
 {
     const QString text = QString::fromUtf8(name);
-    if (text.toUtf8() != name || text.contains(u'\0'))
+    if (name.size() > mostNameBytes || text.toUtf8() != name || text.contains(u'\0'))
         return {};
     QStringList parts = text.split(u'/');
     // A folder's name ends in a slash.
@@ -152,6 +177,9 @@ private:
 Result PackageArchive::unpack(const QString &archive, const QString &folder, const std::stop_token &stop,
                               const Limits &limits)
 {
+    constexpr qint64 bytesOfAnEntry = 200 + mostNameBytes;
+    if (!hasSmallDirectory(archive, limits.entries * bytesOfAnEntry))
+        return refusal(u"There is no directory of a plain archive, or a huge one."_s);
     const qint64 packed = QFileInfo(archive).size();
     const qint64 bytes = std::min(limits.bytes, bytesBeforeRatioCounts + packed * limits.ratio);
     return std::make_unique<Unpacking>(folder, bytes, limits.entries, stop)->run(archive);

@@ -16,9 +16,18 @@ log() {
     logger -p user.notice -t Orvel-update "$1" 2>/dev/null
 }
 
-version_of() {
+# info_of BUNDLE KEY
+info_of() {
     tr '\n' ' ' 2>/dev/null <"$1/Contents/Info.plist" |
-        sed -n 's|.*<key>CFBundleShortVersionString</key>[[:space:]]*<string>\([^<]*\)</string>.*|\1|p'
+        sed -n "s|.*<key>$2</key>[[:space:]]*<string>\\([^<]*\\)</string>.*|\\1|p"
+}
+
+version_of() {
+    info_of "$1" CFBundleShortVersionString
+}
+
+build_of() {
+    info_of "$1" CFBundleVersion
 }
 
 # Whether the process still runs the installed program, and not a stranger with the same number or name.
@@ -33,9 +42,10 @@ is_running() {
 exec 9<"${target%/*}"
 flock 9
 
-staged_version=$(version_of "$staged")
-if [ -n "$staged_version" ] && [ "$staged_version" = "$(version_of "$target")" ]; then
-    log "swap: target already at $staged_version"
+version=$(version_of "$staged")
+if [ -n "$version" ] && [ "$version" = "$(version_of "$target")" ] &&
+    [ "$(build_of "$staged")" = "$(build_of "$target")" ]; then
+    log "swap: target already at $version"
     rm -rf "$backup" "$work"
     exit 0
 fi

@@ -168,6 +168,36 @@ private slots:
         QVERIFY(!QFile::exists(marks()));
     }
 
+    void takesANewBuildOfTheSameVersion()
+    {
+        const auto number = [](const QByteArray &build) {
+            return TestPackage::infoPlist("1.0").replace("</dict>", "<key>CFBundleVersion</key><string>" +
+                                                                        build + "</string></dict>");
+        };
+        put(target() + u"/Contents/Info.plist"_s, number("7"));
+        for (const QByteArray &build : {"8"_ba, "8"_ba}) {
+            stage("1.0");
+            put(staged() + u"/Contents/Info.plist"_s, number(build));
+            QCOMPARE(run(), 0);
+        }
+        QVERIFY(log().contains("swap: target already at 1.0\n"));
+        QCOMPARE(AppBundle::info(target(), u"CFBundleVersion"), u"8"_s);
+        QTRY_COMPARE(contents(marks()), "1.0\n"_ba);
+    }
+
+    void leavesTheLockToTheNextSwap()
+    {
+        put(AppBundle::programPath(staged()),
+            "#!/bin/sh\n[ \"$1\" = --exchange ] && exec '" + path(u"tools/exchange"_s).toUtf8() +
+                "' \"$@\"\nfor each in /proc/$$/fd/*; do readlink $each; done >'" + marks().toUtf8() +
+                "'\necho end >>'" + marks().toUtf8() + "'\n",
+            0755);
+        QCOMPARE(run(), 0);
+        QTRY_VERIFY(contents(marks()).endsWith("end\n"));
+        QVERIFY2(!contents(marks()).contains(path(u"apps\n"_s).toUtf8()), contents(marks()).constData());
+        QVERIFY(contents(marks()).contains("/dev/null\n"));
+    }
+
     void leavesAWholeProgramWhereverItIsKilled()
     {
         QCOMPARE(run(), 0);
@@ -198,7 +228,8 @@ private slots:
         QTest::addColumn<QString>("program");
         QTest::addColumn<QString>("afterThreeSleeps");
         QTest::addColumn<int>("sleeps");
-        QTest::newRow("ends in time") << u"apps/Orvel.app/Contents/bin/sleeper"_s << u"kill -9 %1"_s << 3;
+        QTest::newRow("ends in time") << u"apps/Orvel.app/Contents/bin/sleeper"_s
+                                      << u"kill -9 %1; while readlink /proc/%1/exe; do :; done"_s << 3;
         QTest::newRow("never ends") << u"apps/Orvel.app/Contents/bin/sleeper"_s << QString() << 20;
         QTest::newRow("a stranger of the same name")
             << u"other/Orvel.app/Contents/bin/orvel"_s << QString() << 0;

@@ -6,6 +6,7 @@
 #include "Support/Updates/PathExchange.h"
 #include "Support/Updates/StagingFolder.h"
 #include "Support/Updates/UpdateLog.h"
+#include "Support/Updates/UpdateRequest.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -42,13 +43,10 @@ public:
             return;
         }
         m_folder = std::move(*folder);
-        QNetworkRequest request(m_update.downloadURL);
-        request.setHeader(QNetworkRequest::UserAgentHeader, m_surroundings.userAgent);
-        request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
         auto *const download = new PackageDownload(
             *m_surroundings.network, m_surroundings.wait, m_surroundings.limits, m_progress,
             [this](const std::expected<QByteArray, QString> &hash) { downloaded(hash); }, this);
-        download->start(request, archivePath());
+        download->start(UpdateRequest::to(m_update.downloadURL, m_surroundings.userAgent), archivePath());
     }
 
 private:

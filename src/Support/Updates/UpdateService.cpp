@@ -1,6 +1,7 @@
 #include "Support/Updates/UpdateService.h"
 
 #include "Support/Updates/UpdateLog.h"
+#include "Support/Updates/UpdateRequest.h"
 
 #include <QPointer>
 
@@ -80,13 +81,9 @@ void UpdateService::check(bool manual)
         checked(std::unexpected(u"Bad update address."_s), manual);
         return;
     }
-    QNetworkRequest request(address);
-    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent(m_options.version));
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     const auto done = [this, manual](const ManifestRequest::Result &result) { checked(result, manual); };
-    (new ManifestRequest(*m_options.network, m_options.wait, m_options.limits, done, this))->start(request);
+    (new ManifestRequest(*m_options.network, m_options.wait, m_options.limits, done, this))
+        ->start(UpdateRequest::to(address, userAgent(m_options.version)));
 }
 
 void UpdateService::checked(const ManifestRequest::Result &result, bool manual)

@@ -6,6 +6,8 @@ install(FILES data/com.orvel.workspace.desktop DESTINATION "${CMAKE_INSTALL_DATA
 install(FILES data/com.orvel.workspace.metainfo.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES data/com.orvel.workspace.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+# The icons are part of the program, and their licence goes with them.
+install(FILES "${ORVEL_ICON_PACKAGE}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME LICENSE.icons)
 
 # A self-contained copy is the same below Orvel.app/Contents, with this beside it; see scripts/package.
 configure_file(data/Info.plist.in Info.plist @ONLY)

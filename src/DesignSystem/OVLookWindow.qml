@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 
-/// A window drawn small in the colours of a look: its sidebar, a title and a card of two rows.
+/// A window drawn small in the colours of a look: its sidebar, a title and a card of rows.
 Rectangle {
     id: root
 
@@ -111,7 +111,7 @@ Rectangle {
             spacing: Math.round(root.gap * 1.1)
 
             Repeater {
-                model: [13, 9]
+                model: [13, 9, 11]
 
                 Row {
                     id: row

@@ -16,6 +16,8 @@ install_into("${prefix}" --component bundle)
 foreach(piece
         Info.plist
         bin/orvel
+        share/doc/Orvel/LICENSE
+        share/doc/Orvel/LICENSE.icons
         share/applications/com.orvel.workspace.desktop
         share/icons/hicolor/scalable/apps/com.orvel.workspace.svg
         share/metainfo/com.orvel.workspace.metainfo.xml)

@@ -25,7 +25,7 @@ OVPressable {
         spacing: Theme.space8
 
         OVLookPreview {
-            height: Math.round(width * 0.66)
+            height: Math.round(width * 0.8)
             looks: root.looks
             width: parent.width
         }

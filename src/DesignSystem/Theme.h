@@ -108,6 +108,7 @@ class Theme : public QObject
     Q_PROPERTY(int iconHeader READ iconHeader NOTIFY changed FINAL)
     Q_PROPERTY(int iconTile READ iconTile NOTIFY changed FINAL)
     Q_PROPERTY(int iconEmpty READ iconEmpty NOTIFY changed FINAL)
+    Q_PROPERTY(int iconPage READ iconPage NOTIFY changed FINAL)
 
     // Controls
     Q_PROPERTY(int buttonHeight READ buttonHeight NOTIFY changed FINAL)
@@ -227,6 +228,7 @@ public:
     int iconHeader() const { return scaled(20); }
     int iconTile() const { return scaled(24); }
     int iconEmpty() const { return scaled(40); }
+    int iconPage() const { return scaled(58); }
 
     int buttonHeight() const { return control(34); }
     int fieldHeight() const { return control(36); }

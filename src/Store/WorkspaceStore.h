@@ -114,6 +114,10 @@ public:
     void resetEverything(bool keepOnboarding);
 
     QUuid newPage(PageKind kind);
+    void renamePage(const QUuid &pageID, const QString &title);
+    void setPageIcon(const QUuid &pageID, const QString &icon);
+    /// Makes a note of a page and a page of a note.
+    void convertPage(const QUuid &pageID);
     void toggleFavorite(const QUuid &pageID);
     void duplicatePage(const QUuid &pageID);
     /// @param folderID nothing makes the page loose

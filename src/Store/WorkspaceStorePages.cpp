@@ -22,6 +22,30 @@ QUuid WorkspaceStore::newPage(PageKind kind)
     return page.id;
 }
 
+void WorkspaceStore::renamePage(const QUuid &pageID, const QString &title)
+{
+    change<Page>(pageID, [&](Page &page) {
+        page.title = title;
+        page.updatedDate = now();
+    });
+}
+
+void WorkspaceStore::setPageIcon(const QUuid &pageID, const QString &icon)
+{
+    change<Page>(pageID, [&](Page &page) {
+        page.icon = icon;
+        page.updatedDate = now();
+    });
+}
+
+void WorkspaceStore::convertPage(const QUuid &pageID)
+{
+    change<Page>(pageID, [this](Page &page) {
+        page.kind = page.kind == PageKind::page ? PageKind::note : PageKind::page;
+        page.updatedDate = now();
+    });
+}
+
 void WorkspaceStore::toggleFavorite(const QUuid &pageID)
 {
     change<Page>(pageID, [this](Page &page) {

@@ -87,9 +87,9 @@ qsizetype PageText::wordCount(const Page &page)
     return words;
 }
 
-QString PageText::readingTimeLabel(const Page &page)
+QString PageText::readingTimeLabel(qsizetype words)
 {
     static constexpr qsizetype wordsPerMinute = 200;
-    const qsizetype minutes = (wordCount(page) + wordsPerMinute - 1) / wordsPerMinute;
+    const qsizetype minutes = (words + wordsPerMinute - 1) / wordsPerMinute;
     return QStringLiteral("%1 min read").arg(std::max<qsizetype>(minutes, 1));
 }

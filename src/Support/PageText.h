@@ -12,5 +12,9 @@ QString plainTextExport(const Page &page);
 /// Words in all blocks, code included; the title doesn't count.
 qsizetype wordCount(const Page &page);
 /// "2 min read", at 200 words a minute.
-QString readingTimeLabel(const Page &page);
+QString readingTimeLabel(qsizetype words);
+inline QString readingTimeLabel(const Page &page)
+{
+    return readingTimeLabel(wordCount(page));
+}
 } // namespace PageText

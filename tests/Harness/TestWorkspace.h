@@ -108,6 +108,23 @@ public:
         return id.toString(QUuid::WithoutBraces);
     }
 
+    /// A note with one block a line of the text.
+    Q_INVOKABLE QString addNote(const QString &title, const QString &text = QString())
+    {
+        const QUuid id = m_store.newPage(PageKind::note);
+        m_store.change<Page>(id, [&](Page &page) {
+            page.title = title;
+            page.content.clear();
+            for (const QString &line : text.split(u'\n'))
+                page.content.append(Block{.id = QUuid::createUuid(), .text = line});
+        });
+        return id.toString(QUuid::WithoutBraces);
+    }
+
+    Q_INVOKABLE void renamePage(const QString &id, const QString &title)
+    {
+        m_store.renamePage(QUuid(id), title);
+    }
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }
 
     Q_INVOKABLE QString addFolder(const QString &name)

@@ -42,12 +42,13 @@ FocusScope {
         focus: true
         parent: editor.isZen ? zen.place : place
 
-        above: PageTop {
-            editor: editor
+        above: PageHeader {
             focus: true
             pageID: root.pageID
+            titleOnly: editor.isZen
             onLeaveDown: list.focusFirst()
+            onZenRequested: editor.isZen = true
         }
-        onLeftUp: (above as PageTop).focusTitle()
+        onLeftUp: (above as PageHeader).focusTitle()
     }
 }

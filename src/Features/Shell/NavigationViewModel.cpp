@@ -1,6 +1,6 @@
 #include "Features/Shell/NavigationViewModel.h"
 
-#include "Features/Shell/PageActions.h"
+#include "Session/PageActions.h"
 #include "Support/OrvelNavigation.h"
 
 namespace

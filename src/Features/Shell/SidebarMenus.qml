@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Pages
 import Orvel.Session
 import Orvel.Shell
 

@@ -1,6 +1,6 @@
 #include "Features/Shell/SidebarViewModel.h"
 
-#include "Features/Shell/PageActions.h"
+#include "Session/PageActions.h"
 
 SidebarViewModel::PageFace::PageFace(const Page &page)
     : title(page.title),

@@ -1,19 +1,11 @@
 #include "Features/Tasks/TasksViewModel.h"
 
+#include "Foundation/LineText.h"
+
 #include <utility>
 
 namespace
 {
-/// A title stands on one line, wherever it was pasted from.
-QString singleLine(QString text)
-{
-    for (QChar &character : text)
-        if (character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator)
-            character = u' ';
-    return text;
-}
-
 template <TabledEnum Enum>
 bool isCase(int position)
 {
@@ -80,7 +72,7 @@ void TasksViewModel::addTask()
     if (!m_store || !canAdd())
         return;
     const auto due = m_dueEnabled ? std::optional(toTimestamp(m_due)) : std::nullopt;
-    m_store->newTask(singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
+    m_store->newTask(LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
     setTitle({});
     if (std::exchange(m_dueEnabled, false))
         emit dueEnabledChanged();
@@ -131,7 +123,7 @@ QStringList TasksViewModel::priorityTexts() const
 
 void TasksViewModel::renameTask(const QUuid &taskID, const QString &title)
 {
-    m_store->renameTask(taskID, singleLine(title));
+    m_store->renameTask(taskID, LineText::singleLine(title));
 }
 
 void TasksViewModel::cycleTaskStatus(const QUuid &taskID)

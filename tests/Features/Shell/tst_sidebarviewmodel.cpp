@@ -1,4 +1,4 @@
-#include "Features/Shell/PageMenuViewModel.h"
+#include "Features/Pages/PageMenuViewModel.h"
 #include "Features/Shell/SidebarViewModel.h"
 #include "Harness/TestWorkspace.h"
 

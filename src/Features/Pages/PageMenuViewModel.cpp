@@ -1,6 +1,6 @@
-#include "Features/Shell/PageMenuViewModel.h"
+#include "Features/Pages/PageMenuViewModel.h"
 
-#include "Features/Shell/PageActions.h"
+#include "Session/PageActions.h"
 
 QString PageMenuViewModel::favoriteTitle() const
 {
@@ -19,7 +19,7 @@ void PageMenuViewModel::open(const QUuid &pageID)
     if (!page)
         return;
     m_isFavorite = page->isFavorite;
-    QList<FolderChoice> choices{{{}, QStringLiteral("No folder"), !page->folderID}};
+    QList<FolderChoice> choices{{{}, m_noFolderTitle, !page->folderID}};
     for (const Folder *folder : m_store->orderedFolders())
         choices.append({folder->id, folder->name, page->folderID == folder->id});
     m_folders.setRows(choices);

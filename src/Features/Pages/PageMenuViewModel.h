@@ -29,6 +29,8 @@ class PageMenuViewModel : public QObject
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store MEMBER m_store REQUIRED FINAL)
     Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
+    /// What stands for no folder.
+    Q_PROPERTY(QString noFolderTitle MEMBER m_noFolderTitle FINAL)
     Q_PROPERTY(QString favoriteTitle READ favoriteTitle NOTIFY opened FINAL)
     Q_PROPERTY(QString favoriteSymbol READ favoriteSymbol NOTIFY opened FINAL)
     Q_PROPERTY(QAbstractItemModel *folders READ folders CONSTANT FINAL)
@@ -38,7 +40,7 @@ public:
 
     QString favoriteTitle() const;
     QString favoriteSymbol() const;
-    /// All folders in their order, "No folder" first.
+    /// All folders in their order, no folder first.
     QAbstractItemModel *folders() { return &m_folders; }
     const QList<FolderChoice> &folderList() const { return m_folders.rows(); }
 
@@ -56,6 +58,7 @@ signals:
 private:
     WorkspaceStore *m_store = nullptr;
     UIState *m_ui = nullptr;
+    QString m_noFolderTitle = QStringLiteral("No folder");
     QUuid m_pageID;
     bool m_isFavorite = false;
     KeyedListModel<FolderChoice> m_folders;

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Shell
+import Orvel.Pages
 
 /// The folders to which a page can be moved, the one it lies in with a check mark.
 OVMenu {

@@ -1,4 +1,4 @@
-#include "Features/Shell/PageActions.h"
+#include "Session/PageActions.h"
 
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
@@ -8,9 +8,9 @@ void PageActions::create(WorkspaceStore &store, UIState &ui, PageKind kind)
     ui.setSelection(Destination::page(store.newPage(kind)));
 }
 
-void PageActions::erase(WorkspaceStore &store, UIState &ui, const QUuid &pageID)
+void PageActions::erase(WorkspaceStore &store, UIState &ui, const QUuid &pageID, Destination::Kind next)
 {
     if (ui.selection() == Destination::page(pageID))
-        ui.setSelection(Destination::to(Destination::Kind::dashboard));
+        ui.setSelection(Destination::to(next));
     store.erase<Page>(pageID);
 }

@@ -1,0 +1,75 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Pages
+import Orvel.Session
+
+/// What stands above the blocks of a page.
+FocusScope {
+    id: root
+
+    required property var pageID
+
+    /// Without everything but the title.
+    property bool titleOnly: false
+
+    signal zenRequested()
+    /// The person goes on from the title to what stands below it.
+    signal leaveDown()
+
+    function focusTitle() {
+        title.cursorPosition = title.length
+        title.forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    implicitHeight: column.implicitHeight
+
+    PageHeaderViewModel {
+        id: header
+
+        pageID: root.pageID
+        store: Orvel.store
+        ui: Orvel.ui
+    }
+
+    Column {
+        id: column
+
+        bottomPadding: Theme.space24
+        topPadding: root.titleOnly ? 2 * Theme.space48 : Theme.space16
+        width: parent.width
+
+        Column {
+            bottomPadding: Theme.space8
+            spacing: Theme.space32
+            visible: !root.titleOnly
+            width: parent.width
+
+            PageTopBar {
+                header: header
+                width: parent.width
+                onZenRequested: root.zenRequested()
+            }
+
+            PageIconPicker {
+                header: header
+                x: -leftPadding
+            }
+        }
+
+        PageTitleField {
+            id: title
+
+            focus: true
+            header: header
+            width: parent.width
+            onLeaveDown: root.leaveDown()
+        }
+
+        PageMetaRow {
+            header: header
+            topPadding: Theme.space12
+            visible: !root.titleOnly
+            width: parent.width
+        }
+    }
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "Session/SessionTypes.h"
+
+#include <QTimer>
+#include <QtQml/qqmlregistration.h>
+
+/// What stands above the blocks of a page: its title, its icon and what is known about it.
+class PageHeaderViewModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
+    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
+    Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
+
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
+    Q_PROPERTY(QString icon READ icon NOTIFY iconChanged FINAL)
+    /// The icons to choose from.
+    Q_PROPERTY(QList<QString> icons READ icons CONSTANT FINAL)
+    Q_PROPERTY(bool isFavorite READ isFavorite NOTIFY isFavoriteChanged FINAL)
+    Q_PROPERTY(bool isNote READ isNote NOTIFY kindChanged FINAL)
+    Q_PROPERTY(QString kindText READ kindText NOTIFY kindChanged FINAL)
+    Q_PROPERTY(QString backText READ backText NOTIFY kindChanged FINAL)
+    Q_PROPERTY(QString convertText READ convertText NOTIFY kindChanged FINAL)
+    Q_PROPERTY(QString editedText READ editedText NOTIFY editedTextChanged FINAL)
+    /// These two follow a while after the last change.
+    Q_PROPERTY(QString wordsText READ wordsText NOTIFY countsChanged FINAL)
+    Q_PROPERTY(QString readingTimeText READ readingTimeText NOTIFY countsChanged FINAL)
+
+public:
+    /// @param countDelay from the last change of the page until its words are counted again
+    explicit PageHeaderViewModel(QObject *parent = nullptr,
+                                 std::chrono::milliseconds countDelay = std::chrono::milliseconds(300));
+
+    WorkspaceStore *store() const { return m_store; }
+    void setStore(WorkspaceStore *store);
+    QUuid pageID() const { return m_pageID; }
+    void setPageID(const QUuid &pageID);
+
+    const QString &title() const { return m_face.title; }
+    /// Gives the page this title, on one line. Returns the title that the page then has.
+    Q_INVOKABLE QString setTitle(const QString &title);
+    const QString &icon() const { return m_face.icon; }
+    Q_INVOKABLE void setIcon(const QString &icon);
+    QList<QString> icons() const;
+    bool isFavorite() const { return m_face.isFavorite; }
+    Q_INVOKABLE void toggleFavorite();
+    bool isNote() const { return m_face.kind == PageKind::note; }
+    QString kindText() const { return enumLabel(m_face.kind); }
+    QString convertText() const;
+    /// Makes a note of the page or a page of the note.
+    Q_INVOKABLE void convert();
+    const QString &editedText() const { return m_editedText; }
+    QString wordsText() const;
+    QString readingTimeText() const;
+
+    QString backText() const;
+    /// Goes to where pages of this kind are listed.
+    Q_INVOKABLE void goBack();
+    /// Goes back and deletes the page.
+    Q_INVOKABLE void deletePage();
+
+signals:
+    void storeChanged();
+    void pageIDChanged();
+    void titleChanged();
+    void iconChanged();
+    void isFavoriteChanged();
+    void kindChanged();
+    void editedTextChanged();
+    void countsChanged();
+
+private:
+    /// What the header shows of the page itself.
+    struct Face {
+        QString title;
+        QString icon;
+        PageKind kind = PageKind::page;
+        bool isFavorite = false;
+    };
+
+    const Page *page() const { return m_store ? m_store->pages().first(m_pageID) : nullptr; }
+    void pageChanged(const RecordChange &change);
+    void showAll();
+    void showFace();
+    void showEdited();
+    void count();
+
+    WorkspaceStore *m_store = nullptr;
+    UIState *m_ui = nullptr;
+    QUuid m_pageID;
+    Face m_face;
+    QString m_editedText;
+    QTimer m_countTimer;
+    qsizetype m_words = 0;
+};

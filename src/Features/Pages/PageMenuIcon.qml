@@ -1,0 +1,28 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// An icon button of the top bar that opens a menu below itself, flush with its right edge. Down opens it
+/// too.
+OVIconButton {
+    id: root
+
+    required property OVMenu menu
+
+    function open() {
+        menu.measure()
+        menu.popup(root, width - menu.width, height + Theme.space4)
+        menu.currentIndex = visualFocus ? 0 : -1
+    }
+
+    toolTip: menu.visible ? "" : text
+    Accessible.role: Accessible.ButtonMenu
+    Keys.onDownPressed: open()
+    onClicked: open()
+
+    background: HoverWash {
+        chosen: root.menu.visible
+        hovered: root.hovered
+        pressed: root.down
+        radius: root.radius
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+/// Asks the person where a file is to be saved, in the dialog of the desktop itself, which every desktop
+/// offers to programs through its portal. Where there is none, the file goes into a folder without asking.
+class SaveFileDialog : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Answer {
+        QString path;
+        /// False where the folder was taken without asking.
+        bool wasAsked = true;
+    };
+    /// Gets nothing if the person has cancelled.
+    using Receiver = std::function<void(const std::optional<Answer> &)>;
+
+    /// @param fallbackFolder is made when it is needed
+    SaveFileDialog(const QDBusConnection &bus, QString fallbackFolder, QObject *parent = nullptr);
+
+    /// @param fileName the name offered
+    /// @param receiver is called once; if the dialog is asked anew before, it is not called at all
+    void ask(const QString &fileName, Receiver receiver);
+
+    /// A path in the folder that no file has yet: "Plan.md", "Plan 2.md", ...
+    static QString freePath(const QString &folder, const QString &fileName);
+
+private slots:
+    void responded(uint response, const QVariantMap &results);
+
+private:
+    void answer(const std::optional<Answer> &answer);
+    void answerWithoutAsking();
+    void listenTo(const QString &requestPath);
+
+    QDBusConnection m_bus;
+    QString m_fallbackFolder;
+    QString m_fileName;
+    QString m_requestPath;
+    Receiver m_receiver;
+    int m_count = 0;
+};

@@ -84,3 +84,39 @@ void SampleWorkspace::manyTasks(WorkspaceStore &store)
         store.newTask(QStringLiteral("Task %1").arg(i), TaskPriority(i % 3),
                       now + std::chrono::hours(24) * (i % 30));
 }
+
+void SampleWorkspace::notes(WorkspaceStore &store, int count)
+{
+    static const QStringList titles{QStringLiteral("Groceries"),       QStringLiteral("Ideas for the garden"),
+                                    QStringLiteral("Call with Amira"), QStringLiteral("Books to read"),
+                                    QStringLiteral("Packing list"),    QStringLiteral("Talk, first outline")};
+    static const QStringList texts{
+        QStringLiteral("Oats, apples, coffee"),
+        QStringLiteral("Move the roses to the south wall before the frost. The old bench could stand by the "
+                       "pond, with lavender on both sides and a path of flat stones leading up to it."),
+        QStringLiteral("She likes the second draft better. Send the numbers by Thursday."),
+        QString(),
+        QStringLiteral("Passport, charger, rain jacket, the small camera, letters to answer on the train"),
+        QStringLiteral("Begin with the question, not the answer. Three stories: the lighthouse, the ledger, "
+                       "the long queue. End on the photograph.")};
+    static const QStringList icons{QStringLiteral("📝"), QStringLiteral("🌸"), QStringLiteral("📌"),
+                                   QStringLiteral("🔖"), QStringLiteral("🧭"), QStringLiteral("💡")};
+    for (int i = 0; i < count; ++i) {
+        const QUuid id = store.newPage(PageKind::note);
+        store.change<Page>(id, [&](Page &note) {
+            const int kind = (count - i) % int(titles.size());
+            note.title = titles.at(kind);
+            note.icon = icons.at(kind);
+            note.content.first().text = texts.at(kind);
+            note.updatedDate -= std::chrono::hours(7) * (count - i);
+            if (count - i == 2)
+                note.title = QStringLiteral("A title that goes on and on ").repeated(8).left(200);
+            if (count - i == 4)
+                note.content.first().text = QStringLiteral("Averyveryverylongwordwithoutanygap").repeated(9);
+            if (count - i == 5) {
+                note.title.clear();
+                note.content.first().text = QStringLiteral("قراءة الكتاب الجديد ").repeated(12);
+            }
+        });
+    }
+}

@@ -11,4 +11,6 @@ void fill(WorkspaceStore &store);
 void crowd(WorkspaceStore &store);
 /// Ten thousand tasks, with long, right-to-left and empty titles among the first.
 void manyTasks(WorkspaceStore &store);
+/// As many notes, with long and empty ones among the last.
+void notes(WorkspaceStore &store, int count);
 } // namespace SampleWorkspace

@@ -116,6 +116,24 @@ QList<Picture> tasksPictures()
     };
 }
 
+QList<Picture> notesPictures()
+{
+    const auto with = [](int count) {
+        return [count](WorkspaceStore &store, UIState &ui) {
+            SampleWorkspace::notes(store, count);
+            ui.select(QStringLiteral("notes"));
+        };
+    };
+    return {
+        {QStringLiteral("notes-empty"), windowPage, windowSize, with(0), light},
+        {QStringLiteral("notes-few"), windowPage, windowSize, with(5), light},
+        {QStringLiteral("notes-many"), windowPage, windowSize, with(300), light},
+        {QStringLiteral("notes-many-dark"), windowPage, windowSize, with(300), dark},
+        {QStringLiteral("notes-many-small-huge"), windowPage, smallSize, with(300), both(light, huge)},
+        {QStringLiteral("notes-many-wide"), windowPage, {1920, 1080}, with(300), light},
+    };
+}
+
 QList<Picture> shellPictures()
 {
     const auto on = [](const char *place, void (*fill)(WorkspaceStore &)) {
@@ -215,6 +233,11 @@ QList<Picture> pagePictures()
     const Content workshop = on(SamplePages::workshop);
     const Content empty = on([](WorkspaceStore &store) { return store.newPage(PageKind::page); });
     const Content many = on(SamplePages::manyBlocks);
+    const Content longTitle = on([](WorkspaceStore &store) {
+        const QUuid id = store.newPage(PageKind::note);
+        store.renamePage(id, QStringLiteral("A title that goes on and on ").repeated(8).left(200));
+        return id;
+    });
     const QSize tall(1240, 1600);
     QList<Picture> pictures;
     const auto add = [&](const QByteArray &name, const QByteArray &page, QSize size, const Content &content,
@@ -226,6 +249,8 @@ QList<Picture> pagePictures()
     add("every-small", windowPage, smallSize, every, light);
     add("every-small-huge", windowPage, smallSize, every, both(dark, huge));
     add("empty", windowPage, windowSize, empty, light);
+    add("long-title", windowPage, windowSize, longTitle, light);
+    add("long-title-small-huge", windowPage, smallSize, longTitle, both(dark, huge));
     add("many",
         editorPage("view.list.positionViewAtIndex(1000, ListView.Beginning); "
                    "view.list.focusBlock(1005, 3)"),
@@ -298,8 +323,8 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture :
-         galleryPictures() + onboardingPictures() + pagePictures() + shellPictures() + tasksPictures()) {
+    for (const Picture &picture : galleryPictures() + notesPictures() + onboardingPictures() +
+                                      pagePictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

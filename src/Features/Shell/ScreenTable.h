@@ -18,6 +18,7 @@ struct Screen {
 
 inline constexpr auto screens = std::to_array<Screen>({
     {Destination::Kind::page, "Orvel/Pages/PageEditorView.qml", "pageID"},
+    {Destination::Kind::notes, "Orvel/Notes/NotesView.qml", {}},
     {Destination::Kind::tasks, "Orvel/Tasks/TasksView.qml", {}},
 });
 

@@ -1,0 +1,96 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// A card of a `ScreenGrid`, which can be pressed and takes the focus as a whole. Its parts are no stops for
+/// Tab.
+FocusScope {
+    id: root
+
+    required property int index
+    readonly property ScreenGrid grid: GridView.view as ScreenGrid
+    readonly property bool visualFocus: activeFocus && (grid?.focusVisible ?? false)
+    readonly property bool hovered: pointer.hovered
+    default property alias content: face.data
+
+    signal clicked()
+
+    activeFocusOnTab: activeFocus
+    height: grid?.cellHeight ?? 0
+    width: grid?.cellWidth ?? 0
+
+    GridView.onAdd: {
+        if (!grid.opening)
+            entry.start()
+    }
+    GridView.onRemove: removal.start()
+    Keys.onBacktabPressed: grid.leftBackwards()
+    Keys.onPressed: event => {
+        if (grid.moveFocus(event.key))
+            event.accepted = true
+    }
+    onActiveFocusChanged: {
+        if (activeFocus)
+            grid.currentIndex = index
+    }
+
+    OVAppear {
+        id: appear
+
+        animated: root.grid?.opening ?? false
+        height: root.grid?.cardHeight ?? 0
+        index: Math.max(0, root.index)
+        width: root.grid?.cardWidth ?? 0
+        // From the place in the view's cells to the place in the column; continuous, so that it can glide.
+        x: root.grid ? Math.round(root.grid.columnX + root.x * (root.grid.pitch / root.grid.cellWidth - 1)) : 0
+
+        Rectangle {
+            id: face
+
+            anchors.fill: parent
+            border.color: pointer.hovered ? Theme.ovBorderStrong : Theme.ovBorder
+            border.width: Theme.lineWidth
+            color: press.pressed ? Theme.ovSubtle : Theme.ovSurface
+            radius: Theme.cornerCard
+            scale: press.pressed ? 0.98 : 1
+
+            Behavior on scale {
+                NumberAnimation { duration: Theme.durationHover; easing.type: Easing.OutCubic }
+            }
+
+            OVFocusRing {
+                shown: root.visualFocus
+                targetRadius: face.radius
+            }
+
+            HoverHandler {
+                id: pointer
+                cursorShape: Qt.PointingHandCursor
+            }
+
+            TapHandler {
+                id: press
+                gesturePolicy: TapHandler.WithinBounds
+                onTapped: root.clicked()
+            }
+        }
+    }
+
+    NumberAnimation {
+        id: entry
+        target: appear
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: Theme.durationScreen
+    }
+
+    SequentialAnimation {
+        id: removal
+        PropertyAction { target: root; property: "GridView.delayRemove"; value: true }
+        ParallelAnimation {
+            NumberAnimation { target: appear; property: "opacity"; to: 0; duration: Theme.durationRemoval }
+            NumberAnimation { target: appear; property: "scale"; to: 0.96; duration: Theme.durationRemoval }
+        }
+        PropertyAction { target: root; property: "GridView.delayRemove"; value: false }
+    }
+}

@@ -1,0 +1,100 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Notes
+
+/// A note on the grid: a click or Return opens it, Delete takes it away.
+ScreenGridCard {
+    id: card
+
+    required property NotesViewModel viewModel
+    required property var noteID
+    required property string icon
+    required property string title
+    required property string preview
+    required property bool isBlank
+    required property string dateText
+
+    function remove() {
+        viewModel.deleteNote(noteID)
+    }
+
+    Accessible.name: qsTr("%1, %2, %3").arg(title).arg(preview).arg(dateText)
+    Accessible.role: Accessible.Button
+    Accessible.onPressAction: viewModel.openNote(noteID)
+    Keys.onPressed: event => {
+        switch (event.key) {
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            viewModel.openNote(noteID)
+            break
+        case Qt.Key_Delete:
+            remove()
+            break
+        default:
+            return
+        }
+        event.accepted = true
+    }
+    onClicked: viewModel.openNote(noteID)
+
+    OVEmoji {
+        id: mark
+        size: Theme.iconTile
+        text: card.icon
+        x: Theme.space16
+        y: Theme.space16
+    }
+
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.space16
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space16
+        anchors.top: mark.bottom
+        anchors.topMargin: Theme.space12
+        spacing: Theme.space4
+
+        OVText {
+            font.weight: Font.DemiBold
+            maximumLineCount: 1
+            text: card.title
+            width: parent.width
+            Accessible.ignored: true
+        }
+
+        OVText {
+            color: card.isBlank ? Theme.ovInkTertiary : Theme.ovInkSecondary
+            maximumLineCount: 4
+            role: OVText.Dense
+            text: card.preview
+            width: parent.width
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+
+    OVText {
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.space16
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.space16
+        role: OVText.Caption
+        text: card.dateText
+        Accessible.ignored: true
+    }
+
+    OVIconButton {
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space8
+        anchors.top: parent.top
+        anchors.topMargin: Theme.space8
+        activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
+        iconSize: Theme.iconRow
+        symbol: "trash"
+        text: qsTr("Delete")
+        visible: card.hovered || card.visualFocus
+        onClicked: card.remove()
+    }
+}

@@ -1,0 +1,63 @@
+#include "Features/Notes/NotesSearch.h"
+
+#include "Store/Questions.h"
+#include "Store/SearchSignatures.h"
+
+#include <QDeadlineTimer>
+
+#include <algorithm>
+
+namespace
+{
+bool holds(const Page &note, const QString &folded)
+{
+    const auto isIn = [&folded](const QString &text) { return text.toLower().contains(folded); };
+    const auto isInBlock = [&isIn](const Block &block) { return isIn(block.text); };
+    if (isIn(note.title) || std::ranges::any_of(note.content, isInBlock))
+        return true;
+    // Between the texts of two blocks stands a blank.
+    return folded.contains(u' ') && isIn(note.previewText());
+}
+} // namespace
+
+QList<const Page *> NotesSearch::filtered(const QString &query) const
+{
+    const QString folded = query.trimmed().toLower();
+    if (folded.isEmpty())
+        return m_store.notes();
+    TextSignature signature;
+    signature.add(folded);
+    const auto isFound = [&](const Page &page) {
+        if (page.kind != PageKind::note)
+            return false;
+        const Known *const known = find(page);
+        return (!known || known->signature.mayHold(signature)) && holds(page, folded);
+    };
+    return Questions::newestFirst(Questions::where(m_store.pages(), isFound), &Page::updatedDate);
+}
+
+const NotesSearch::Known *NotesSearch::find(const Page &note) const
+{
+    const auto found = m_known.constFind(note.id);
+    return found != m_known.cend() && sharesTexts(found->note, note) ? &*found : nullptr;
+}
+
+bool NotesSearch::prepare(std::chrono::milliseconds budget)
+{
+    const QDeadlineTimer deadline(budget);
+    m_known.removeIf([this](const std::pair<const QUuid &, Known &> &entry) {
+        const Page *const page = m_store.pages().first(entry.first);
+        return !page || page->kind != PageKind::note;
+    });
+    for (const Page &page : m_store.pages()) {
+        if (page.kind != PageKind::note || find(page))
+            continue;
+        if (deadline.hasExpired())
+            return false;
+        Known known{page, {}};
+        for (const QString &text : searchedTexts(page))
+            known.signature.add(text.toLower());
+        m_known.insert(page.id, std::move(known));
+    }
+    return true;
+}

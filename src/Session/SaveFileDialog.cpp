@@ -31,6 +31,13 @@ SaveFileDialog::SaveFileDialog(const QDBusConnection &bus, QString fallbackFolde
 {
 }
 
+SaveFileDialog::~SaveFileDialog()
+{
+    if (m_receiver)
+        m_bus.send(QDBusMessage::createMethodCall(service, m_requestPath, requestInterface,
+                                                  QStringLiteral("Close")));
+}
+
 QString SaveFileDialog::freePath(const QString &folder, const QString &fileName)
 {
     const QFileInfo name(fileName);

@@ -24,6 +24,8 @@ public:
 
     /// @param fallbackFolder is made when it is needed
     SaveFileDialog(const QDBusConnection &bus, QString fallbackFolder, QObject *parent = nullptr);
+    /// Closes a dialog that is still open.
+    ~SaveFileDialog() override;
 
     /// @param fileName the name offered
     /// @param receiver is called once; if the dialog is asked anew before, it is not called at all

@@ -15,6 +15,8 @@ class PageHeaderViewModel : public QObject
     Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
 
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
+    /// Whether the page still has the title that it was made with.
+    Q_PROPERTY(bool isUnnamed READ isUnnamed NOTIFY titleChanged FINAL)
     Q_PROPERTY(QString icon READ icon NOTIFY iconChanged FINAL)
     /// The icons to choose from.
     Q_PROPERTY(QList<QString> icons READ icons CONSTANT FINAL)
@@ -41,6 +43,7 @@ public:
     const QString &title() const { return m_face.title; }
     /// Gives the page this title, on one line. Returns the title that the page then has.
     Q_INVOKABLE QString setTitle(const QString &title);
+    bool isUnnamed() const { return m_face.title == Page().title; }
     const QString &icon() const { return m_face.icon; }
     Q_INVOKABLE void setIcon(const QString &icon);
     QList<QString> icons() const;

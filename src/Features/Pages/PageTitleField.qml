@@ -8,7 +8,7 @@ OVTextField {
 
     required property PageHeaderViewModel header
 
-    /// The person goes on from the title, with Return or down from its last line.
+    /// The person goes on from the title, with Return, Tab or down from its last line.
     signal leaveDown()
 
     /// Shows the title as it is stored, with the caret in place.
@@ -38,7 +38,12 @@ OVTextField {
     wrapMode: TextInput.Wrap
     Accessible.name: qsTr("Title")
 
-    Component.onCompleted: show(header.title)
+    Component.onCompleted: {
+        show(header.title)
+        cursorPosition = length
+        if (header.isUnnamed)
+            selectAll()
+    }
     Keys.onDownPressed: event => {
         event.accepted = !inputMethodComposing && (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier
         if (event.accepted && !moveLine(1))
@@ -54,6 +59,7 @@ OVTextField {
         if (event.accepted)
             leaveDown()
     }
+    Keys.onTabPressed: leaveDown()
     Keys.onUpPressed: event => {
         event.accepted = !inputMethodComposing && (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier
                          && moveLine(-1)

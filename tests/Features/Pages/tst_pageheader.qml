@@ -49,7 +49,7 @@ Item {
         function open(pageID) {
             Orvel.ui.select("page/" + pageID.toUpperCase())
             root.header = createTemporaryObject(head, root, { pageID: pageID })
-            root.header.focusTitle()
+            root.header.forceActiveFocus()
             waitForRendering(root.header)
             leaving.clear()
             zen.clear()
@@ -106,7 +106,6 @@ Item {
             open(Workspace.addPage("Plan"))
             const field = find("Title")
             verify(field.activeFocus)
-            keyClick(Qt.Key_End)
             type("s 2")
             compare(page().title, "Plans 2")
             keyClick(Qt.Key_Z, Qt.ControlModifier)
@@ -115,6 +114,14 @@ Item {
             keyClick(Qt.Key_Delete)
             compare(page().title, "")
             verify(find("Untitled") || field.placeholderText === "Untitled")
+        }
+
+        function test_aFirstTitleIsReplaced() {
+            open(Workspace.addPage("Untitled"))
+            type("a")
+            compare(page().title, "a")
+            keyClick(Qt.Key_Tab)
+            compare(leaving.count, 1)
         }
 
         function test_titleStaysOneLine() {
@@ -167,6 +174,7 @@ Item {
             const id = Workspace.addPage("Plan")
             open(id)
             type("x")
+            compare(page().title, "Planx")
             const field = find("Title")
             field.cursorPosition = 2
             Workspace.renamePage(id, "Plan of the day")

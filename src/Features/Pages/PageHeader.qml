@@ -23,6 +23,9 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
 
+    // The focus must not stay in what is hidden.
+    onTitleOnlyChanged: title.focus = true
+
     PageHeaderViewModel {
         id: header
 

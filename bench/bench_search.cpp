@@ -1,11 +1,11 @@
 #include "Foundation/SystemClock.h"
 #include "Harness/Comparison.h"
+#include "Harness/WorkspaceGenerator.h"
 #include "Store/WorkspaceSearch.h"
 
 #include <QCoreApplication>
 
 #include <cstdio>
-#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -13,19 +13,6 @@ namespace
 {
 constexpr int pageCount = 100'000;
 constexpr qsizetype pageLength = 1024;
-
-Page pageOf(std::mt19937 &random, int number)
-{
-    static const QStringList words =
-        u"the quiet morning letter draft of a river garden paper Plan meeting notes with review and "
-        "project chapter steady work light window for Zoë café walk read write again before"_s.split(u' ');
-    QString text;
-    while (text.size() < pageLength)
-        text += words[qsizetype(random() % std::size_t(words.size()))] + u' ';
-    return {.id = QUuid::createUuid(),
-            .title = u"Page %1"_s.arg(number),
-            .content = {{.id = QUuid::createUuid(), .text = text.left(pageLength)}}};
-}
 
 qsizetype plainScan(const WorkspaceStore &store, const QString &query)
 {
@@ -46,9 +33,8 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     const SystemClock clock;
     WorkspaceStore store({.filePath = u"/nowhere/workspace.json"_s, .clock = &clock});
-    std::mt19937 random(3);
-    for (int i = 0; i < pageCount; ++i)
-        store.append(pageOf(random, i));
+    for (const Page &page : WorkspaceGenerator::longPages(pageCount, pageLength))
+        store.append(page);
 
     Comparison comparison;
     WorkspaceSearch search(store);

@@ -191,3 +191,23 @@ Snapshot WorkspaceGenerator::ofTasksAndPages(int tasks, int pages)
         workspace.pages.append(generator.page(i % 3 == 0 ? PageKind::note : PageKind::page, 6));
     return workspace;
 }
+
+QList<Page> WorkspaceGenerator::longPages(int count, qsizetype length)
+{
+    static const QStringList vocabulary =
+        QStringLiteral(
+            "the quiet morning letter draft of a river garden paper Plan meeting notes with review "
+            "and project chapter steady work light window for Zoë café walk read write again before")
+            .split(u' ');
+    std::mt19937 random(3);
+    QList<Page> pages;
+    for (int i = 0; i < count; ++i) {
+        QString text;
+        while (text.size() < length)
+            text += vocabulary[qsizetype(random() % std::size_t(vocabulary.size()))] + u' ';
+        pages.append({.id = QUuid::createUuid(),
+                      .title = QStringLiteral("Page %1").arg(i),
+                      .content = {{.id = QUuid::createUuid(), .text = text.left(length)}}});
+    }
+    return pages;
+}

@@ -11,4 +11,7 @@ Snapshot ofFileSize(qsizetype bytes);
 
 /// Nothing but these.
 Snapshot ofTasksAndPages(int tasks, int pages);
+
+/// Pages titled "Page 0" and so on, each with one text of this length in units.
+QList<Page> longPages(int count, qsizetype length);
 } // namespace WorkspaceGenerator

@@ -1,6 +1,6 @@
 #include "App/OrvelCommands.h"
 
-#include "Features/Shell/KeyText.h"
+#include "DesignSystem/KeyText.h"
 #include "Support/OVQuotes.h"
 
 #include <QRandomGenerator>
@@ -70,9 +70,8 @@ QList<OrvelMenu> OrvelCommands::menus()
     for (const Entry &entry : table()) {
         if (menus.isEmpty() || menus.last().title != entry.menu)
             menus.append({entry.menu, {}});
-        menus.last().commands.append({entry.id, entry.title, entry.keys,
-                                      KeyText::of(QKeySequence(entry.keys)),
-                                      entry.group == Entry::Group::next});
+        menus.last().commands.append(
+            {entry.id, entry.title, entry.keys, KeyText::of(entry.keys), entry.group == Entry::Group::next});
     }
     return menus;
 }

@@ -18,6 +18,6 @@ Item {
     OVToolTip {
         shown: pointer.hovered && root.label.truncated
         target: root
-        text: root.label.text
+        text: root.label.plainText
     }
 }

@@ -3,13 +3,18 @@ import QtQuick.Templates as T
 import Orvel.DesignSystem
 
 /// A surface over the dimmed window for a task of its own: Escape or a click beside it closes it, Tab stays
-/// inside, and the focus returns to where it was. Content taller than the window scrolls.
+/// inside, and the focus returns to where it was. Content taller than the window scrolls, also by keys that what
+/// has the focus makes no use of.
 T.Popup {
     id: sheet
 
     readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: sheet }
     property string title: ""
     property string accessibleName: title
+    /// A line below the title.
+    property string subtitle: ""
+    /// Stands above the content and stays when that scrolls.
+    property alias pinned: pinnedColumn.data
     /// The widest the sheet becomes.
     property real maximumWidth: Theme.sheetWidth
     default property alias content: column.data
@@ -20,7 +25,8 @@ T.Popup {
     x: Math.round((parent.width - width) / 2)
     y: Math.round((parent.height - height) / 2) + rise
     width: Math.min(maximumWidth, parent.width - 2 * Theme.space24)
-    height: Math.min(header.height + column.height + topPadding + bottomPadding, parent.height - 2 * Theme.space24)
+    height: Math.min(header.height + pinnedColumn.height + column.height + topPadding + bottomPadding,
+                     parent.height - 2 * Theme.space24)
     padding: Theme.space24
     modal: true
     focus: true
@@ -35,11 +41,14 @@ T.Popup {
         focus: true
         Accessible.role: Accessible.Dialog
         Accessible.name: sheet.accessibleName
+        Accessible.description: sheet.subtitle
+        Keys.onPressed: event => event.accepted = flickable.scroll(event.key)
 
         Item {
             id: header
             width: parent.width
-            height: sheet.title !== "" ? Math.max(Theme.iconButtonSize, titleText.implicitHeight) + Theme.space16 : 0
+            height: sheet.title === "" ? 0 : Math.max(Theme.iconButtonSize, titleText.implicitHeight) + Theme.space16
+                    + (sheet.subtitle !== "" ? subtitleText.implicitHeight : 0)
             visible: sheet.title !== ""
 
             OVText {
@@ -49,6 +58,17 @@ T.Popup {
                 height: closeButton.height
                 text: sheet.title
                 role: OVText.CardTitle
+            }
+
+            OVText {
+                id: subtitleText
+                anchors.top: titleText.bottom
+                visible: text !== ""
+                width: parent.width
+                color: Theme.ovInkSecondary
+                role: OVText.Dense
+                text: sheet.subtitle
+                wrapMode: Text.Wrap
             }
 
             OVIconButton {
@@ -61,9 +81,34 @@ T.Popup {
             }
         }
 
+        Column {
+            id: pinnedColumn
+            anchors.top: header.bottom
+            bottomPadding: children.length > 0 ? Theme.space16 : 0
+            spacing: Theme.space12
+            width: parent.width
+        }
+
         Flickable {
             id: flickable
-            anchors.top: header.bottom
+
+            function scroll(key: int): bool {
+                const end = Math.max(0, contentHeight - height)
+                const steps = {
+                    [Qt.Key_Up]: -Theme.space48,
+                    [Qt.Key_Down]: Theme.space48,
+                    [Qt.Key_PageUp]: -height,
+                    [Qt.Key_PageDown]: height,
+                    [Qt.Key_Home]: -end,
+                    [Qt.Key_End]: end
+                }
+                if (end === 0 || !(key in steps))
+                    return false
+                contentY = Math.max(0, Math.min(end, contentY + steps[key]))
+                return true
+            }
+
+            anchors.top: pinnedColumn.bottom
             anchors.bottom: parent.bottom
             width: parent.width
             contentWidth: width

@@ -8,6 +8,8 @@ Text {
     enum Role { Body, Dense, Caption, Section, CardTitle, ScreenTitle, Tile, Code }
 
     property int role: OVText.Body
+    /// The whole text as the tooltip shows it: without the marks of a styled text.
+    property string plainText: text
     property Item elisionTip: null
 
     onTruncatedChanged: {
@@ -36,6 +38,6 @@ Text {
     lineHeight: wrapMode === Text.NoWrap ? 1 : 1.35
     textFormat: Text.PlainText
     verticalAlignment: Text.AlignVCenter
-    Accessible.name: text
+    Accessible.name: plainText
     Accessible.role: Accessible.StaticText
 }

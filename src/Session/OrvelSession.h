@@ -15,6 +15,7 @@ class OrvelSession : public QObject
     Q_PROPERTY(WorkspaceStore *store READ store CONSTANT FINAL)
     Q_PROPERTY(UIState *ui READ ui CONSTANT FINAL)
     Q_PROPERTY(UpdateService *updates READ updates CONSTANT FINAL)
+    Q_PROPERTY(PreparedSearch *search READ search CONSTANT FINAL)
 
 public:
     /// The objects outlive the session, and the session outlives the engine.
@@ -28,9 +29,11 @@ public:
     WorkspaceStore *store() const { return m_store; }
     UIState *ui() const { return m_ui; }
     UpdateService *updates() const { return m_updates; }
+    PreparedSearch *search() { return &m_search; }
 
 private:
     WorkspaceStore *m_store;
     UIState *m_ui;
     UpdateService *m_updates;
+    PreparedSearch m_search;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Foundation/Clock.h"
+#include "Store/PreparedSearch.h"
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
 #include "Support/Updates/UpdateService.h"
@@ -27,6 +28,13 @@ struct UpdateServiceType {
     QML_FOREIGN(UpdateService)
     QML_NAMED_ELEMENT(UpdateService)
     QML_UNCREATABLE("The application makes the update service.")
+};
+
+struct PreparedSearchType {
+    Q_GADGET
+    QML_FOREIGN(PreparedSearch)
+    QML_NAMED_ELEMENT(PreparedSearch)
+    QML_UNCREATABLE("The session makes the search.")
 };
 
 struct ClockType {

@@ -40,9 +40,16 @@ template <typename Record>
 class SearchSignatures
 {
 public:
+    /// Has the next `follow` look for changes.
+    void listChanged() { m_isCurrent = false; }
+
     /// Brings the entries in line with the list; what is new or changed has no signature until `signature`.
     void follow(const RecordList<Record> &list)
     {
+        if (m_isCurrent && list.size() == qsizetype(m_entries.size()))
+            return;
+        m_isCurrent = true;
+        m_next = 0;
         const QList<Record> &records = list.all();
         std::size_t i = 0;
         for (; i < std::size_t(records.size()); ++i) {
@@ -69,15 +76,16 @@ public:
         return entry.signature;
     }
 
-    /// Makes missing signatures until the deadline; true once none is missing.
+    /// Makes missing signatures until the deadline, but one at least; true once none is missing.
     bool makeUntil(const QDeadlineTimer &deadline)
     {
-        for (std::size_t i = 0; i < m_entries.size(); ++i) {
-            if (!m_entries[i]->isMade && deadline.hasExpired())
-                return false;
-            signature(qsizetype(i));
+        while (m_next < m_entries.size()) {
+            const bool isMissing = !m_entries[m_next]->isMade;
+            signature(qsizetype(m_next++));
+            if (isMissing && deadline.hasExpired())
+                break;
         }
-        return true;
+        return m_next == m_entries.size();
     }
 
 private:
@@ -87,4 +95,7 @@ private:
         bool isMade = false;
     };
     std::vector<std::unique_ptr<Entry>> m_entries;
+    /// Before this place no signature is missing.
+    std::size_t m_next = 0;
+    bool m_isCurrent = false;
 };

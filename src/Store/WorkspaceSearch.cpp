@@ -176,6 +176,13 @@ private:
 };
 } // namespace
 
+WorkspaceSearch::WorkspaceSearch(const WorkspaceStore &store) : m_store(store)
+{
+    QObject::connect(&store, &WorkspaceStore::pagesChanged, &m_listener, [this] { m_pages.listChanged(); });
+    QObject::connect(&store, &WorkspaceStore::codeDocumentsChanged, &m_listener,
+                     [this] { m_codeDocuments.listChanged(); });
+}
+
 QList<SearchResult> WorkspaceSearch::search(const QString &query)
 {
     const QString folded = query.trimmed().toLower();

@@ -9,14 +9,14 @@
 ///
 /// Long texts have signatures that are made on the way, or ahead of time by `prepare`. A signature is used
 /// only for the very contents it was made from, so that results are always those of a plain look at
-/// everything.
+/// everything. It hears of changes by the store's signals: make it before what searches in answer to one.
 class WorkspaceSearch
 {
 public:
     static constexpr qsizetype mostResults = 40;
 
     /// @param store lives longer than the search
-    explicit WorkspaceSearch(const WorkspaceStore &store) : m_store(store) {}
+    explicit WorkspaceSearch(const WorkspaceStore &store);
 
     /// The records that hold the query, case aside; none for a blank one.
     QList<SearchResult> search(const QString &query);
@@ -28,4 +28,6 @@ private:
     const WorkspaceStore &m_store;
     SearchSignatures<Page> m_pages;
     SearchSignatures<CodeDocument> m_codeDocuments;
+    /// Ends the connections to the store with the search.
+    QObject m_listener;
 };

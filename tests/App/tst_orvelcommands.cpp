@@ -1,5 +1,7 @@
 #include "App/OrvelCommands.h"
 #include "Harness/ManualClock.h"
+#include "Support/OVQuotes.h"
+#include "Support/OVShortcuts.h"
 #include "Support/OrvelNavigation.h"
 
 #include <QKeySequence>
@@ -77,6 +79,17 @@ private slots:
             const QKeySequence sequence(command.keys, QKeySequence::PortableText);
             QVERIFY2(sequence.count() == 1 && sequence[0].key() != Qt::Key_unknown, qPrintable(command.keys));
         }
+    }
+
+    void theKeysShownAreTheKeysBound()
+    {
+        const auto commands = OrvelCommands::commands();
+        for (const ShortcutItem &shown : OVShortcuts::all()) {
+            const auto bound = std::ranges::find(commands, shown.id, &OrvelCommand::id);
+            QVERIFY2(bound != commands.end(), qPrintable(shown.id));
+            QCOMPARE(bound->keys, shown.portableKeys());
+        }
+        QCOMPARE(OVShortcuts::all().size(), 22);
     }
 
     void newThingsAreMadeAndShown()

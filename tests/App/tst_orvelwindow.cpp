@@ -92,6 +92,9 @@ private:
         press(u"Ctrl+Shift+T"_s);
         press(u"Ctrl+Shift+S"_s);
         QVERIFY(!ui().isSidebarVisible());
+        ui().setRandomQuote(std::nullopt);
+        press(u"Ctrl+Shift+Q"_s);
+        QVERIFY(ui().randomQuote());
         press(u"Ctrl+/"_s);
         QVERIFY(ui().isShortcutsPresented());
         ui().setShortcutsPresented(false);

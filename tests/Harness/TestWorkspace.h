@@ -156,6 +156,11 @@ public:
     {
         m_store.changeSettings([&](AppSettings &settings) { settings.workspaceName = name; });
     }
+    /// Everything happens at once.
+    Q_INVOKABLE void stopMotion()
+    {
+        m_store.changeSettings([](AppSettings &settings) { settings.reducedMotion = true; });
+    }
     Q_INVOKABLE void hideModule(const QString &raw)
     {
         m_store.changeSettings(

@@ -1,5 +1,5 @@
 #include "Harness/ManualClock.h"
-#include "Store/WorkspaceSearch.h"
+#include "Store/PreparedSearch.h"
 
 #include <QtTest>
 
@@ -195,6 +195,22 @@ private slots:
         QVERIFY(pieces > 1);
         QCOMPARE(search.search(u"text to look"_s).size(), 40);
         QVERIFY(search.search(u"text to like"_s).isEmpty());
+    }
+
+    void isPreparedByTheTurnsOfTheLoop()
+    {
+        const auto store = open();
+        for (int i = 0; i < 500; ++i)
+            store->add(page(u"p"_s, {u"some text to look at "_s.repeated(20)}));
+        PreparedSearch search(*store, {0ms, 0ms, 0ms});
+        QVERIFY(!search.isReady());
+        QTRY_VERIFY(search.isReady());
+        store->change<Page>(store->pages().all().last().id, [](Page &page) { page.title = u"moon"_s; });
+        QVERIFY(!search.isReady());
+        QCOMPARE(search.search(u"moon"_s).size(), 1);
+        QTRY_VERIFY(search.isReady());
+        store->erase<Page>(store->pages().all().first().id);
+        QCOMPARE(search.search(u"moon"_s).size(), 1);
     }
 };
 

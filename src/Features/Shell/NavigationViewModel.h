@@ -1,10 +1,11 @@
 #pragma once
 
-#include "Features/Shell/KeyText.h"
+#include "DesignSystem/KeyText.h"
 #include "Features/Shell/ModuleTab.h"
 #include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
 #include "Session/SessionTypes.h"
+#include "Support/OVShortcuts.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -53,11 +54,11 @@ public:
     const QList<ModuleTab> &tabList() const { return m_tabs.rows(); }
     const QList<ModuleTab> &inlineTabList() const { return m_inlineTabs.rows(); }
 
-    QString searchKeys() const { return KeyText::search(); }
-    QString newPageKeys() const { return KeyText::newPage(); }
-    QString newNoteKeys() const { return KeyText::newNote(); }
-    QString shortcutsKeys() const { return KeyText::shortcuts(); }
-    QString settingsKeys() const { return KeyText::settings(); }
+    QString searchKeys() const { return keysOf(u"palette"); }
+    QString newPageKeys() const { return keysOf(u"newPage"); }
+    QString newNoteKeys() const { return keysOf(u"newNote"); }
+    QString shortcutsKeys() const { return keysOf(u"shortcuts"); }
+    QString settingsKeys() const { return keysOf(u"settings"); }
 
     Q_INVOKABLE void newPage();
     Q_INVOKABLE void newNote();
@@ -70,6 +71,7 @@ signals:
     void chosenTabChanged();
 
 private:
+    static QString keysOf(QStringView shortcut) { return KeyText::of(OVShortcuts::portableKeys(shortcut)); }
     void followSettings();
     void followSelection();
     void findChosenTab();

@@ -1,8 +1,8 @@
 #include "Features/Shell/OverflowMenuViewModel.h"
 
-#include "Features/Shell/RecordIcon.h"
 #include "Features/Shell/SidebarRows.h"
 #include "Support/OrvelNavigation.h"
+#include "Support/RecordIcon.h"
 
 namespace
 {

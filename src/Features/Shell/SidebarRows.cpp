@@ -1,10 +1,11 @@
 #include "Features/Shell/SidebarRows.h"
 
-#include "Features/Shell/KeyText.h"
-#include "Features/Shell/RecordIcon.h"
+#include "DesignSystem/KeyText.h"
 #include "Store/Questions.h"
 #include "Store/WorkspaceStore.h"
+#include "Support/OVShortcuts.h"
 #include "Support/OrvelNavigation.h"
+#include "Support/RecordIcon.h"
 
 namespace
 {
@@ -59,12 +60,12 @@ void addQuickActions(QList<SidebarRow> &rows)
                  .kind = Kind::search,
                  .title = QStringLiteral("Search"),
                  .symbol = QStringLiteral("magnifyingglass"),
-                 .detail = KeyText::search()});
+                 .detail = KeyText::of(OVShortcuts::portableKeys(u"palette"))});
     rows.append({.id = namedRowID(QStringLiteral("newPage")),
                  .kind = Kind::newPage,
                  .title = QStringLiteral("New page"),
                  .symbol = QStringLiteral("square.and.pencil"),
-                 .detail = KeyText::newPage()});
+                 .detail = KeyText::of(OVShortcuts::portableKeys(u"newPage"))});
 }
 
 SidebarRow moduleRow(OrvelModule module, const WorkspaceStore &store)

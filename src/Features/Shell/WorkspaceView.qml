@@ -1,8 +1,9 @@
 import QtQuick
+import Orvel.Session
 import Orvel.Shell
 
-/// Everything in the window once the onboarding is done, in layers: the shell, the palette over it, and a presented
-/// deck over both.
+/// Everything in the window once the onboarding is done, in layers: the shell, a presented deck over it, and over both
+/// the palette and the sheet of shortcuts, which float.
 FocusScope {
     id: root
 
@@ -11,17 +12,20 @@ FocusScope {
         focus: true
     }
 
-    // The palette, while `Orvel.ui.isSearchPresented`.
-    Item {
-        anchors.fill: parent
-        z: 2
-    }
-
     // The presenter, while `Orvel.ui.presentingDeckID` names a deck.
     Item {
         anchors.fill: parent
         z: 3
     }
 
-    // The shortcuts sheet, open while `Orvel.ui.isShortcutsPresented`.
+    // Made ahead, so that it opens with the next frame.
+    Loader {
+        asynchronous: true
+        source: "../Palette/CommandPalette.qml"
+    }
+
+    Loader {
+        active: Orvel.ui.isShortcutsPresented || status === Loader.Ready
+        source: "../Palette/ShortcutsSheet.qml"
+    }
 }

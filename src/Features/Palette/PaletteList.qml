@@ -1,0 +1,110 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.DesignSystem
+import Orvel.Palette
+
+/// What the palette offers. The focus stays in the field; the highlight is moved by its keys, and by the pointer once
+/// that really moves.
+ListView {
+    id: list
+
+    required property PaletteViewModel palette
+    readonly property int rowHeight: Theme.fieldHeight
+    readonly property int headerHeight: Theme.chipHeight
+    readonly property int naturalHeight: palette.count === 0 ? 0 : palette.count * rowHeight
+                                         + palette.groupCount * headerHeight + topMargin + bottomMargin
+
+    /// Moves the highlight as the key says; false for a key that is the field's.
+    function moveHighlight(event: KeyEvent): bool {
+        const page = Math.max(1, Math.floor(height / rowHeight) - 1)
+        // The ends of the text are the field's, as long as there is a text.
+        const isWhole = palette.query === "" || (event.modifiers & Qt.ControlModifier)
+        switch (event.key) {
+        case Qt.Key_Up:
+        case Qt.Key_Backtab:
+            palette.step(-1)
+            return true
+        case Qt.Key_Down:
+        case Qt.Key_Tab:
+            palette.step(1)
+            return true
+        case Qt.Key_PageUp:
+            palette.jump(-page)
+            return true
+        case Qt.Key_PageDown:
+            palette.jump(page)
+            return true
+        case Qt.Key_Home:
+            if (isWhole)
+                palette.jump(-count)
+            return isWhole
+        case Qt.Key_End:
+            if (isWhole)
+                palette.jump(count)
+            return isWhole
+        }
+        return false
+    }
+
+    /// Brings the highlighted row into view.
+    function reveal() {
+        if (palette.highlighted <= 0)
+            positionViewAtBeginning()
+        else if (palette.highlighted === count - 1)
+            positionViewAtEnd()
+        else
+            positionViewAtIndex(palette.highlighted, ListView.Contain)
+    }
+
+    boundsBehavior: Flickable.StopAtBounds
+    bottomMargin: Theme.space8
+    clip: contentHeight + topMargin + bottomMargin > height
+    currentIndex: -1
+    keyNavigationEnabled: false
+    model: palette.rows
+    reuseItems: true
+    topMargin: Theme.space8
+    Accessible.name: qsTr("Results")
+    Accessible.role: Accessible.List
+    T.ScrollBar.vertical: OVScrollBar { }
+
+    delegate: PaletteRow {
+        headerHeight: list.headerHeight
+        highlighted: index === list.palette.highlighted
+        rowHeight: list.rowHeight
+        width: list.width
+        onTriggered: list.palette.open(index)
+    }
+
+    Connections {
+        target: list.palette
+
+        function onRowsChanged() {
+            list.reveal()
+        }
+        function onHighlightedChanged() {
+            list.reveal()
+        }
+    }
+
+    // A pointer that rests while rows move below it means none of them.
+    HoverHandler {
+        id: pointer
+
+        property point rest
+
+        onHoveredChanged: rest = point.scenePosition
+        onPointChanged: {
+            const place = point.scenePosition
+            if (place.x === rest.x && place.y === rest.y)
+                return
+            rest = place
+            const y = list.contentY + list.mapFromItem(null, place).y
+            const row = list.itemAt(list.width / 2, y) as PaletteRow
+            if (row && y - row.y >= row.height - list.rowHeight)
+                list.palette.highlighted = row.index
+        }
+    }
+}

@@ -1,0 +1,108 @@
+import QtQuick
+import Orvel.DesignSystem
+
+/// One place that the palette can open, below the header of its group where it is the first.
+Item {
+    id: row
+
+    required property int index
+    required property string header
+    /// As `Text.StyledText`.
+    required property string title
+    required property string name
+    required property string subtitle
+    required property string symbol
+    required property string emoji
+    required property string keys
+    property bool highlighted: false
+    property int headerHeight
+    property int rowHeight
+
+    signal triggered()
+
+    height: rowHeight + (header !== "" ? headerHeight : 0)
+    Accessible.name: subtitle !== "" ? name + ", " + subtitle : name
+    Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
+    Accessible.selected: highlighted
+    Accessible.onPressAction: triggered()
+
+    OVText {
+        height: row.headerHeight
+        role: OVText.Section
+        text: row.header
+        visible: text !== ""
+        width: parent.width - 2 * x
+        x: Theme.space16 + Theme.space4
+        Accessible.role: Accessible.Heading
+    }
+
+    Rectangle {
+        id: body
+
+        anchors.bottom: parent.bottom
+        color: row.highlighted ? Theme.ovHover : "transparent"
+        height: row.rowHeight
+        radius: Theme.cornerField
+        width: parent.width - 2 * x
+        x: Theme.space8
+
+        TapHandler {
+            onTapped: row.triggered()
+        }
+
+        OVIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.accentIcons ? Theme.accent : row.highlighted ? Theme.ovInk : Theme.ovInkSecondary
+            symbol: row.emoji === "" ? row.symbol : ""
+            x: Theme.space12
+        }
+
+        OVEmoji {
+            anchors.verticalCenter: parent.verticalCenter
+            clip: implicitWidth > width
+            text: row.emoji
+            width: Theme.iconRow
+            x: Theme.space12
+        }
+
+        OVText {
+            id: titleText
+
+            readonly property real room: keysText.x - x - Theme.space12
+
+            anchors.verticalCenter: parent.verticalCenter
+            maximumLineCount: 1
+            plainText: row.name
+            text: row.title
+            textFormat: Text.StyledText
+            width: Math.min(implicitWidth, row.subtitle !== "" ? Math.max(room * 0.6, room - subtitleText.implicitWidth - Theme.space12) : room)
+            x: Theme.space12 + Theme.iconRow + Theme.space12
+            Accessible.ignored: true
+        }
+
+        OVText {
+            id: subtitleText
+
+            anchors.baseline: titleText.baseline
+            color: Theme.ovInkSecondary
+            maximumLineCount: 1
+            role: OVText.Dense
+            text: row.subtitle
+            width: keysText.x - x - Theme.space12
+            x: titleText.x + titleText.width + Theme.space12
+            Accessible.ignored: true
+        }
+
+        OVText {
+            id: keysText
+
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInkTertiary
+            role: OVText.Caption
+            text: row.keys
+            x: parent.width - width - (text !== "" ? Theme.space12 : 0)
+            Accessible.ignored: true
+        }
+    }
+}

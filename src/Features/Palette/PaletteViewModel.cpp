@@ -1,0 +1,100 @@
+#include "Features/Palette/PaletteViewModel.h"
+
+#include "Features/Palette/PaletteRows.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+void PaletteViewModel::setUi(UIState *ui)
+{
+    if (m_ui == ui)
+        return;
+    if (m_ui)
+        m_ui->disconnect(this);
+    m_ui = ui;
+    // Who goes somewhere by a key is done with the palette.
+    if (m_ui)
+        connect(m_ui, &UIState::selectionChanged, this, [this] { m_ui->setSearchPresented(false); });
+    emit sourcesChanged();
+}
+
+void PaletteViewModel::setQuery(const QString &query)
+{
+    if (m_query == query)
+        return;
+    const bool asksTheSame = m_query.trimmed() == query.trimmed();
+    m_query = query;
+    emit queryChanged();
+    if (!asksTheSame)
+        refresh();
+}
+
+int PaletteViewModel::groupCount() const
+{
+    return int(std::ranges::count_if(rowList(), [](const PaletteRow &row) { return !row.header.isEmpty(); }));
+}
+
+bool PaletteViewModel::isNothingFound() const
+{
+    return rowList().isEmpty() && !m_query.trimmed().isEmpty();
+}
+
+QString PaletteViewModel::nothingFoundText() const
+{
+    return tr("Nothing matches “%1”.").arg(m_query.trimmed());
+}
+
+void PaletteViewModel::setHighlighted(int row)
+{
+    if (row == m_highlighted || row < 0 || row >= count())
+        return;
+    m_highlighted = row;
+    emit highlightedChanged();
+}
+
+QString PaletteViewModel::highlightedText() const
+{
+    const PaletteRow row = rowList().value(m_highlighted);
+    return row.subtitle.isEmpty() ? row.name : row.name + u", "_s + row.subtitle;
+}
+
+void PaletteViewModel::begin()
+{
+    if (!m_query.isEmpty()) {
+        m_query.clear();
+        emit queryChanged();
+    }
+    refresh();
+}
+
+void PaletteViewModel::step(int rows)
+{
+    if (count() > 0)
+        setHighlighted(((m_highlighted + rows) % count() + count()) % count());
+}
+
+void PaletteViewModel::jump(int rows)
+{
+    if (count() > 0)
+        setHighlighted(std::clamp(m_highlighted + rows, 0, count() - 1));
+}
+
+void PaletteViewModel::open(int row)
+{
+    if (row < 0 || row >= count())
+        return;
+    m_ui->setSelection(Destination(rowList()[row].destination));
+    m_ui->setSearchPresented(false);
+    m_ui->setShortcutsPresented(false);
+}
+
+void PaletteViewModel::refresh()
+{
+    const QString query = m_query.trimmed();
+    m_rows.setRows(query.isEmpty() ? PaletteRows::start(*m_store)
+                                   : PaletteRows::found(m_search->search(query), query));
+    m_highlighted = rowList().isEmpty() ? -1 : 0;
+    emit rowsChanged();
+    emit highlightedChanged();
+}

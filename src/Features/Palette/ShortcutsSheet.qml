@@ -1,0 +1,91 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Palette
+import Orvel.Session
+
+/// The keyboard shortcuts, by category and to be searched. Open while `Orvel.ui.isShortcutsPresented`.
+Item {
+    ShortcutsViewModel {
+        id: shortcuts
+
+        query: field.text
+    }
+
+    OVSheet {
+        id: sheet
+
+        /// The sheet keeps its height while the person searches.
+        property real wholeHeight: 0
+
+        maximumWidth: Theme.readingWidth
+        subtitle: qsTr("Move around Orvel without leaving the keys.")
+        title: qsTr("Keyboard shortcuts")
+        visible: Orvel.ui.isShortcutsPresented
+        onAboutToHide: Orvel.ui.isShortcutsPresented = false
+        onAboutToShow: field.clear()
+
+        pinned: OVSearchField {
+            id: field
+
+            focus: true
+            width: parent.width
+        }
+
+        Item {
+            height: Math.max(columns.height, sheet.wholeHeight, nothing.visible ? nothing.height : 0)
+            width: parent.width
+
+            Row {
+                id: columns
+
+                readonly property int count: width < 2 * Theme.fieldWidth + spacing ? 1 : 2
+
+                spacing: Theme.space32
+                width: parent.width
+                onHeightChanged: {
+                    if (field.length === 0)
+                        sheet.wholeHeight = height
+                }
+
+                Repeater {
+                    model: columns.count
+
+                    Column {
+                        id: column
+
+                        required property int index
+
+                        spacing: Theme.space16
+                        width: (columns.width - (columns.count - 1) * columns.spacing) / columns.count
+
+                        Repeater {
+                            model: shortcuts.groups
+
+                            ShortcutsGroup {
+                                required property int index
+                                required property var modelData
+
+                                shortcuts: modelData
+                                visible: index % columns.count === column.index
+                                width: column.width
+                            }
+                        }
+                    }
+                }
+            }
+
+            OVEmptyState {
+                id: nothing
+
+                message: qsTr("Try a different search.")
+                symbol: "keyboard"
+                title: qsTr("No shortcuts match")
+                visible: shortcuts.groups.length === 0
+                width: parent.width
+                y: Theme.space32
+            }
+        }
+    }
+}

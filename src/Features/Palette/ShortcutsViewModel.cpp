@@ -1,0 +1,58 @@
+#include "Features/Palette/ShortcutsViewModel.h"
+
+#include "DesignSystem/KeyText.h"
+#include "Support/OVShortcuts.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace
+{
+/// Whether each word of the query begins the name of one of the keys.
+bool namesKeys(const QStringList &caps, const QString &query)
+{
+    static const QRegularExpression between(QStringLiteral("[+\\s]+"));
+    const QStringList words = query.split(between, Qt::SkipEmptyParts);
+    return !words.isEmpty() && std::ranges::all_of(words, [&caps](const QString &word) {
+        return std::ranges::any_of(
+            caps, [&word](const QString &cap) { return cap.startsWith(word, Qt::CaseInsensitive); });
+    });
+}
+
+bool matches(const ShortcutItem &item, const QStringList &caps, const QString &query)
+{
+    return item.title.toLower().contains(query) || item.keys.toLower().contains(query) ||
+           namesKeys(caps, query);
+}
+
+QList<ShortcutRowGroup> groupsFor(const QString &query)
+{
+    QList<ShortcutRowGroup> groups;
+    for (const OVShortcuts::Group &group : OVShortcuts::grouped()) {
+        ShortcutRowGroup next{enumLabel(group.category), {}};
+        for (const ShortcutItem &item : group.items) {
+            const QStringList caps = KeyText::caps(item.portableKeys());
+            if (matches(item, caps, query))
+                next.rows.append({item.title, item.systemImage, caps, KeyText::of(item.portableKeys())});
+        }
+        if (!next.rows.isEmpty())
+            groups.append(next);
+    }
+    return groups;
+}
+} // namespace
+
+ShortcutsViewModel::ShortcutsViewModel(QObject *parent) : QObject(parent), m_groups(groupsFor({})) {}
+
+void ShortcutsViewModel::setQuery(const QString &query)
+{
+    if (m_query == query)
+        return;
+    m_query = query;
+    emit queryChanged();
+    if (auto next = groupsFor(query.trimmed().toLower()); next != m_groups) {
+        m_groups = std::move(next);
+        emit groupsChanged();
+    }
+}

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
@@ -29,6 +30,8 @@ struct Picture {
     QSize size;
     Content content;
     Look look;
+    /// Typed into what has the focus.
+    QString typed = {};
 };
 
 constexpr QSize windowSize(1240, 820);
@@ -269,6 +272,51 @@ QList<Picture> pagePictures()
     return pictures;
 }
 
+QList<Picture> palettePictures()
+{
+    const auto over = [](void (*fill)(WorkspaceStore &), void (UIState::*present)(bool)) {
+        return [fill, present](WorkspaceStore &store, UIState &ui) {
+            fill(store);
+            ui.select(QStringLiteral("tasks"));
+            (ui.*present)(true);
+        };
+    };
+    const Content palette = over(SampleWorkspace::fill, &UIState::setSearchPresented);
+    const Content crowd = over(SampleWorkspace::crowd, &UIState::setSearchPresented);
+    const Content sheet = over(SampleWorkspace::fill, &UIState::setShortcutsPresented);
+    QList<Picture> pictures;
+    const auto add = [&](const QString &name, const Content &content, QSize size, const Look &look,
+                         const QString &typed = {}) {
+        pictures.append({name, windowPage, size, content, look, typed});
+    };
+    for (const auto &[name, look] : looks()) {
+        const QString found = QStringLiteral("re");
+        add(QStringLiteral("palette-results-") + name, palette, windowSize, look, found);
+        add(QStringLiteral("palette-start-") + name, palette, windowSize, look);
+        add(QStringLiteral("shortcuts-") + name, sheet, windowSize, look);
+    }
+    const Look smallHuge = both(light, huge);
+    add(QStringLiteral("palette-nothing"), palette, windowSize, light, QStringLiteral("meadow"));
+    add(QStringLiteral("palette-nothing-dark"), palette, smallSize, dark, QStringLiteral("meadow"));
+    add(QStringLiteral("palette-long"), crowd, windowSize, light, QStringLiteral("on"));
+    add(QStringLiteral("palette-long-small-huge"), crowd, smallSize, smallHuge, QStringLiteral("on"));
+    add(QStringLiteral("palette-start-small"), palette, smallSize, light);
+    add(QStringLiteral("palette-start-small-huge"), palette, smallSize, smallHuge);
+    add(QStringLiteral("shortcuts-filtered"), sheet, windowSize, light, QStringLiteral("ctrl shift"));
+    add(QStringLiteral("shortcuts-none-dark"), sheet, windowSize, dark, QStringLiteral("meadow"));
+    add(QStringLiteral("shortcuts-small"), sheet, smallSize, dark);
+    add(QStringLiteral("shortcuts-small-huge"), sheet, smallSize, smallHuge);
+    return pictures;
+}
+
+void type(QWindow &window, const QString &text)
+{
+    for (const QChar letter : text) {
+        QKeyEvent press(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
+        QCoreApplication::sendEvent(&window, &press);
+    }
+}
+
 /// Lets bindings, animations and images settle.
 void settle(int milliseconds)
 {
@@ -298,6 +346,11 @@ bool draw(const Picture &picture, const QString &file)
     }
     view.show();
     settle(900);
+    if (!picture.typed.isEmpty()) {
+        view.requestActivate();
+        type(view, picture.typed);
+        settle(300);
+    }
     return view.grabWindow().save(file);
 }
 
@@ -324,7 +377,8 @@ int main(int argc, char *argv[])
         return 1;
     }
     for (const Picture &picture : galleryPictures() + notesPictures() + onboardingPictures() +
-                                      pagePictures() + shellPictures() + tasksPictures()) {
+                                      pagePictures() + palettePictures() + shellPictures() +
+                                      tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

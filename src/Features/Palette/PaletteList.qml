@@ -13,8 +13,11 @@ ListView {
     required property PaletteViewModel palette
     readonly property int rowHeight: Theme.fieldHeight
     readonly property int headerHeight: Theme.chipHeight
+    /// Above the header of every group but the first.
+    readonly property int groupGap: Theme.space8
     readonly property int naturalHeight: palette.count === 0 ? 0 : palette.count * rowHeight
-                                         + palette.groupCount * headerHeight + topMargin + bottomMargin
+                                         + palette.groupCount * (headerHeight + groupGap) - groupGap
+                                         + topMargin + bottomMargin
 
     /// Moves the highlight as the key says; false for a key that is the field's.
     function moveHighlight(event: KeyEvent): bool {
@@ -50,12 +53,15 @@ ListView {
 
     /// Brings the highlighted row into view.
     function reveal() {
-        if (palette.highlighted <= 0)
+        if (palette.highlighted <= 0) {
             positionViewAtBeginning()
-        else if (palette.highlighted === count - 1)
+            contentY = originY - topMargin
+        } else if (palette.highlighted === count - 1) {
             positionViewAtEnd()
-        else
+            contentY = Math.max(originY - topMargin, originY + contentHeight + bottomMargin - height)
+        } else {
             positionViewAtIndex(palette.highlighted, ListView.Contain)
+        }
     }
 
     boundsBehavior: Flickable.StopAtBounds
@@ -71,6 +77,7 @@ ListView {
     T.ScrollBar.vertical: OVScrollBar { }
 
     delegate: PaletteRow {
+        groupGap: index > 0 ? list.groupGap : 0
         headerHeight: list.headerHeight
         highlighted: index === list.palette.highlighted
         rowHeight: list.rowHeight

@@ -15,12 +15,13 @@ Item {
     required property string emoji
     required property string keys
     property bool highlighted: false
+    property int groupGap
     property int headerHeight
     property int rowHeight
 
     signal triggered()
 
-    height: rowHeight + (header !== "" ? headerHeight : 0)
+    height: rowHeight + (header !== "" ? groupGap + headerHeight : 0)
     Accessible.name: subtitle !== "" ? name + ", " + subtitle : name
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
@@ -34,6 +35,7 @@ Item {
         visible: text !== ""
         width: parent.width - 2 * x
         x: Theme.space16 + Theme.space4
+        y: row.groupGap
         Accessible.role: Accessible.Heading
     }
 
@@ -70,13 +72,14 @@ Item {
             id: titleText
 
             readonly property real room: keysText.x - x - Theme.space12
+            readonly property real subtitleRoom: row.subtitle !== "" ? Math.min(room * 0.4, subtitleText.implicitWidth + Theme.space12) : 0
 
             anchors.verticalCenter: parent.verticalCenter
             maximumLineCount: 1
             plainText: row.name
             text: row.title
             textFormat: Text.StyledText
-            width: Math.min(implicitWidth, row.subtitle !== "" ? Math.max(room * 0.6, room - subtitleText.implicitWidth - Theme.space12) : room)
+            width: room - subtitleRoom
             x: Theme.space12 + Theme.iconRow + Theme.space12
             Accessible.ignored: true
         }
@@ -90,7 +93,7 @@ Item {
             role: OVText.Dense
             text: row.subtitle
             width: keysText.x - x - Theme.space12
-            x: titleText.x + titleText.width + Theme.space12
+            x: titleText.x + Math.ceil(titleText.contentWidth) + Theme.space12
             Accessible.ignored: true
         }
 

@@ -41,6 +41,15 @@ Item {
                 id: columns
 
                 readonly property int count: width < 2 * Theme.fieldWidth + spacing ? 1 : 2
+                /// For each group the column that it goes to, which is the shortest so far.
+                readonly property var places: {
+                    const lengths = Array(count).fill(0)
+                    return shortcuts.groups.map(group => {
+                        const column = lengths.indexOf(Math.min(...lengths))
+                        lengths[column] += group.rows.length + 1
+                        return column
+                    })
+                }
 
                 spacing: Theme.space32
                 width: parent.width
@@ -68,7 +77,7 @@ Item {
                                 required property var modelData
 
                                 shortcuts: modelData
-                                visible: index % columns.count === column.index
+                                visible: columns.places[index] === column.index
                                 width: column.width
                             }
                         }

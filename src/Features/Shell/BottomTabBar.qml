@@ -40,6 +40,7 @@ FocusScope {
             height: more.implicitHeight
             model: navigationModel.inlineTabs
             spacing: Theme.space8
+            tabCount: navigationModel.inlineTabCount
             tabWidth: more.implicitWidth
 
             delegate: BottomTab {

@@ -51,9 +51,10 @@ FocusScope {
             TabStrip {
                 anchors.verticalCenter: parent.verticalCenter
                 chosenTab: navigationModel.chosenTab
-                clip: interactive
+                ground: Theme.ovSurface
                 height: search.implicitHeight
                 model: navigationModel.tabs
+                tabCount: navigationModel.tabCount
                 tabWidth: search.implicitWidth
                 width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
 

@@ -49,8 +49,11 @@ void NavigationViewModel::followSettings()
 {
     const AppSettings &settings = m_store->settings();
     const QList<OrvelModule> visible = settings.visibleModules();
+    const auto counts = std::pair(tabCount(), inlineTabCount());
     m_tabs.setRows(tabsOf(visible));
     m_inlineTabs.setRows(tabsOf(OrvelNavigation::splitTabs(visible).inlineModules));
+    if (counts != std::pair(tabCount(), inlineTabCount()))
+        emit tabCountChanged();
     const auto before = std::tuple(m_style, m_workspaceName, m_workspaceIcon);
     m_style = enumRawText(settings.theme.navigation);
     m_workspaceName = OrvelNavigation::windowTitle(settings);

@@ -29,6 +29,8 @@ class NavigationViewModel : public QObject
     /// All visible modules, and those with a tab of their own in the bottom bar.
     Q_PROPERTY(QAbstractItemModel *tabs READ tabs CONSTANT FINAL)
     Q_PROPERTY(QAbstractItemModel *inlineTabs READ inlineTabs CONSTANT FINAL)
+    Q_PROPERTY(int tabCount READ tabCount NOTIFY tabCountChanged FINAL)
+    Q_PROPERTY(int inlineTabCount READ inlineTabCount NOTIFY tabCountChanged FINAL)
     Q_PROPERTY(QString searchKeys READ searchKeys CONSTANT FINAL)
     Q_PROPERTY(QString newPageKeys READ newPageKeys CONSTANT FINAL)
     Q_PROPERTY(QString newNoteKeys READ newNoteKeys CONSTANT FINAL)
@@ -51,6 +53,8 @@ public:
     bool isMoreChosen() const { return m_chosenTab >= m_inlineTabs.rows().size(); }
     QAbstractItemModel *tabs() { return &m_tabs; }
     QAbstractItemModel *inlineTabs() { return &m_inlineTabs; }
+    int tabCount() const { return int(m_tabs.rows().size()); }
+    int inlineTabCount() const { return int(m_inlineTabs.rows().size()); }
     const QList<ModuleTab> &tabList() const { return m_tabs.rows(); }
     const QList<ModuleTab> &inlineTabList() const { return m_inlineTabs.rows(); }
 
@@ -69,6 +73,7 @@ signals:
     void changed();
     void selectionChanged();
     void chosenTabChanged();
+    void tabCountChanged();
 
 private:
     static QString keysOf(QStringView shortcut) { return KeyText::of(OVShortcuts::portableKeys(shortcut)); }

@@ -1,16 +1,19 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// A row of tabs that scrolls where it needs more room. Tab reaches it as a whole; within it the arrows go from tab
-/// to tab.
+/// A row of tabs that scrolls where it needs more room, and fades where tabs go on. Tab reaches it as a whole; within it
+/// the arrows go from tab to tab.
 ListView {
     id: root
 
     /// The tab to be kept in sight; -1 for none.
     property int chosenTab: -1
 
-    /// Width of each tab, where all have one.
+    /// Width of each tab, and their number, where all have one width.
     property int tabWidth: 0
+    property int tabCount: 0
+    /// What the strip stands on; tabs fade into it.
+    property color ground: Theme.ovSidebar
 
     function goTo(tab: int) {
         if (tab < 0 || tab >= count)
@@ -36,7 +39,9 @@ ListView {
     cacheBuffer: 4000
     currentIndex: -1
     highlightFollowsCurrentItem: false
-    implicitWidth: count * (tabWidth + spacing) - spacing
+    clip: interactive
+    // The view's own count changes while it takes its width.
+    implicitWidth: Math.max(0, tabCount * (tabWidth + spacing) - spacing)
     interactive: contentWidth > width
     keyNavigationEnabled: false
     orientation: ListView.Horizontal
@@ -55,6 +60,40 @@ ListView {
 
     Keys.onLeftPressed: goTo(currentIndex - 1)
     Keys.onRightPressed: goTo(currentIndex + 1)
+
+    component Fade: Rectangle {
+        id: fade
+
+        property bool atEnd: false
+
+        height: root.height
+        parent: root
+        width: Theme.space32
+        x: atEnd ? root.width - width : 0
+        z: 1
+
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+
+            GradientStop {
+                color: Qt.alpha(root.ground, fade.atEnd ? 0 : 1)
+                position: 0
+            }
+            GradientStop {
+                color: Qt.alpha(root.ground, fade.atEnd ? 1 : 0)
+                position: 1
+            }
+        }
+    }
+
+    Fade {
+        visible: root.contentX - root.originX > 1
+    }
+
+    Fade {
+        atEnd: true
+        visible: root.contentX - root.originX < root.contentWidth - root.width - 1
+    }
 
     // The wheel of a mouse turns the strip too.
     WheelHandler {

@@ -12,32 +12,46 @@ Item {
     width: 900
     height: 600
 
-    OVTextField { id: outside }
+    Component {
+        id: scene
 
-    OVSheet {
-        id: other
-        title: "Other"
-        OVTextField { id: inOther; focus: true }
+        Item {
+            property alias outside: outside
+            property alias other: other
+            property alias inOther: inOther
+
+            anchors.fill: parent
+
+            OVTextField { id: outside }
+
+            OVSheet {
+                id: other
+                title: "Other"
+                OVTextField { id: inOther; focus: true }
+            }
+
+            CommandPalette { anchors.fill: parent }
+            ShortcutsSheet { anchors.fill: parent }
+        }
     }
-
-    CommandPalette { id: palette; anchors.fill: parent }
-    ShortcutsSheet { id: shortcuts; anchors.fill: parent }
 
     TestCase {
         name: "Palette"
         when: windowShown
 
+        property Item outside
+        property OVSheet other
+        property Item inOther
+
         function init() {
             Workspace.reset()
             Workspace.stopMotion()
             mouseMove(window, 2, 598)
+            const shown = createTemporaryObject(scene, window)
+            outside = shown.outside
+            other = shown.other
+            inOther = shown.inOther
             outside.forceActiveFocus(Qt.TabFocusReason)
-        }
-
-        function cleanup() {
-            other.close()
-            Workspace.reset()
-            tryVerify(() => field() === null, 2000, "everything is closed")
         }
 
         /// Everything seen below the item and in popups that passes the check.

@@ -43,7 +43,8 @@ Item {
         id: body
 
         anchors.bottom: parent.bottom
-        color: row.highlighted ? Theme.ovHover : "transparent"
+        // In the dark the wash of a pointer is too faint to say which row Return opens.
+        color: !row.highlighted ? "transparent" : Theme.dark ? Theme.ovBorder : Theme.ovHover
         height: row.rowHeight
         radius: Theme.cornerField
         width: parent.width - 2 * x

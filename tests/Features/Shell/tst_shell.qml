@@ -284,12 +284,17 @@ Item {
             press("Keyboard shortcuts", OVMenuItem)
             compare(Orvel.ui.isShortcutsPresented, true)
             gone("Keyboard shortcuts", OVMenuItem)
+            one("Move around Orvel without leaving the keys.")
+            keyClick(Qt.Key_Escape)
+            compare(Orvel.ui.isShortcutsPresented, false)
+            gone("Move around Orvel without leaving the keys.")
             press("My Workspace", ShellWorkspaceMenu)
             press("New note", OVMenuItem)
             compare(JSON.parse(Workspace.saved()).pages[0].kind, "note")
             gone("New note", OVMenuItem)
             press("Search", SidebarRow)
             compare(Orvel.ui.isSearchPresented, true)
+            one("QUICK LINKS")
         }
     }
 }

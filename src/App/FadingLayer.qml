@@ -10,6 +10,8 @@ Loader {
     /// The file of what the layer shows, and the properties that it is made with.
     required property url page
     property var pageProperties: ({})
+    /// Whether its files are still being read or its items made.
+    readonly property bool loading: status === Loader.Loading
 
     function load() {
         if (active)

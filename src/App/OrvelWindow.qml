@@ -11,6 +11,8 @@ Window {
 
     /// The settings file that remembers where the window stood; empty remembers nothing.
     required property string placementPath
+    /// Whether something of the window is still on its way.
+    readonly property alias loading: rootView.loading
     property int visibilityBeforeFullScreen: Window.Windowed
 
     function toggleFullScreen() {
@@ -59,6 +61,8 @@ Window {
     }
 
     RootView {
+        id: rootView
+
         anchors.fill: parent
         commands: commands
         model: rootModel

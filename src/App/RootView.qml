@@ -16,6 +16,8 @@ FocusScope {
     /// The first frame need not wait for the layer below the intro, and the intro runs on while it is built. Later a
     /// layer is there at once, to take the place of the other one.
     property bool starting: true
+    /// Whether a layer is still on its way.
+    readonly property bool loading: workspace.loading || onboarding.loading
 
     focus: true
 

@@ -7,6 +7,7 @@
 #include "Support/Updates/PathExchange.h"
 
 #include <QDBusConnection>
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QLoggingCategory>
@@ -14,6 +15,7 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <cstdio>
 
@@ -23,6 +25,16 @@ namespace
 Q_LOGGING_CATEGORY(startLog, "orvel.start", QtWarningMsg)
 
 constexpr char activationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
+
+/// The engine of this Qt version crashes if it is taken down while it reads files in the background.
+void finishLoading(const QQuickWindow &window)
+{
+    const QDeadlineTimer deadline(10'000);
+    while (window.property("loading").toBool() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents();
+        QThread::msleep(2);
+    }
+}
 
 void bringToFront(QQuickWindow &window, const QByteArray &activationToken)
 {
@@ -91,5 +103,7 @@ int main(int argc, char *argv[])
         Qt::ConnectionType(Qt::DirectConnection | Qt::SingleShotConnection));
     QObject::connect(&instance, &SingleInstance::raiseRequested, window,
                      [window](const QByteArray &activationToken) { bringToFront(*window, activationToken); });
-    return application.exec();
+    const int code = application.exec();
+    finishLoading(*window);
+    return code;
 }

@@ -42,7 +42,7 @@ FocusScope {
 
     Shortcut {
         enabled: root.visible
-        sequences: [StandardKey.Find]
+        sequence: "Ctrl+F"
         onActivated: header.focusSearch()
     }
 }

@@ -12,8 +12,9 @@ OVPressable {
     readonly property int columns: 4
 
     function open() {
+        const reason = visualFocus ? Qt.TabFocusReason : Qt.PopupFocusReason
         menu.open()
-        choices.focusChoice(Math.max(0, header.icons.indexOf(header.icon)))
+        choices.focusChoice(Math.max(0, header.icons.indexOf(header.icon)), reason)
     }
 
     function choose(icon: string) {
@@ -43,8 +44,8 @@ OVPressable {
         contentItem: Grid {
             id: choices
 
-            function focusChoice(index: int) {
-                repeater.itemAt(index)?.forceActiveFocus(Qt.TabFocusReason)
+            function focusChoice(index: int, reason = Qt.TabFocusReason) {
+                repeater.itemAt(index)?.forceActiveFocus(reason)
             }
 
             columns: root.columns

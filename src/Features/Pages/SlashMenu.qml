@@ -9,7 +9,6 @@ T.Popup {
     id: root
 
     required property PageEditorViewModel editor
-    readonly property BlockRow row: parent as BlockRow
     readonly property real roomBelow: parent ? parent.Window.height - parent.mapToItem(null, 0, parent.height).y : 0
     /// Where the block begins in its row.
     property real column: 0
@@ -64,7 +63,7 @@ T.Popup {
             symbol: root.editor.typeSymbols[modelData]
             text: root.editor.typeLabels[modelData]
             width: list.width
-            onClicked: root.editor.applySlash(root.row.blockID, modelData)
+            onClicked: root.editor.applySlash((root.parent as BlockRow).blockID, modelData)
         }
     }
 }

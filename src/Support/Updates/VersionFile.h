@@ -29,6 +29,8 @@ struct VersionFile {
     std::optional<QString> download;
     std::optional<Asset> linuxAsset;
     std::optional<Asset> macAsset;
+    /// Never offered here.
+    std::optional<Asset> iosAsset;
 
     static constexpr auto fields()
     {
@@ -37,6 +39,7 @@ struct VersionFile {
             Field{"notes", &VersionFile::notes},      Field{"page", &VersionFile::page},
             Field{"sha256", &VersionFile::sha256},    Field{"download", &VersionFile::download},
             Field{"linux", &VersionFile::linuxAsset}, Field{"mac", &VersionFile::macAsset},
+            Field{"ios", &VersionFile::iosAsset},
         };
     }
 

@@ -1,3 +1,4 @@
+#include "Harness/FakeInstaller.h"
 #include "Harness/HttpTestServer.h"
 #include "Support/Updates/UpdateService.h"
 
@@ -13,23 +14,6 @@ using Kind = UpdateService::Phase::Kind;
 
 namespace
 {
-/// Keeps what it is told, and answers when the test says so.
-struct FakeInstaller final : UpdateInstaller {
-    bool canInstall() const override { return isAllowed; }
-    void install(const AvailableUpdate &update, QObject *, std::function<void(double)> tellProgress,
-                 std::function<void(std::expected<void, QString>)> tellDone) override
-    {
-        installs.append(update);
-        progress = std::move(tellProgress);
-        done = std::move(tellDone);
-    }
-
-    bool isAllowed = true;
-    QList<AvailableUpdate> installs;
-    std::function<void(double)> progress;
-    std::function<void(std::expected<void, QString>)> done;
-};
-
 /// JSON that is written with single quotes.
 QByteArray quoted(QByteArray json)
 {
@@ -166,7 +150,7 @@ private slots:
             << with([&](auto &offer) { offer.downloadURL = site("/m"); });
         QTest::newRow("this platform before all")
             << quoted("{'version': '2.0', 'download': '/x', 'mac': {'download': '/m', 'sha256': 'CD'}, "
-                      "'linux': {'download': '/l', 'sha256': 'EF'}, 'ios': {'download': 3}}")
+                      "'linux': {'download': '/l', 'sha256': 'EF'}, 'ios': {'download': '/i'}}")
             << with([&](auto &offer) {
                    offer.downloadURL = site("/l");
                    offer.sha256 = u"EF"_s;
@@ -196,6 +180,8 @@ private slots:
         QTest::newRow("version as a number") << quoted("{'version': 2}");
         QTest::newRow("notes as a list") << quoted("{'version': '2', 'notes': []}");
         QTest::newRow("asset as a text") << quoted("{'version': '2', 'linux': '/x'}");
+        QTest::newRow("another platform's address as a number")
+            << quoted("{'version': '2', 'ios': {'download': 3}}");
         QTest::newRow("a list") << quoted("[{'version': '2'}]");
         QTest::newRow("cut short") << quoted("{'version': '2'");
         QTest::newRow("broken text") << quoted("{'version': '\xff'}");

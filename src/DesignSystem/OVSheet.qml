@@ -15,6 +15,8 @@ T.Popup {
     property string subtitle: ""
     /// Stands above the content and stays when that scrolls.
     property alias pinned: pinnedColumn.data
+    /// Stands below the content and stays when that scrolls, such as the buttons.
+    property alias footer: footerColumn.data
     /// The widest the sheet becomes.
     property real maximumWidth: Theme.sheetWidth
     default property alias content: column.data
@@ -25,12 +27,14 @@ T.Popup {
     x: Math.round((parent.width - width) / 2)
     y: Math.round((parent.height - height) / 2) + rise
     width: Math.min(maximumWidth, parent.width - 2 * Theme.space24)
-    height: Math.min(header.height + pinnedColumn.height + column.height + topPadding + bottomPadding,
-                     parent.height - 2 * Theme.space24)
+    height: Math.min(header.height + pinnedColumn.height + column.height + footerColumn.height
+                     + topPadding + bottomPadding, parent.height - 2 * Theme.space24)
     padding: Theme.space24
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+
+    onAboutToShow: flickable.contentY = 0
 
     T.Overlay.modal: OVScrim { }
     background: OVPopupSurface { radius: Theme.cornerSheet }
@@ -109,7 +113,7 @@ T.Popup {
             }
 
             anchors.top: pinnedColumn.bottom
-            anchors.bottom: parent.bottom
+            anchors.bottom: footerColumn.top
             width: parent.width
             contentWidth: width
             contentHeight: column.height
@@ -123,6 +127,20 @@ T.Popup {
                 width: flickable.width
                 spacing: Theme.space16
             }
+        }
+
+        OVDivider {
+            anchors.bottom: flickable.bottom
+            width: parent.width
+            visible: flickable.clip && footerColumn.height > 0
+        }
+
+        Column {
+            id: footerColumn
+            anchors.bottom: parent.bottom
+            width: parent.width
+            topPadding: children.length > 0 ? Theme.space16 : 0
+            spacing: Theme.space16
         }
     }
 }

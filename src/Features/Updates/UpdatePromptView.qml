@@ -69,51 +69,51 @@ OVSheet {
         }
     }
 
-    Column {
-        width: parent.width
-        spacing: Theme.space8
-        visible: prompt.installing
-
-        OVProgressBar {
+    footer: [
+        Column {
             width: parent.width
-            value: prompt.progress
-            Accessible.name: qsTr("Download")
-        }
+            spacing: Theme.space8
+            visible: prompt.installing
 
+            OVProgressBar {
+                width: parent.width
+                value: prompt.progress
+                Accessible.name: qsTr("Download")
+            }
+
+            OVText {
+                width: parent.width
+                text: prompt.progressText
+                role: OVText.Dense
+                color: Theme.ovInkSecondary
+                wrapMode: Text.Wrap
+            }
+        },
         OVText {
             width: parent.width
-            text: prompt.progressText
+            visible: text !== ""
+            text: prompt.error
             role: OVText.Dense
-            color: Theme.ovInkSecondary
+            color: Theme.ovDanger
             wrapMode: Text.Wrap
+            Accessible.role: Accessible.AlertMessage
+        },
+        Row {
+            anchors.right: parent.right
+            spacing: Theme.space8
+
+            OVSecondaryButton {
+                text: qsTr("Later")
+                enabled: !prompt.installing
+                onClicked: prompt.laterRequested()
+            }
+
+            OVPrimaryButton {
+                id: updateButton
+                text: prompt.installing ? qsTr("Updating…") : qsTr("Update & restart")
+                enabled: !prompt.installing
+                onClicked: prompt.updateRequested()
+            }
         }
-    }
-
-    OVText {
-        width: parent.width
-        visible: text !== ""
-        text: prompt.error
-        role: OVText.Dense
-        color: Theme.ovDanger
-        wrapMode: Text.Wrap
-        Accessible.role: Accessible.AlertMessage
-    }
-
-    Row {
-        anchors.right: parent.right
-        spacing: Theme.space8
-
-        OVSecondaryButton {
-            text: qsTr("Later")
-            enabled: !prompt.installing
-            onClicked: prompt.laterRequested()
-        }
-
-        OVPrimaryButton {
-            id: updateButton
-            text: prompt.installing ? qsTr("Updating…") : qsTr("Update & restart")
-            enabled: !prompt.installing
-            onClicked: prompt.updateRequested()
-        }
-    }
+    ]
 }

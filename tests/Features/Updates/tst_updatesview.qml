@@ -86,10 +86,50 @@ Item {
             compare(updates.count, 0)
         }
 
-        function test_longNotesScrollInASmallWindow() {
+        function itemWith(item, text) {
+            if (item.text === text)
+                return item
+            for (let i = 0; i < item.children.length; ++i) {
+                const found = itemWith(item.children[i], text)
+                if (found)
+                    return found
+            }
+            return null
+        }
+        function isInSight(text) {
+            const item = itemWith(prompt.contentItem, text)
+            const top = item.mapToItem(prompt.contentItem, 0, 0).y
+            return top >= 0 && top + item.height <= prompt.contentItem.height
+        }
+
+        function test_longNotesScrollAboveWhatHasToStayInSight() {
             prompt.notes = "Many things are better now, and some are new. ".repeat(80)
+            prompt.progressText = "40%"
+            prompt.error = "The update download failed."
+            prompt.installing = true
             verify(prompt.height <= root.height)
             verify(prompt.y >= 0)
+            for (const text of ["40%", prompt.error, "Later", "Updating…"])
+                tryVerify(() => isInSight(text), 1000, text)
+
+            prompt.installing = false
+            const title = "Orvel 1.5.0 is available"
+            for (const [back, onward] of [[Qt.Key_Up, Qt.Key_Down], [Qt.Key_PageUp, Qt.Key_PageDown]]) {
+                tryVerify(() => isInSight(title))
+                for (let i = 0; i < 4; ++i)
+                    keyClick(onward)
+                tryVerify(() => !isInSight(title))
+                for (let i = 0; i < 8; ++i)
+                    keyClick(back)
+            }
+            keyClick(Qt.Key_PageDown)
+            prompt.close()
+            tryCompare(prompt, "visible", false)
+            prompt.open()
+            tryVerify(() => isInSight(title))
+            tryCompare(prompt, "opened", true)
+            keyClick(Qt.Key_Return)
+            compare(updates.count, 1)
         }
     }
 }

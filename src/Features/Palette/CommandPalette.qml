@@ -10,7 +10,7 @@ Item {
     id: root
 
     PaletteViewModel {
-        id: palette
+        id: finder
 
         search: Orvel.search
         store: Orvel.store
@@ -35,7 +35,7 @@ Item {
         y: Math.round(parent.height / 8)
         onAboutToHide: Orvel.ui.isSearchPresented = false
         onAboutToShow: {
-            palette.begin()
+            finder.begin()
             field.clear()
             list.reveal()
         }
@@ -64,9 +64,9 @@ Item {
                 width: parent.width - 2 * x
                 x: Theme.space16 + Theme.space4
                 background: null
-                Accessible.description: palette.highlightedText
-                onAccepted: palette.openHighlighted()
-                onTextChanged: palette.query = text
+                Accessible.description: finder.highlightedText
+                onAccepted: finder.openHighlighted()
+                onTextChanged: finder.query = text
 
                 Keys.onPressed: event => event.accepted = list.moveHighlight(event)
             }
@@ -84,7 +84,7 @@ Item {
 
                 anchors.top: line.bottom
                 height: Math.min(naturalHeight, popup.room)
-                palette: palette
+                finder: finder
                 width: parent.width
             }
 
@@ -94,13 +94,13 @@ Item {
                 anchors.top: line.bottom
                 clip: true
                 height: Math.min(emptyState.implicitHeight + 2 * Theme.space32, popup.room)
-                visible: palette.isNothingFound
+                visible: finder.isNothingFound
                 width: parent.width
 
                 OVEmptyState {
                     id: emptyState
 
-                    message: palette.nothingFoundText
+                    message: finder.nothingFoundText
                     symbol: "magnifyingglass"
                     title: qsTr("No results")
                     width: parent.width - 2 * x

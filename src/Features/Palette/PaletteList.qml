@@ -10,42 +10,42 @@ import Orvel.Palette
 ListView {
     id: list
 
-    required property PaletteViewModel palette
+    required property PaletteViewModel finder
     readonly property int rowHeight: Theme.fieldHeight
     readonly property int headerHeight: Theme.chipHeight
     /// Above the header of every group but the first.
     readonly property int groupGap: Theme.space8
-    readonly property int naturalHeight: palette.count === 0 ? 0 : palette.count * rowHeight
-                                         + palette.groupCount * (headerHeight + groupGap) - groupGap
+    readonly property int naturalHeight: finder.count === 0 ? 0 : finder.count * rowHeight
+                                         + finder.groupCount * (headerHeight + groupGap) - groupGap
                                          + topMargin + bottomMargin
 
     /// Moves the highlight as the key says; false for a key that is the field's.
     function moveHighlight(event: KeyEvent): bool {
         const page = Math.max(1, Math.floor(height / rowHeight) - 1)
         // The ends of the text are the field's, as long as there is a text.
-        const isWhole = palette.query === "" || (event.modifiers & Qt.ControlModifier)
+        const isWhole = finder.query === "" || (event.modifiers & Qt.ControlModifier)
         switch (event.key) {
         case Qt.Key_Up:
         case Qt.Key_Backtab:
-            palette.step(-1)
+            finder.step(-1)
             return true
         case Qt.Key_Down:
         case Qt.Key_Tab:
-            palette.step(1)
+            finder.step(1)
             return true
         case Qt.Key_PageUp:
-            palette.jump(-page)
+            finder.jump(-page)
             return true
         case Qt.Key_PageDown:
-            palette.jump(page)
+            finder.jump(page)
             return true
         case Qt.Key_Home:
             if (isWhole)
-                palette.jump(-count)
+                finder.jump(-count)
             return isWhole
         case Qt.Key_End:
             if (isWhole)
-                palette.jump(count)
+                finder.jump(count)
             return isWhole
         }
         return false
@@ -53,14 +53,14 @@ ListView {
 
     /// Brings the highlighted row into view.
     function reveal() {
-        if (palette.highlighted <= 0) {
+        if (finder.highlighted <= 0) {
             positionViewAtBeginning()
             contentY = originY - topMargin
-        } else if (palette.highlighted === count - 1) {
+        } else if (finder.highlighted === count - 1) {
             positionViewAtEnd()
             contentY = Math.max(originY - topMargin, originY + contentHeight + bottomMargin - height)
         } else {
-            positionViewAtIndex(palette.highlighted, ListView.Contain)
+            positionViewAtIndex(finder.highlighted, ListView.Contain)
         }
     }
 
@@ -69,7 +69,7 @@ ListView {
     clip: contentHeight + topMargin + bottomMargin > height
     currentIndex: -1
     keyNavigationEnabled: false
-    model: palette.rows
+    model: finder.rows
     reuseItems: true
     topMargin: Theme.space8
     Accessible.name: qsTr("Results")
@@ -79,14 +79,14 @@ ListView {
     delegate: PaletteRow {
         groupGap: index > 0 ? list.groupGap : 0
         headerHeight: list.headerHeight
-        highlighted: index === list.palette.highlighted
+        highlighted: index === list.finder.highlighted
         rowHeight: list.rowHeight
         width: list.width
-        onTriggered: list.palette.open(index)
+        onTriggered: list.finder.open(index)
     }
 
     Connections {
-        target: list.palette
+        target: list.finder
 
         function onRowsChanged() {
             list.reveal()
@@ -111,7 +111,7 @@ ListView {
             const y = list.contentY + list.mapFromItem(null, place).y
             const row = list.itemAt(list.width / 2, y) as PaletteRow
             if (row && y - row.y >= row.height - list.rowHeight)
-                list.palette.highlighted = row.index
+                list.finder.highlighted = row.index
         }
     }
 }

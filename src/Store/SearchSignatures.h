@@ -43,7 +43,7 @@ public:
     /// Has the next `follow` look for changes.
     void listChanged() { m_isCurrent = false; }
 
-    /// Brings the entries in line with the list; what is new or changed has no signature until `signature`.
+    /// Brings the entries in line with the list; what is new or changed has none until `signature`.
     void follow(const RecordList<Record> &list)
     {
         if (m_isCurrent && list.size() == qsizetype(m_entries.size()))
@@ -54,34 +54,35 @@ public:
         std::size_t i = 0;
         for (; i < std::size_t(records.size()); ++i) {
             // Most lists change by one record at a time.
-            if (i + 1 < m_entries.size() && m_entries[i]->record.id != records[qsizetype(i)].id &&
-                m_entries[i + 1]->record.id == records[qsizetype(i)].id)
+            if (i + 1 < m_entries.size() && !isOf(i, records[qsizetype(i)]) &&
+                isOf(i + 1, records[qsizetype(i)]))
                 m_entries.erase(m_entries.begin() + std::ptrdiff_t(i));
             if (i == m_entries.size())
-                m_entries.push_back(std::make_unique<Entry>());
-            if (!sharesTexts(m_entries[i]->record, records[qsizetype(i)]))
-                *m_entries[i] = Entry{records[qsizetype(i)], {}, false};
+                m_entries.resize(std::size_t(records.size()));
+            if (m_entries[i] && !sharesTexts(m_entries[i]->record, records[qsizetype(i)]))
+                m_entries[i].reset();
         }
         m_entries.resize(i);
     }
 
-    const TextSignature &signature(qsizetype index)
+    /// @param list as it was followed last
+    const TextSignature &signature(const RecordList<Record> &list, qsizetype index)
     {
-        Entry &entry = *m_entries[std::size_t(index)];
-        if (!entry.isMade) {
-            for (const QString &text : searchedTexts(entry.record))
-                entry.signature.add(text.toLower());
-            entry.isMade = true;
+        std::unique_ptr<Entry> &entry = m_entries[std::size_t(index)];
+        if (!entry) {
+            entry = std::make_unique<Entry>(Entry{list.all()[index], {}});
+            for (const QString &text : searchedTexts(entry->record))
+                entry->signature.add(text.toLower());
         }
-        return entry.signature;
+        return entry->signature;
     }
 
     /// Makes missing signatures until the deadline, but one at least; true once none is missing.
-    bool makeUntil(const QDeadlineTimer &deadline)
+    bool makeUntil(const RecordList<Record> &list, const QDeadlineTimer &deadline)
     {
         while (m_next < m_entries.size()) {
-            const bool isMissing = !m_entries[m_next]->isMade;
-            signature(qsizetype(m_next++));
+            const bool isMissing = !m_entries[m_next];
+            signature(list, qsizetype(m_next++));
             if (isMissing && deadline.hasExpired())
                 break;
         }
@@ -92,8 +93,14 @@ private:
     struct Entry {
         Record record;
         TextSignature signature;
-        bool isMade = false;
     };
+
+    bool isOf(std::size_t entry, const Record &record) const
+    {
+        return m_entries[entry] && m_entries[entry]->record.id == record.id;
+    }
+
+    /// Null where the signature is still to be made.
     std::vector<std::unique_ptr<Entry>> m_entries;
     /// Before this place no signature is missing.
     std::size_t m_next = 0;

@@ -37,7 +37,7 @@ public:
     {
         signatures.follow(list);
         for (qsizetype i = 0; i < list.size() && !isFull(); ++i)
-            if (signatures.signature(i).mayHold(m_signature) && isIn(searchedTexts(list.all()[i])))
+            if (signatures.signature(list, i).mayHold(m_signature) && isIn(searchedTexts(list.all()[i])))
                 m_results.append(result(list.all()[i]));
     }
 
@@ -204,8 +204,10 @@ QList<SearchResult> WorkspaceSearch::search(const QString &query)
 
 bool WorkspaceSearch::prepare(std::chrono::milliseconds budget)
 {
-    const QDeadlineTimer deadline(budget);
+    // A coarse timer may be late by more than a slice takes.
+    const QDeadlineTimer deadline(budget, Qt::PreciseTimer);
     m_pages.follow(m_store.pages());
     m_codeDocuments.follow(m_store.codeDocuments());
-    return m_pages.makeUntil(deadline) && m_codeDocuments.makeUntil(deadline);
+    return m_pages.makeUntil(m_store.pages(), deadline) &&
+           m_codeDocuments.makeUntil(m_store.codeDocuments(), deadline);
 }

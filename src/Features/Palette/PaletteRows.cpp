@@ -57,19 +57,22 @@ PaletteRow rowOf(const SearchResult &result, const QString &query)
     return row;
 }
 
-/// The newest pages of the kind `page`; of equally new ones those that come first in the workspace.
+/// The newest pages of the kind `page`; of equally new ones those that come first in the workspace. One walk
+/// without a list of all pages, as there may be very many.
 QList<const Page *> recentPages(const WorkspaceStore &store)
 {
-    QList<const Page *> pages;
-    for (const Page &page : store.pages())
-        if (page.kind == PageKind::page)
-            pages.append(&page);
-    const auto end = pages.begin() + std::min(PaletteRows::mostRecentPages, pages.size());
-    std::partial_sort(pages.begin(), end, pages.end(), [](const Page *a, const Page *b) {
-        return a->updatedDate != b->updatedDate ? a->updatedDate > b->updatedDate : a < b;
-    });
-    pages.erase(end, pages.end());
-    return pages;
+    QList<const Page *> newest;
+    for (const Page &page : store.pages()) {
+        const bool isFull = newest.size() == PaletteRows::mostRecentPages;
+        if (page.kind != PageKind::page || (isFull && page.updatedDate <= newest.last()->updatedDate))
+            continue;
+        if (isFull)
+            newest.removeLast();
+        const auto place = std::ranges::find_if(
+            newest, [&page](const Page *other) { return other->updatedDate < page.updatedDate; });
+        newest.insert(place, &page);
+    }
+    return newest;
 }
 
 void numberRows(QList<PaletteRow> &rows)

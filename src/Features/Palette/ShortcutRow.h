@@ -26,6 +26,7 @@ public:
 /// The shortcuts of one category.
 struct ShortcutRowGroup {
     Q_GADGET
+    QML_ANONYMOUS
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QList<ShortcutRow> rows MEMBER rows FINAL)
 

@@ -6,7 +6,7 @@ import Orvel.DesignSystem
 Item {
     id: root
 
-    required property Text label
+    required property OVText label
 
     anchors.fill: parent
     Accessible.ignored: true

@@ -116,6 +116,8 @@ ScreenList {
     maximumWidth: editor.isZen ? Theme.zenWidth : Theme.readingWidth
     minimumPadding: 2 * Theme.space24 + 2 * Theme.space4
     model: editor.rows
+    // A page is there at once, for reading and writing.
+    opening: false
 
     delegate: BlockRow {
         caret: blockCaret

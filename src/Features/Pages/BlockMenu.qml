@@ -14,8 +14,12 @@ OVMenu {
     function openFor(row: BlockRow, from: Item) {
         root.row = row
         hadFocus = row.activeFocus
-        popup(from, 0, from.height)
-        currentIndex = from === row ? 0 : -1
+        const byKeys = from === row
+        if (byKeys)
+            popup(row, row.list.columnX, row.part.firstLineCenter + Theme.space16)
+        else
+            popup(from, 0, from.height)
+        currentIndex = byKeys ? 0 : -1
     }
 
     OVMenu {

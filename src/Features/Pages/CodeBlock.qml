@@ -89,6 +89,7 @@ BlockBody {
                 placeholder: root.placeholder
                 showLineNumbers: false
                 text: root.storedText
+                verticalPadding: Theme.space16
                 width: parent.width
                 onActiveFocusChanged: {
                     if (activeFocus)

@@ -68,6 +68,7 @@ Item {
             filled: true
             focusPolicy: Qt.NoFocus
             iconSize: Theme.iconRow
+            opacity: 1
             symbol: root.run.running ? "" : "play"
             text: root.canRun ? qsTr("Run code") : CodeLanguageList.unsupportedReason(root.language)
             onClicked: root.editor.runInlineCode(root.blockID)

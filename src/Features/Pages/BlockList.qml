@@ -178,7 +178,7 @@ ScreenList {
         sourceComponent: SlashMenu {
             column: root.columnX
             editor: root.editor
-            parent: root.currentItem
+            row: root.currentItem as BlockRow
             visible: root.editor.slashTypes.length > 0
         }
     }

@@ -32,6 +32,7 @@ OVMenu {
             OVMenuItem {
                 required property int index
 
+                autoExclusive: true
                 checkable: true
                 checked: root.row?.type === index
                 symbol: root.editor.typeSymbols[index]

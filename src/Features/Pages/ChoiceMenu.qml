@@ -22,6 +22,7 @@ OVMenu {
         delegate: OVMenuItem {
             required property int index
 
+            autoExclusive: true
             checkable: true
             checked: root.current === index
             symbol: root.symbols[index] ?? ""

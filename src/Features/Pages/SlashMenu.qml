@@ -9,7 +9,8 @@ T.Popup {
     id: root
 
     required property PageEditorViewModel editor
-    readonly property real roomBelow: parent ? parent.Window.height - parent.mapToItem(null, 0, parent.height).y : 0
+    /// The row of the block, below or above which it stands.
+    required property BlockRow row
     /// Where the block begins in its row.
     property real column: 0
 
@@ -28,6 +29,7 @@ T.Popup {
     implicitWidth: Theme.menuWidth + Theme.space48 + leftPadding + rightPadding
     leftPadding: Theme.space4
     margins: Theme.space8
+    parent: row
     rightPadding: Theme.space4
     topPadding: Theme.space4
     transformOrigin: T.Popup.TopLeft
@@ -63,7 +65,7 @@ T.Popup {
             symbol: root.editor.typeSymbols[modelData]
             text: root.editor.typeLabels[modelData]
             width: list.width
-            onClicked: root.editor.applySlash((root.parent as BlockRow).blockID, modelData)
+            onClicked: root.editor.applySlash(root.row.blockID, modelData)
         }
     }
 }

@@ -208,6 +208,39 @@ Item {
             compare(focused().text, "end!")
         }
 
+        function test_selectsWithTheMouse() {
+            const blocks = []
+            for (let i = 0; i < 60; ++i)
+                blocks.push("A line of some length " + i)
+            open(blocks)
+            const text = field("A line of some length 9")
+            mousePress(text, 4, text.height / 2)
+            for (let x = 10; x < 200; x += 10)
+                mouseMove(text, x, text.height / 2 - x, -1, Qt.LeftButton)
+            mouseRelease(text, 200, text.height / 2)
+            verify(text.selectedText.length > 5)
+            verify(text.activeFocus)
+            compare(root.view.list.contentY, root.view.list.originY)
+            type("x")
+            verify(texts().includes("|" + text.text + "|"))
+        }
+
+        function test_growsWithItsText() {
+            open(["", "below"])
+            const below = field("below")
+            const before = below.mapToItem(root, 0, 0).y
+            edit("")
+            type("word ".repeat(30))
+            tryVerify(() => below.mapToItem(root, 0, 0).y > before + 20)
+            compare(texts(), "word ".repeat(30) + "|below")
+            compare(focused().effectiveHorizontalAlignment, TextEdit.AlignLeft)
+            focused().selectAll()
+            Composer.commit("مرحبا بكم")
+            compare(focused().effectiveHorizontalAlignment, TextEdit.AlignRight)
+            tryVerify(() => below.mapToItem(root, 0, 0).y < before + 20)
+            compare(texts(), "مرحبا بكم|below")
+        }
+
         function test_composesText() {
             open(["日"])
             edit("日")

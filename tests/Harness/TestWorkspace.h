@@ -125,6 +125,17 @@ public:
     {
         m_store.renamePage(QUuid(id), title);
     }
+
+    /// @param language a raw text
+    Q_INVOKABLE QString addCode(const QString &title, const QString &language, const QString &source)
+    {
+        CodeDocument document{.id = QUuid::createUuid(), .title = title, .source = source};
+        document.language = enumFromRaw<CodeLanguage>(language).value();
+        document.createdDate = document.updatedDate = m_clock.now();
+        m_store.add(document);
+        return document.id.toString(QUuid::WithoutBraces);
+    }
+
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }
 
     Q_INVOKABLE QString addFolder(const QString &name)

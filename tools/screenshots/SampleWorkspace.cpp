@@ -30,7 +30,62 @@ void addTasks(WorkspaceStore &store)
     store.newTask(QStringLiteral("Explore databases"), TaskPriority::low, inDays(10));
     store.toggleTaskDone(store.newTask(QStringLiteral("Try the block editor"), TaskPriority::medium, now));
 }
+
+void addSnippet(WorkspaceStore &store, const QString &title, CodeLanguage language, const QString &source)
+{
+    store.add(CodeDocument{.id = QUuid::createUuid(),
+                           .title = title,
+                           .language = language,
+                           .source = source,
+                           .createdDate = store.clock().now(),
+                           .updatedDate = store.clock().now()});
+}
 } // namespace
+
+void SampleWorkspace::addCode(WorkspaceStore &store)
+{
+    const QString readings = QStringLiteral(
+        "# The warmest and the coldest day of a week\n"
+        "from dataclasses import dataclass\n"
+        "\n"
+        "\n"
+        "@dataclass\n"
+        "class Reading:\n"
+        "    day: str\n"
+        "    celsius: float\n"
+        "\n"
+        "    def fahrenheit(self) -> float:\n"
+        "        return self.celsius * 9 / 5 + 32\n"
+        "\n"
+        "\n"
+        "readings = [\n"
+        "    Reading(\"Mon\", 12.5),\n"
+        "    Reading(\"Tue\", 14.0),\n"
+        "    Reading(\"Wed\", 9.5),\n"
+        "    Reading(\"Thu\", 17.25),\n"
+        "]\n"
+        "\n"
+        "for reading in sorted(readings, key=lambda reading: reading.celsius):\n"
+        "    print(f\"{reading.day}: {reading.celsius:5.1f} °C  {reading.fahrenheit():5.1f} °F\")\n"
+        "print(\"warmest:\", max(readings, key=lambda reading: reading.celsius).day)\n");
+    addSnippet(store, QStringLiteral("readings.py"), CodeLanguage::python, readings);
+    addSnippet(store, QStringLiteral("Parse the export"), CodeLanguage::python,
+               QStringLiteral("import json\n\ntext = '{\"name\": \"Zoë\", }'\nprint(\"reading\", len(text))\n"
+                              "print(json.loads(text))\n"));
+    QString table = QStringLiteral("-- One line a city\nCREATE TABLE city (name, people);\n");
+    for (int i = 1; i <= 40; ++i)
+        table += QStringLiteral(
+                     "INSERT INTO city VALUES ('A city with a rather long name, the %1th of them all, on "
+                     "the river beyond the hills', %2); -- counted by hand in spring, again in autumn\n")
+                     .arg(i)
+                     .arg(i * 1234);
+    addSnippet(store, QStringLiteral("Cities and how many people live in them, counted twice a year"),
+               CodeLanguage::sql, table);
+    addSnippet(store, QStringLiteral("backup.sh"), CodeLanguage::shell,
+               QStringLiteral("tar czf notes.tar.gz notes\n"));
+    addSnippet(store, QStringLiteral("Greeting"), CodeLanguage::swift, QStringLiteral("print(\"Hello\")\n"));
+    addSnippet(store, {}, CodeLanguage::plain, {});
+}
 
 void SampleWorkspace::fill(WorkspaceStore &store)
 {

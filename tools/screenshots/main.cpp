@@ -183,6 +183,46 @@ QList<Picture> shellPictures()
     return pictures;
 }
 
+/// The code screen beside a sidebar's width, with a document of the sample opened by its place in the rail.
+Picture codePicture(const QString &name, QSize size, const Look &look, int row, const QByteArray &then)
+{
+    const QByteArray sidebar = size == smallSize ? "Theme.sidebarWidth" : "248";
+    return {QStringLiteral("code-") + name,
+            "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Code\n"
+            "Item { OVBackground { anchors.fill: parent }\n"
+            "CodeView { id: view; anchors.fill: parent; anchors.leftMargin: " +
+                sidebar +
+                "; focus: true }\n"
+                "Timer { interval: 100; running: true; onTriggered: { view.viewModel.selectBy(" +
+                QByteArray::number(row) + "); " + then + " } } }",
+            size,
+            [row](WorkspaceStore &store, UIState &) {
+                if (row >= 0)
+                    SampleWorkspace::addCode(store);
+            },
+            look};
+}
+
+QList<Picture> codePictures()
+{
+    const QByteArray run = "view.viewModel.runSnippet()";
+    QList<Picture> pictures;
+    for (const auto &[name, look] : looks())
+        pictures.append(codePicture(name, windowSize, look, 0, run));
+    pictures.append(codePicture(QStringLiteral("failed"), windowSize, light, 1, run));
+    pictures.append(codePicture(QStringLiteral("long-lines"), windowSize, light, 2, {}));
+    pictures.append(
+        codePicture(QStringLiteral("long-lines-wrapped"), windowSize, dark, 2, "view.viewModel.wrap = true"));
+    pictures.append(codePicture(QStringLiteral("console-empty"), windowSize, light, 5,
+                                "view.viewModel.showConsole = true"));
+    pictures.append(codePicture(QStringLiteral("empty"), windowSize, light, -1, {}));
+    pictures.append(codePicture(QStringLiteral("small"), smallSize, dark, 0, run));
+    pictures.append(codePicture(QStringLiteral("small-huge"), smallSize, both(light, huge), 0, run));
+    pictures.append(
+        codePicture(QStringLiteral("small-huge-rail"), smallSize, both(light, huge), 2, "view.toggleRail()"));
+    return pictures;
+}
+
 /// The first run at one of its steps.
 Picture onboardingPicture(const QString &name, int step, QSize size, const Look &look,
                           const QByteArray &choose = {})
@@ -376,9 +416,9 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture : galleryPictures() + notesPictures() + onboardingPictures() +
-                                      pagePictures() + palettePictures() + shellPictures() +
-                                      tasksPictures()) {
+    for (const Picture &picture : galleryPictures() + codePictures() + notesPictures() +
+                                      onboardingPictures() + pagePictures() + palettePictures() +
+                                      shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

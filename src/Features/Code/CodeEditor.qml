@@ -40,8 +40,9 @@ FocusScope {
         area.forceActiveFocus(reason)
     }
 
-    /// Puts the caret to the beginning, and that into view.
-    function toBeginning() {
+    /// Takes the text as one that has just been opened: the caret at its beginning, nothing to undo.
+    function begin() {
+        code.forgetUndo()
         area.cursorPosition = 0
         view.contentX = 0
         view.contentY = 0
@@ -62,7 +63,7 @@ FocusScope {
         language: root.language
         text: root.text
         viewHeight: view.height
-        viewTop: view.contentY - root.verticalPadding
+        viewTop: view.contentY - area.y
         onCaretPlaced: position => area.cursorPosition = position
         onEdited: text => {
             root.edited(text)
@@ -80,7 +81,7 @@ FocusScope {
         caretColor: Theme.ovInkSecondary
         color: Theme.ovInkTertiary
         document: code
-        documentTop: root.verticalPadding - view.contentY
+        documentTop: area.y - view.contentY
         font.family: Theme.codeFamily
         font.pixelSize: Math.round(Theme.sizeCaption * 11 / 12)
         height: root.height
@@ -97,40 +98,40 @@ FocusScope {
         anchors.top: parent.top
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        contentHeight: area.height
-        contentWidth: area.width
+        contentHeight: area.height + 2 * area.y
+        contentWidth: area.x + area.width + Theme.space12
 
         T.ScrollBar.horizontal: OVScrollBar { }
         T.ScrollBar.vertical: OVScrollBar { }
 
+        // The margins lie outside the text, which would not draw into paddings of its own.
         T.TextArea {
             id: area
 
             // Widths in steps, since each new width lays the whole text out again.
             readonly property int widthStep: 640
+            readonly property real room: view.width - x - Theme.space12
 
             Accessible.name: root.accessibleName
-            bottomPadding: root.verticalPadding
             color: Theme.ovInk
             cursorDelegate: OVCaret { }
             focus: true
             font.family: Theme.codeFamily
             font.pixelSize: root.fontSize
-            height: Math.max(view.height, root.fullHeight)
+            // Code is read character by character, and measured faster without ligatures.
+            font.preferShaping: false
+            height: Math.max(view.height, root.fullHeight) - 2 * y
             inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-            leftPadding: root.showLineNumbers ? Theme.space4 : Theme.space12
             persistentSelection: true
-            rightPadding: Theme.space12
             selectByMouse: true
             selectedTextColor: Theme.ovInk
             selectionColor: Theme.selection
             tabStopDistance: 4 * metrics.advanceWidth(" ")
             textFormat: TextEdit.PlainText
-            topPadding: root.verticalPadding
-            width: root.wrap || contentWidth + leftPadding + rightPadding <= view.width
-                   ? view.width
-                   : Math.ceil((contentWidth + leftPadding + rightPadding) / widthStep) * widthStep
+            width: root.wrap || contentWidth <= room ? room : Math.ceil(contentWidth / widthStep) * widthStep
             wrapMode: root.wrap ? TextEdit.Wrap : TextEdit.NoWrap
+            x: root.showLineNumbers ? Theme.space4 : Theme.space12
+            y: root.verticalPadding
             Keys.forwardTo: root.keyTarget ? [root.keyTarget] : []
             Keys.onPressed: event => keys.handle(event)
             onCursorPositionChanged: keys.reveal()
@@ -153,9 +154,9 @@ FocusScope {
         font: area.font
         text: root.placeholder
         visible: area.length === 0 && area.preeditText === ""
-        width: view.width - area.leftPadding - area.rightPadding
-        x: view.x + area.leftPadding
-        y: root.verticalPadding
+        width: area.room
+        x: view.x + area.x
+        y: area.y
     }
 
     OVContextMenuArea {

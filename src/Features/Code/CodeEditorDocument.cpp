@@ -172,6 +172,11 @@ void CodeEditorDocument::breakLine(int selectionStart, int selectionEnd)
         .insertText(u'\n' + before.left(blanksBefore(before)));
 }
 
+void CodeEditorDocument::forgetUndo()
+{
+    textDocument()->clearUndoRedoStacks();
+}
+
 void CodeEditorDocument::contentsWereChanged()
 {
     if (!std::exchange(m_isEdited, false) || m_isShowing)

@@ -60,6 +60,7 @@ public:
     Q_INVOKABLE void outdent(int selectionStart, int selectionEnd);
     /// Begins a new line with the blanks that the present one begins with.
     Q_INVOKABLE void breakLine(int selectionStart, int selectionEnd);
+    Q_INVOKABLE void forgetUndo();
 
 signals:
     void documentChanged();

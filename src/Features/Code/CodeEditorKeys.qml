@@ -20,12 +20,12 @@ QtObject {
         if (isHeld || !input.activeFocus || flickable.height <= 0)
             return
         const caret = input.positionToRectangle(input.cursorPosition)
-        flickable.contentY = within(flickable.contentY, caret.y - input.topPadding,
-                                    caret.y + caret.height + input.bottomPadding - flickable.height,
-                                    input.height - flickable.height)
-        flickable.contentX = within(flickable.contentX, caret.x - input.leftPadding,
-                                    caret.x + input.rightPadding - flickable.width,
-                                    input.width - flickable.width)
+        flickable.contentY = within(flickable.contentY, caret.y,
+                                    caret.y + caret.height + 2 * input.y - flickable.height,
+                                    flickable.contentHeight - flickable.height)
+        flickable.contentX = within(flickable.contentX, caret.x,
+                                    caret.x + caret.width + 2 * Theme.space12 - flickable.width,
+                                    flickable.contentWidth - flickable.width)
     }
 
     function within(present: real, most: real, least: real, end: real): real {
@@ -36,7 +36,7 @@ QtObject {
         const caret = input.cursorRectangle
         const distance = direction * Math.max(caret.height, flickable.height - 2 * caret.height)
         const position = input.positionAt(caret.x, caret.y + caret.height / 2 + distance)
-        flickable.contentY = within(flickable.contentY + distance, Infinity, 0, input.height - flickable.height)
+        flickable.contentY = within(flickable.contentY + distance, Infinity, 0, flickable.contentHeight - flickable.height)
         if (selecting)
             input.moveCursorSelection(position)
         else

@@ -2,6 +2,9 @@
 
 #include "DesignSystem/BadgeTone.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace
@@ -56,6 +59,11 @@ void CodeRun::run(const QString &source, const QString &languageRaw)
 void CodeRun::clear()
 {
     setResult({});
+}
+
+void CodeRun::copyOutput() const
+{
+    QGuiApplication::clipboard()->setText(output());
 }
 
 QString CodeRun::statusWord() const

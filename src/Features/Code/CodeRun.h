@@ -39,6 +39,9 @@ public:
     /// Takes the result away. A run that is going still brings its own.
     Q_INVOKABLE void clear();
 
+    /// Puts all of the output on the clipboard.
+    Q_INVOKABLE void copyOutput() const;
+
     bool isRunning() const { return m_running; }
     bool hasResult() const { return m_result.has_value(); }
     QString statusWord() const;

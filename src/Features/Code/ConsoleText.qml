@@ -10,8 +10,7 @@ FocusScope {
 
     property string text
     property color color: Theme.ovInk
-    property int padding: Theme.space12
-    readonly property real fullHeight: area.contentHeight + 2 * padding
+    readonly property real fullHeight: area.contentHeight + area.y + Theme.space12
     property alias input: area
 
     implicitHeight: fullHeight
@@ -29,11 +28,12 @@ FocusScope {
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        contentHeight: area.height
+        contentHeight: area.y + area.height
         contentWidth: width
 
         T.ScrollBar.vertical: OVScrollBar { }
 
+        // The margins lie outside the text, which would not draw into paddings of its own.
         T.TextArea {
             id: area
             Accessible.name: qsTr("Output")
@@ -42,8 +42,8 @@ FocusScope {
             focus: true
             font.family: Theme.codeFamily
             font.pixelSize: Theme.sizeCaption
-            height: Math.max(flickable.height, root.fullHeight)
-            padding: root.padding
+            font.preferShaping: false
+            height: Math.max(flickable.height, root.fullHeight) - y
             persistentSelection: true
             readOnly: true
             selectByMouse: true
@@ -51,8 +51,10 @@ FocusScope {
             selectionColor: Theme.selection
             text: excerpt.shown
             textFormat: TextEdit.PlainText
-            width: flickable.width
+            width: flickable.width - 2 * x
             wrapMode: TextEdit.Wrap
+            x: Theme.space12
+            y: Theme.space4
             Keys.onDownPressed: flickable.flick(0, -600)
             Keys.onPressed: event => menuArea.handleKey(event)
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)

@@ -1,0 +1,150 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// The title of the open document, where it stands to be changed, and what can be done with it.
+Item {
+    id: root
+
+    required property CodeViewModel viewModel
+    property bool railShown: true
+    property bool didCopy: false
+    readonly property bool isTight: width < 560 * Theme.fontScale
+    readonly property bool isTightest: width < 420 * Theme.fontScale
+    readonly property string runText: viewModel.isRunning ? qsTr("Running…") : qsTr("Run snippet")
+
+    signal railRequested()
+    signal deleteRequested()
+    /// The person is done with the title.
+    signal titleDone()
+
+    function editTitle() {
+        title.forceActiveFocus(Qt.TabFocusReason)
+        title.selectAll()
+    }
+
+    implicitHeight: actions.height
+
+    Connections {
+        target: root.viewModel
+        function onTitleChanged() {
+            title.text = root.viewModel.title
+        }
+        function onSelectionChanged() {
+            title.text = root.viewModel.title
+            title.documentID = root.viewModel.selectedID
+        }
+    }
+
+    Timer {
+        id: copied
+        interval: 1600
+        onTriggered: root.didCopy = false
+    }
+
+    OVIconButton {
+        id: railButton
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "sidebar.left"
+        text: qsTr("Show the list")
+        visible: !root.railShown
+        onClicked: root.railRequested()
+    }
+
+    OVTextField {
+        id: title
+
+        property var documentID: root.viewModel.selectedID
+
+        Accessible.name: qsTr("Title")
+        anchors.left: railButton.visible ? railButton.right : parent.left
+        anchors.leftMargin: railButton.visible ? Theme.space8 : 0
+        anchors.right: actions.left
+        anchors.rightMargin: Theme.space8
+        anchors.verticalCenter: parent.verticalCenter
+        font.pixelSize: Theme.sizeCardTitle
+        font.weight: Font.DemiBold
+        placeholderText: qsTr("Untitled")
+        plain: true
+        text: root.viewModel.title
+        Keys.onEscapePressed: {
+            text = root.viewModel.title
+            root.titleDone()
+        }
+        onAccepted: root.titleDone()
+        onEditingFinished: {
+            root.viewModel.rename(documentID, text)
+            text = root.viewModel.title
+        }
+    }
+
+    Row {
+        id: actions
+        anchors.right: parent.right
+        height: Theme.buttonHeight
+        spacing: Theme.space8
+
+        OVMenuButton {
+            anchors.verticalCenter: parent.verticalCenter
+            Accessible.name: qsTr("Language: %1").arg(root.viewModel.languageText)
+            plain: true
+            text: root.viewModel.languageText
+            toolTip: qsTr("Language")
+
+            menu: CodeLanguageMenu {
+                language: root.viewModel.language
+                onPicked: raw => root.viewModel.setLanguage(raw)
+            }
+        }
+
+        OVIconButton {
+            anchors.verticalCenter: parent.verticalCenter
+            color: root.didCopy ? Theme.ovSuccess : Theme.ovInkSecondary
+            symbol: root.didCopy ? "checkmark" : "doc.on.doc"
+            text: root.didCopy ? qsTr("Copied") : qsTr("Copy code")
+            onClicked: {
+                root.viewModel.copySource()
+                root.didCopy = true
+                copied.restart()
+            }
+        }
+
+        OVIconButton {
+            id: more
+            anchors.verticalCenter: parent.verticalCenter
+            Accessible.role: Accessible.ButtonMenu
+            symbol: "ellipsis"
+            text: qsTr("More")
+            onClicked: menu.popup(more, 0, height + Theme.space4)
+
+            CodeDocumentMenu {
+                id: menu
+                documentID: root.viewModel.selectedID
+                viewModel: root.viewModel
+                onDeleteRequested: root.deleteRequested()
+                onRenameRequested: root.editTitle()
+            }
+        }
+
+        OVIconButton {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInk
+            enabled: !root.viewModel.isRunning
+            symbol: "play"
+            text: root.runText
+            toolTip: qsTr("%1, Ctrl R").arg(root.runText)
+            visible: root.isTightest
+            onClicked: root.viewModel.runSnippet()
+        }
+
+        OVPrimaryButton {
+            enabled: !root.viewModel.isRunning
+            keyText: root.isTight ? "" : qsTr("Ctrl R")
+            symbol: "play"
+            text: root.runText
+            toolTip: root.isTight ? qsTr("Ctrl R") : ""
+            visible: !root.isTightest
+            onClicked: root.viewModel.runSnippet()
+        }
+    }
+}

@@ -1,0 +1,151 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// The documents: a search field and a list that is one stop for Tab, in which the arrows open one document
+/// after the other.
+FocusScope {
+    id: root
+
+    required property CodeViewModel viewModel
+
+    signal newRequested()
+    signal hideRequested()
+    signal picked(var documentID)
+    signal editRequested()
+    signal renameRequested()
+    signal deleteRequested(var documentID)
+
+    function focusList() {
+        list.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    OVText {
+        id: title
+        Accessible.role: Accessible.Heading
+        role: OVText.ScreenTitle
+        text: qsTr("Code")
+        width: actions.x - Theme.space8
+    }
+
+    Row {
+        id: actions
+        anchors.right: parent.right
+        anchors.verticalCenter: title.verticalCenter
+        spacing: Theme.space4
+
+        OVIconButton {
+            symbol: "sidebar.left"
+            text: qsTr("Hide the list")
+            onClicked: root.hideRequested()
+        }
+
+        OVIconButton {
+            symbol: "plus"
+            text: qsTr("New snippet")
+            onClicked: root.newRequested()
+        }
+    }
+
+    OVSearchField {
+        id: search
+        anchors.top: title.bottom
+        anchors.topMargin: Theme.space16
+        placeholderText: qsTr("Search snippets")
+        text: root.viewModel.query
+        width: parent.width
+        Keys.onDownPressed: root.focusList()
+        onTextEdited: root.viewModel.query = text
+    }
+
+    ListView {
+        id: list
+
+        property bool focusByKeys: false
+        readonly property bool visualFocus: activeFocus && focusByKeys
+
+        function page(): int {
+            return Math.max(1, Math.floor(height / Math.max(1, contentHeight / Math.max(1, count))) - 1)
+        }
+
+        /// How many rows further down a key leads; 0 for another key.
+        function step(key: int): int {
+            switch (key) {
+            case Qt.Key_Up: return -1
+            case Qt.Key_Down: return 1
+            case Qt.Key_PageUp: return -page()
+            case Qt.Key_PageDown: return page()
+            case Qt.Key_Home: return -count
+            case Qt.Key_End: return count
+            default: return 0
+            }
+        }
+
+        Accessible.name: qsTr("Snippets")
+        Accessible.role: Accessible.List
+        activeFocusOnTab: count > 0
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.leftMargin: -Theme.space8
+        anchors.right: parent.right
+        anchors.rightMargin: -Theme.space8
+        anchors.top: search.bottom
+        anchors.topMargin: Theme.space12
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        currentIndex: root.viewModel.selectedRow
+        highlightFollowsCurrentItem: false
+        keyNavigationEnabled: false
+        model: root.viewModel.rows
+        spacing: 2
+        T.ScrollBar.vertical: OVScrollBar { }
+
+        Keys.onPressed: event => {
+            const rows = step(event.key)
+            if (rows !== 0)
+                root.viewModel.selectBy(rows)
+            else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+                root.editRequested()
+            else if (event.key === Qt.Key_F2)
+                root.renameRequested()
+            else if (event.key === Qt.Key_Delete || event.key === Qt.Key_Backspace)
+                root.deleteRequested(root.viewModel.selectedID)
+            else if (currentItem)
+                return (currentItem as CodeRailRow).handleKey(event)
+            event.accepted = true
+        }
+        onActiveFocusChanged: focusByKeys = true
+        onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+
+        delegate: CodeRailRow {
+            ringShown: list.visualFocus
+            viewModel: root.viewModel
+            width: ListView.view.width
+            onDeleteRequested: root.deleteRequested(documentID)
+            onPicked: {
+                list.forceActiveFocus(Qt.MouseFocusReason)
+                list.focusByKeys = false
+                root.picked(documentID)
+            }
+            onRenameRequested: {
+                root.picked(documentID)
+                root.renameRequested()
+            }
+        }
+    }
+
+    OVText {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: list.top
+        anchors.topMargin: Theme.space24
+        color: Theme.ovInkSecondary
+        horizontalAlignment: Text.AlignHCenter
+        text: qsTr("No snippet matches.")
+        visible: root.viewModel.findsNothing
+        width: parent.width
+        wrapMode: Text.Wrap
+    }
+}

@@ -1,0 +1,26 @@
+#include "Features/Code/CodeRow.h"
+
+#include <QCoreApplication>
+
+CodeRow CodeRow::of(const CodeDocument &document, bool isSelected)
+{
+    const QString title = document.title.trimmed();
+    return {.id = document.id,
+            .title = title.isEmpty() ? QCoreApplication::translate("CodeRow", "Untitled") : title,
+            .detail =
+                enumLabel(document.language) + QStringLiteral(" · ") + lineCountText(document.lineCount()),
+            .isSelected = isSelected};
+}
+
+QString CodeRow::lineCountText(qsizetype count)
+{
+    return count == 1 ? QCoreApplication::translate("CodeRow", "1 line")
+                      : QCoreApplication::translate("CodeRow", "%L1 lines").arg(count);
+}
+
+bool CodeRow::matches(const CodeDocument &document, const QString &query)
+{
+    return document.title.contains(query, Qt::CaseInsensitive) ||
+           enumLabel(document.language).contains(query, Qt::CaseInsensitive) ||
+           document.source.contains(query, Qt::CaseInsensitive);
+}

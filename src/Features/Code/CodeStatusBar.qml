@@ -1,0 +1,104 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+
+/// Where the caret is, how long the document is, and how the editor shows it.
+Item {
+    id: root
+
+    required property CodeViewModel viewModel
+    required property int caretLine
+    required property int caretColumn
+
+    implicitHeight: Theme.iconButtonSize + Theme.space8
+
+    OVDivider {
+        width: parent.width
+    }
+
+    Row {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.space12
+        x: Theme.space12
+
+        OVText {
+            color: Theme.ovInkSecondary
+            role: OVText.Caption
+            text: root.viewModel.languageText
+            visible: root.width > 480 * Theme.fontScale
+        }
+
+        OVText {
+            id: place
+            color: Theme.ovInkSecondary
+            role: OVText.Caption
+            text: qsTr("Line %1, column %2").arg(root.caretLine).arg(root.caretColumn)
+        }
+
+        OVText {
+            color: Theme.ovInkSecondary
+            role: OVText.Caption
+            text: root.viewModel.lineCountText
+            visible: parent.x + place.x + place.width + implicitWidth + 2 * Theme.space12 < controls.x
+        }
+    }
+
+    Row {
+        id: controls
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.space8
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Theme.space4
+
+        OVIconButton {
+            checkable: true
+            filled: false
+            checked: root.viewModel.wrap
+            iconSize: Theme.iconRow
+            symbol: "text.alignleft"
+            text: qsTr("Wrap long lines")
+            onToggled: root.viewModel.wrap = checked
+        }
+
+        OVIconButton {
+            checkable: true
+            filled: false
+            checked: root.viewModel.showLineNumbers
+            iconSize: Theme.iconRow
+            symbol: "list.number"
+            text: qsTr("Line numbers")
+            onToggled: root.viewModel.showLineNumbers = checked
+        }
+
+        OVDivider {
+            anchors.verticalCenter: parent.verticalCenter
+            vertical: true
+        }
+
+        OVIconButton {
+            enabled: root.viewModel.canShrink
+            iconSize: Theme.iconRow
+            symbol: "minus"
+            text: qsTr("Smaller text")
+            onClicked: --root.viewModel.fontSize
+        }
+
+        OVText {
+            Accessible.name: qsTr("Text size %1").arg(text)
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInkSecondary
+            horizontalAlignment: Text.AlignHCenter
+            role: OVText.Caption
+            text: root.viewModel.fontSize
+            width: 20 * Theme.fontScale
+        }
+
+        OVIconButton {
+            enabled: root.viewModel.canGrow
+            iconSize: Theme.iconRow
+            symbol: "plus"
+            text: qsTr("Larger text")
+            onClicked: ++root.viewModel.fontSize
+        }
+    }
+}

@@ -1,0 +1,140 @@
+import QtQuick
+import Orvel.Code
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// The scratchpad of snippets: the rail of documents, the editor of the open one and its console. In a narrow
+/// window rail and editor take turns.
+FocusScope {
+    id: root
+
+    property alias focusDocument: code.focusDocument
+    readonly property alias viewModel: code
+    readonly property bool isNarrow: width < 720 * Theme.fontScale
+    readonly property int padding: isNarrow ? Theme.screenPaddingNarrow : Theme.screenPadding
+    /// Whether the person wants the rail, as far as there is room for both.
+    property bool railWanted: true
+    property bool railOverEditor: false
+    readonly property bool showsRail: isNarrow ? railOverEditor : railWanted
+
+    function toggleRail() {
+        if (isNarrow)
+            railOverEditor = !railOverEditor
+        else
+            railWanted = !railWanted
+    }
+
+    /// Opens another document once what is being typed has reached the present one.
+    function open(documentID) {
+        Qt.inputMethod.commit()
+        code.select(documentID)
+        railOverEditor = false
+    }
+
+    function makeDocument() {
+        Qt.inputMethod.commit()
+        code.newDocument()
+        railOverEditor = false
+        pane.editor.forceFocus(Qt.OtherFocusReason)
+    }
+
+    function ask(documentID) {
+        question.documentID = documentID
+        question.isFromRail = rail.activeFocus
+        question.open()
+    }
+
+    Keys.onEscapePressed: event => {
+        event.accepted = code.showConsole
+        code.showConsole = false
+    }
+
+    CodeViewModel {
+        id: code
+        active: root.visible
+        store: Orvel.store
+        ui: Orvel.ui
+    }
+
+    Shortcut {
+        autoRepeat: false
+        enabled: root.visible && root.enabled && !question.visible
+        sequence: "Ctrl+R"
+        onActivated: code.runSnippet()
+    }
+
+    OVAppear {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -Theme.space48
+        visible: code.isEmpty
+        width: Math.min(implicitWidth, root.width - 2 * root.padding)
+
+        OVEmptyState {
+            actionSymbol: "plus"
+            actionText: qsTr("New snippet")
+            message: qsTr("Keep small scripts, notes and reusable snippets together.")
+            symbol: "chevron.left.forwardslash.chevron.right"
+            title: qsTr("No snippets yet")
+            width: parent.width
+            onActionTriggered: root.makeDocument()
+        }
+    }
+
+    FocusScope {
+        id: desk
+        anchors.fill: parent
+        anchors.margins: root.padding
+        anchors.topMargin: root.isNarrow ? Theme.space16 : Theme.space24
+        focus: true
+        visible: !code.isEmpty
+
+        CodeRail {
+            id: rail
+            height: parent.height
+            viewModel: code
+            visible: root.showsRail
+            width: root.isNarrow ? parent.width : Math.round(Math.min(220 * Theme.fontScale, root.width * 0.34))
+            onDeleteRequested: documentID => root.ask(documentID)
+            onEditRequested: pane.editor.forceFocus(Qt.TabFocusReason)
+            onHideRequested: root.toggleRail()
+            onNewRequested: root.makeDocument()
+            onPicked: documentID => root.open(documentID)
+            onRenameRequested: {
+                root.railOverEditor = false
+                pane.editTitle()
+            }
+        }
+
+        CodePane {
+            id: pane
+            focus: true
+            height: parent.height
+            railShown: rail.visible
+            viewModel: code
+            visible: !root.isNarrow || !root.railOverEditor
+            width: parent.width - x
+            x: rail.visible && !root.isNarrow ? rail.width + Theme.space24 : 0
+            onDeleteRequested: documentID => root.ask(documentID)
+            onRailRequested: root.toggleRail()
+        }
+    }
+
+    OVDialog {
+        id: question
+
+        property var documentID
+        property bool isFromRail: false
+
+        acceptText: qsTr("Delete")
+        destructive: true
+        message: qsTr("Its text is gone for good.")
+        rejectText: qsTr("Cancel")
+        title: qsTr("Delete this snippet?")
+        onAccepted: code.deleteDocument(documentID)
+        onClosed: {
+            // The row that had the focus may be gone.
+            if (isFromRail && !code.isEmpty)
+                rail.focusList()
+        }
+    }
+}

@@ -1,0 +1,263 @@
+import QtQuick
+import QtTest
+import Orvel.Code
+import Orvel.Testing
+
+/// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file.
+Item {
+    id: root
+
+    property CodeView view
+
+    width: 1000
+    height: 640
+
+    Component {
+        id: screen
+
+        CodeView {
+            anchors.fill: parent
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        name: "CodeView"
+        visible: true
+        when: windowShown
+
+        function init() {
+            Workspace.reset()
+        }
+
+        function open(properties = {}) {
+            root.view = createTemporaryObject(screen, root, properties)
+            root.view.forceActiveFocus()
+            waitForRendering(root.view)
+        }
+
+        function focused() {
+            return root.Window.activeFocusItem
+        }
+
+        /// The visible item that assistive tools know by this name.
+        function find(name, from = root.Window.contentItem) {
+            for (let i = 0; i < from.children.length; ++i) {
+                const child = from.children[i]
+                if (!child.visible)
+                    continue
+                const found = child.Accessible.name === name ? child : find(name, child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function click(name) {
+            tryVerify(() => find(name) !== null, 2000, "shows " + name)
+            // What has just come into being is put in its place with the next picture.
+            waitForRendering(root.view, 100)
+            mouseClick(find(name))
+        }
+
+        function type(text) {
+            for (const character of text)
+                keyClick(character)
+        }
+
+        function saved() {
+            return JSON.parse(Workspace.saved()).codeDocuments
+        }
+
+        function titles() {
+            return saved().map(document => document.title).join()
+        }
+
+        function shows(text) {
+            tryVerify(() => find(text) !== null, 5000, "shows " + text)
+        }
+
+        function test_firstSnippet() {
+            open()
+            shows("Keep small scripts, notes and reusable snippets together.")
+            click("New snippet")
+            shows("Source of Untitled")
+            compare(focused().Accessible.name, "Source of Untitled")
+            type("let a")
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_Tab)
+            type("b")
+            compare(saved()[0].source, "let a\n    b")
+            compare(saved()[0].title, "Untitled")
+            shows("Line 2, column 6")
+            shows("2 lines")
+            shows("Untitled, Swift · 2 lines")
+        }
+
+        function test_opensWhatIsWanted() {
+            Workspace.addCode("a", "python", "1")
+            const b = Workspace.addCode("b", "sql", "select 2")
+            open({ focusDocument: b })
+            tryVerify(() => find("Source of b"))
+            compare(find("Source of b").text, "select 2")
+        }
+
+        function test_runsOnce() {
+            Workspace.addCode("list", "json", "[1,2]")
+            open()
+            verify(!find("Console"))
+            keyClick(Qt.Key_R, Qt.ControlModifier)
+            keyClick(Qt.Key_R, Qt.ControlModifier)
+            shows("Console")
+            shows("Succeeded")
+            shows("JSON")
+            compare(find("Output").text, "[\n  1,\n  2\n]")
+            click("Copy output")
+            shows("Copied")
+
+            // Escape hides the console from wherever the keyboard is.
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Console"))
+            compare(focused().Accessible.name, "Source of list")
+            click("Run snippet")
+            shows("Succeeded")
+            click("Hide output")
+            tryVerify(() => !find("Console"))
+        }
+
+        function test_undoStaysWithinADocument() {
+            Workspace.addCode("a", "plain", "same")
+            Workspace.addCode("b", "plain", "same")
+            Workspace.addCode("c", "plain", "other")
+            open()
+            type("x")
+            keyClick(Qt.Key_Backspace)
+            for (const next of ["b", "c"]) {
+                click(next + ", Plain text · 1 line")
+                shows("Source of " + next)
+                click("Source of " + next)
+                keyClick(Qt.Key_Z, Qt.ControlModifier)
+                compare(saved().map(document => document.source).join(), "same,same,other")
+            }
+        }
+
+        function test_renamesInPlace() {
+            Workspace.addCode("a", "python", "")
+            open()
+            click("a, Python · 1 line")
+            keyClick(Qt.Key_F2)
+            compare(focused().Accessible.name, "Title")
+            type("new name")
+            keyClick(Qt.Key_Return)
+            compare(titles(), "new name")
+            compare(focused().Accessible.name, "Source of new name")
+            click("Title")
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            type("  ")
+            keyClick(Qt.Key_Return)
+            compare(titles(), "new name")
+            compare(find("Title").text, "new name")
+            click("Title")
+            type("zzz")
+            keyClick(Qt.Key_Escape)
+            compare(titles(), "new name")
+        }
+
+        function test_railByKeys() {
+            for (const title of ["a", "b", "c"])
+                Workspace.addCode(title, "python", title)
+            open()
+            click("Search snippets")
+            keyClick(Qt.Key_Down)
+            compare(focused().Accessible.name, "a, Python · 1 line")
+            keyClick(Qt.Key_Down)
+            shows("Source of b")
+            compare(focused().Accessible.name, "b, Python · 1 line")
+            keyClick(Qt.Key_Backtab, Qt.ShiftModifier)
+            compare(focused().Accessible.name, "Search snippets")
+            keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "b, Python · 1 line")
+            keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "Title")
+            keyClick(Qt.Key_Backtab, Qt.ShiftModifier)
+            compare(focused().Accessible.name, "b, Python · 1 line")
+            keyClick(Qt.Key_End)
+            shows("Source of c")
+            keyClick(Qt.Key_Delete)
+            shows("Delete this snippet?")
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Delete this snippet?"))
+            compare(titles(), "a,b,c")
+            keyClick(Qt.Key_Delete)
+            shows("Delete this snippet?")
+            keyClick(Qt.Key_Return)
+            compare(titles(), "a,b")
+            shows("Source of a")
+            tryVerify(() => focused().Accessible.name === "a, Python · 1 line")
+            keyClick(Qt.Key_Return)
+            compare(focused().Accessible.name, "Source of a")
+        }
+
+        function test_search() {
+            Workspace.addCode("first", "python", "print(1)")
+            Workspace.addCode("second", "sql", "select 1")
+            open()
+            click("Search snippets")
+            type("SELECT")
+            tryVerify(() => !find("first, Python · 1 line"))
+            verify(find("second, SQL · 1 line"))
+            type("?")
+            shows("No snippet matches.")
+            keyClick(Qt.Key_Escape)
+            shows("first, Python · 1 line")
+        }
+
+        function test_languageColoursAndCopies() {
+            const id = Workspace.addCode("a", "python", "a = 1")
+            open()
+            click("Language: Python")
+            click("Shell")
+            compare(saved()[0].language, "shell")
+            shows("Language: Shell")
+            click("More")
+            click("Duplicate")
+            compare(titles(), "a,a copy")
+            shows("Source of a copy")
+        }
+
+        function test_statusBar() {
+            Workspace.addCode("a", "python", "long ".repeat(100))
+            open()
+            const editor = find("Source of a")
+            const size = editor.font.pixelSize
+            compare(editor.lineCount, 1)
+            click("Wrap long lines")
+            tryVerify(() => editor.lineCount > 1)
+            click("Larger text")
+            compare(editor.font.pixelSize, size + 1)
+            click("Smaller text")
+            click("Smaller text")
+            compare(editor.font.pixelSize, size - 1)
+            const left = editor.mapToItem(root, 0, 0).x
+            click("Line numbers")
+            verify(editor.mapToItem(root, 0, 0).x < left)
+        }
+
+        function test_narrowWindowTakesTurns() {
+            Workspace.addCode("a", "python", "")
+            Workspace.addCode("b", "python", "")
+            open()
+            root.view.anchors.fill = undefined
+            root.view.width = 600
+            root.view.height = 500
+            tryVerify(() => !find("Search snippets"))
+            click("Show the list")
+            tryVerify(() => find("Search snippets") && !find("Source of a"))
+            click("b, Python · 1 line")
+            shows("Source of b")
+            verify(!find("Search snippets"))
+        }
+    }
+}

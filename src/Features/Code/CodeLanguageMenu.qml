@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQml.Models
 import Orvel.Code
@@ -16,12 +18,14 @@ OVMenu {
         model: CodeLanguageList.rawTexts
 
         OVMenuItem {
+            id: item
+
             required property string modelData
 
             checkable: true
-            checked: CodeLanguageList.label(root.language) === text
-            text: CodeLanguageList.label(modelData)
-            onTriggered: root.picked(modelData)
+            checked: CodeLanguageList.label(root.language) === item.text
+            text: CodeLanguageList.label(item.modelData)
+            onTriggered: root.picked(item.modelData)
         }
 
         onObjectAdded: (index, object) => root.insertItem(index, object as OVMenuItem)

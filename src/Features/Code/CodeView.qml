@@ -8,7 +8,8 @@ import Orvel.Session
 FocusScope {
     id: root
 
-    property alias focusDocument: code.focusDocument
+    /// The id of the document to open first.
+    property var focusDocument
     readonly property alias viewModel: code
     readonly property bool isNarrow: width < 720 * Theme.fontScale
     readonly property int padding: isNarrow ? Theme.screenPaddingNarrow : Theme.screenPadding
@@ -26,13 +27,13 @@ FocusScope {
 
     /// Opens another document once what is being typed has reached the present one.
     function open(documentID) {
-        Qt.inputMethod.commit()
+        Qt.inputMethod.commit() // qmllint disable missing-property
         code.select(documentID)
         railOverEditor = false
     }
 
     function makeDocument() {
-        Qt.inputMethod.commit()
+        Qt.inputMethod.commit() // qmllint disable missing-property
         code.newDocument()
         railOverEditor = false
         pane.editor.forceFocus(Qt.OtherFocusReason)
@@ -52,6 +53,7 @@ FocusScope {
     CodeViewModel {
         id: code
         active: root.visible
+        focusDocument: root.focusDocument
         store: Orvel.store
         ui: Orvel.ui
     }

@@ -46,8 +46,9 @@ void CodeViewModel::setActive(bool active)
     m_refresh.request();
 }
 
-void CodeViewModel::setFocusDocument(const QUuid &id)
+void CodeViewModel::setFocusDocument(const QVariant &document)
 {
+    const QUuid id = document.toUuid();
     if (m_focusDocument == id)
         return;
     m_focusDocument = id;

@@ -20,7 +20,7 @@ class CodeViewModel : public QObject
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
     /// The document that the person came for; null for none.
     Q_PROPERTY(
-        QUuid focusDocument READ focusDocument WRITE setFocusDocument NOTIFY focusDocumentChanged FINAL)
+        QVariant focusDocument READ focusDocument WRITE setFocusDocument NOTIFY focusDocumentChanged FINAL)
 
     /// `CodeRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
@@ -32,7 +32,7 @@ class CodeViewModel : public QObject
     /// The place of the open document among the rows, -1 if it is not among them.
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selectedRowChanged FINAL)
 
-    Q_PROPERTY(QUuid selectedID READ selectedID NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(QVariant selectedID READ selectedVariant NOTIFY selectionChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     Q_PROPERTY(QString language READ language NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString languageText READ languageText NOTIFY languageChanged FINAL)
@@ -62,8 +62,8 @@ public:
     void setUi(UIState *ui);
     bool isActive() const { return m_active; }
     void setActive(bool active);
-    QUuid focusDocument() const { return m_focusDocument; }
-    void setFocusDocument(const QUuid &id);
+    QVariant focusDocument() const { return m_focusDocument; }
+    void setFocusDocument(const QVariant &document);
 
     QAbstractItemModel *rows() { return &m_rows; }
     const QString &query() const { return m_query; }
@@ -73,6 +73,7 @@ public:
     int selectedRow() const { return m_selectedRow; }
 
     QUuid selectedID() const { return m_selectedID; }
+    QVariant selectedVariant() const { return m_selectedID; }
     QString title() const { return m_shown.title; }
     QString language() const { return enumRawText(m_shown.language); }
     QString languageText() const { return enumLabel(m_shown.language); }

@@ -10,7 +10,9 @@ FocusScope {
 
     property string text
     property color color: Theme.ovInk
-    readonly property real fullHeight: area.contentHeight + area.y + Theme.space12
+    property int padding: Theme.space12
+    property int topPadding: padding
+    readonly property real fullHeight: area.contentHeight + area.y + padding
     property alias input: area
 
     implicitHeight: fullHeight
@@ -53,8 +55,8 @@ FocusScope {
             textFormat: TextEdit.PlainText
             width: flickable.width - 2 * x
             wrapMode: TextEdit.Wrap
-            x: Theme.space12
-            y: Theme.space4
+            x: root.padding
+            y: root.topPadding
             Keys.onDownPressed: flickable.flick(0, -600)
             Keys.onPressed: event => menuArea.handleKey(event)
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)

@@ -105,5 +105,6 @@ FocusScope {
         color: root.result.hasResult ? Theme.ovInk : Theme.ovInkSecondary
         focus: true
         text: root.viewModel.consoleText
+        topPadding: Theme.space4
     }
 }

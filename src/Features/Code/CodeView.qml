@@ -27,13 +27,13 @@ FocusScope {
 
     /// Opens another document once what is being typed has reached the present one.
     function open(documentID) {
-        Qt.inputMethod.commit() // qmllint disable missing-property
+        Qt.inputMethod.commit() // qmllint disable
         code.select(documentID)
         railOverEditor = false
     }
 
     function makeDocument() {
-        Qt.inputMethod.commit() // qmllint disable missing-property
+        Qt.inputMethod.commit() // qmllint disable
         code.newDocument()
         railOverEditor = false
         pane.editor.forceFocus(Qt.OtherFocusReason)

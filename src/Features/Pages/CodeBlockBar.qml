@@ -15,7 +15,7 @@ Item {
     readonly property bool canRun: CodeLanguageList.canRun(language)
 
     function stops(): list<Item> {
-        return [languageButton, runButton, copyButton].filter(button => button.enabled)
+        return run.running ? [languageButton, copyButton] : [languageButton, runButton, copyButton]
     }
 
     implicitHeight: Theme.fieldHeight

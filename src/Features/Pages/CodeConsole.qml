@@ -20,7 +20,7 @@ Item {
     signal copyRequested()
 
     function stops(): list<Item> {
-        return [copyButton, hideButton, output].filter(part => part.visible)
+        return copyButton.visible ? [copyButton, hideButton, output] : hideButton.visible ? [hideButton, output] : []
     }
 
     implicitHeight: head.height + (output.visible ? output.height : 0)

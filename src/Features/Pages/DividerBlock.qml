@@ -10,7 +10,7 @@ BlockBody {
     implicitHeight: Theme.space32
     Accessible.name: qsTr("Divider")
     Accessible.role: Accessible.Separator
-    Keys.forwardTo: root.keyTarget
+    Keys.forwardTo: [root.keyTarget]
     onActiveFocusChanged: {
         if (!activeFocus)
             return

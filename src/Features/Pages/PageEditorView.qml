@@ -1,5 +1,4 @@
 import QtQuick
-import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
 

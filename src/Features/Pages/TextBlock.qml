@@ -114,7 +114,7 @@ BlockBody {
         storedText: root.storedText
         y: root.isCallout ? Theme.space4 : 0
         Accessible.name: root.label
-        Keys.forwardTo: root.keyTarget
+        Keys.forwardTo: [root.keyTarget]
         onActiveFocusChanged: {
             if (!activeFocus)
                 root.editor.blockLeft(blockID)

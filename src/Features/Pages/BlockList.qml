@@ -138,7 +138,9 @@ ScreenList {
         onLeftBackwards: root.count > 0 ? root.show(root.count - 1).part.focusByTab(false) : root.leftBackwards()
     }
 
-    BlockCaret { id: blockCaret }
+    BlockCaret {
+        id: blockCaret
+    }
 
     Connections {
         target: root.editor

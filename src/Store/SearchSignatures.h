@@ -77,6 +77,13 @@ public:
         return entry->signature;
     }
 
+    /// Most of a search is waiting for memory: has it fetched ahead of being asked for.
+    void prefetch(qsizetype index, const SignatureQuery &query) const
+    {
+        if (std::size_t(index) < m_entries.size() && m_entries[std::size_t(index)])
+            m_entries[std::size_t(index)]->signature.prefetch(query);
+    }
+
     /// Makes missing signatures until the deadline, but one at least; true once none is missing.
     bool makeUntil(const RecordList<Record> &list, const QDeadlineTimer &deadline)
     {

@@ -25,9 +25,9 @@ QString titleOrUntitled(const QString &title)
 class Search
 {
 public:
-    Search(const WorkspaceStore &store, const QString &folded) : m_store(store), m_query(folded)
+    Search(const WorkspaceStore &store, const QString &folded)
+        : m_store(store), m_query(folded), m_signatureQuery(folded)
     {
-        m_signature.add(folded);
     }
 
     QList<SearchResult> take() { return std::move(m_results); }
@@ -36,9 +36,11 @@ public:
     void addSigned(const RecordList<Record> &list, SearchSignatures<Record> &signatures)
     {
         signatures.follow(list);
-        for (qsizetype i = 0; i < list.size() && !isFull(); ++i)
-            if (signatures.signature(list, i).mayHold(m_signature) && isIn(searchedTexts(list.all()[i])))
+        for (qsizetype i = 0; i < list.size() && !isFull(); ++i) {
+            signatures.prefetch(i + 16, m_signatureQuery);
+            if (signatures.signature(list, i).mayHold(m_signatureQuery) && isIn(searchedTexts(list.all()[i])))
                 m_results.append(result(list.all()[i]));
+        }
     }
 
     template <typename Record, typename Texts>
@@ -171,7 +173,7 @@ private:
 
     const WorkspaceStore &m_store;
     QString m_query;
-    TextSignature m_signature;
+    SignatureQuery m_signatureQuery;
     QList<SearchResult> m_results;
 };
 } // namespace

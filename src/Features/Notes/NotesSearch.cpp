@@ -25,13 +25,12 @@ QList<const Page *> NotesSearch::filtered(const QString &query) const
     const QString folded = query.trimmed().toLower();
     if (folded.isEmpty())
         return m_store.notes();
-    TextSignature signature;
-    signature.add(folded);
+    const SignatureQuery signatureQuery(folded);
     const auto isFound = [&](const Page &page) {
         if (page.kind != PageKind::note)
             return false;
         const Known *const known = find(page);
-        return (!known || known->signature.mayHold(signature)) && holds(page, folded);
+        return (!known || known->signature.mayHold(signatureQuery)) && holds(page, folded);
     };
     return Questions::newestFirst(Questions::where(m_store.pages(), isFound), &Page::updatedDate);
 }

@@ -73,7 +73,7 @@ Item {
             id: titleText
 
             readonly property real room: keysText.x - x - Theme.space12
-            readonly property real subtitleRoom: row.subtitle !== "" ? Math.min(room * 0.4, subtitleText.implicitWidth + Theme.space12) : 0
+            readonly property real subtitleRoom: row.subtitle !== "" ? Math.min(room * 0.4, Math.ceil(subtitleMetrics.advanceWidth) + Theme.space12) : 0
 
             anchors.verticalCenter: parent.verticalCenter
             maximumLineCount: 1
@@ -83,6 +83,13 @@ Item {
             width: room - subtitleRoom
             x: Theme.space12 + Theme.iconRow + Theme.space12
             Accessible.ignored: true
+        }
+
+        // The label itself would measure differently once it is cut.
+        TextMetrics {
+            id: subtitleMetrics
+            font: subtitleText.font
+            text: row.subtitle
         }
 
         OVText {

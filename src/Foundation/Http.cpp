@@ -101,6 +101,11 @@ private:
 
     void finish()
     {
+        // It is this exchange that gives up on a silent server; its own aborts are not heard here.
+        if (m_reply->error() == QNetworkReply::OperationCanceledError) {
+            end(std::unexpected(QStringLiteral("The answer took too long.")));
+            return;
+        }
         if (!isAnswered(m_reply->error())) {
             end(std::unexpected(m_reply->errorString()));
             return;

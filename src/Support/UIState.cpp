@@ -11,6 +11,9 @@ void UIState::set(T &member, const T &value, void (UIState::*changed)())
 
 void UIState::setSelection(const Destination &selection)
 {
+    // Who goes to the same place again may have opened another document in it meanwhile.
+    if (selection.kind == Destination::Kind::codeDocument)
+        setCodeDocumentID(selection.id);
     set(m_selection, selection, &UIState::selectionChanged);
 }
 

@@ -22,6 +22,7 @@ OVMenu {
 
             required property string modelData
 
+            autoExclusive: true
             checkable: true
             checked: CodeLanguageList.label(root.language) === item.text
             text: CodeLanguageList.label(item.modelData)

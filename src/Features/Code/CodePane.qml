@@ -78,6 +78,10 @@ FocusScope {
                 viewModel: root.viewModel
                 visible: root.viewModel.showConsole
                 width: parent.width
+                onVisibleChanged: {
+                    if (!visible && activeFocus)
+                        editor.forceFocus(Qt.OtherFocusReason)
+                }
             }
 
             CodeStatusBar {

@@ -45,6 +45,14 @@ FocusScope {
         question.open()
     }
 
+    // What is hidden would keep the keyboard.
+    onShowsRailChanged: {
+        if (rail.activeFocus && !showsRail)
+            pane.editor.forceFocus(Qt.OtherFocusReason)
+        else if (pane.activeFocus && isNarrow && showsRail)
+            rail.focusList()
+    }
+
     Keys.onEscapePressed: event => {
         event.accepted = code.showConsole
         code.showConsole = false
@@ -87,6 +95,7 @@ FocusScope {
         anchors.fill: parent
         anchors.margins: root.padding
         anchors.topMargin: root.isNarrow ? Theme.space16 : Theme.space24
+        enabled: visible
         focus: true
         visible: !code.isEmpty
 
@@ -97,7 +106,10 @@ FocusScope {
             visible: root.showsRail
             width: root.isNarrow ? parent.width : Math.round(Math.min(220 * Theme.fontScale, root.width * 0.34))
             onDeleteRequested: documentID => root.ask(documentID)
-            onEditRequested: pane.editor.forceFocus(Qt.TabFocusReason)
+            onEditRequested: {
+                root.railOverEditor = false
+                pane.editor.forceFocus(Qt.TabFocusReason)
+            }
             onHideRequested: root.toggleRail()
             onNewRequested: root.makeDocument()
             onPicked: documentID => root.open(documentID)

@@ -31,9 +31,17 @@ void CodeViewModel::setUi(UIState *ui)
 {
     if (m_ui == ui)
         return;
+    if (m_ui)
+        m_ui->disconnect(this);
     m_ui = ui;
-    if (m_ui && m_selectedID.isNull())
-        m_selectedID = m_ui->codeDocumentID();
+    if (m_ui) {
+        if (m_selectedID.isNull())
+            m_selectedID = m_ui->codeDocumentID();
+        connect(m_ui, &UIState::codeDocumentIDChanged, this, [this] {
+            if (m_store && m_active)
+                select(m_ui->codeDocumentID());
+        });
+    }
     emit uiChanged();
 }
 
@@ -140,9 +148,11 @@ void CodeViewModel::deleteDocument(const QUuid &id)
 void CodeViewModel::rename(const QUuid &id, const QString &title)
 {
     const QString trimmed = title.trimmed();
-    if (trimmed.isEmpty())
+    const CodeDocument *const renamed = m_store->codeDocuments().first(id);
+    if (trimmed.isEmpty() || !renamed)
         return;
-    change(id, [&](CodeDocument &document) { document.title = trimmed; });
+    if (renamed->title != trimmed)
+        change(id, [&](CodeDocument &document) { document.title = trimmed; });
     // The field shows at once what became of its text.
     refresh();
 }

@@ -97,7 +97,8 @@ ScreenListRow {
         }
         case Qt.Key_PageUp:
         case Qt.Key_PageDown:
-            jumped(key)
+            if (!shift)
+                jumped(key)
             return !shift
         case Qt.Key_Tab:
             tab(!shift)

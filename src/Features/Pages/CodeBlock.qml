@@ -120,6 +120,12 @@ BlockBody {
                 sourceComponent: CodeConsole {
                     run: root.run
                     onCopyRequested: root.editor.copyOutput(root.blockID)
+                    onHideRequested: {
+                        // The console takes the focus with it.
+                        if (root.activeFocus)
+                            code.forceFocus()
+                        root.run.clear()
+                    }
                 }
                 // qmllint enable unqualified
             }

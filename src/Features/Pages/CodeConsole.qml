@@ -18,6 +18,7 @@ Item {
     }
 
     signal copyRequested()
+    signal hideRequested()
 
     function stops(): list<Item> {
         return copyButton.visible ? [copyButton, hideButton, output] : hideButton.visible ? [hideButton, output] : []
@@ -86,7 +87,7 @@ Item {
             symbol: "xmark"
             text: qsTr("Hide output")
             visible: root.run.hasResult
-            onClicked: root.run.clear()
+            onClicked: root.hideRequested()
         }
     }
 

@@ -1,5 +1,6 @@
 #include "Features/Pages/FieldText.h"
 
+#include <QScopedValueRollback>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -48,6 +49,7 @@ void FieldText::readField()
         return;
     m_shown = text;
     m_text = text;
+    const QScopedValueRollback answering(m_answering, true);
     emit edited(text);
 }
 
@@ -73,9 +75,15 @@ void FieldText::fillField()
     if (nothingToUndo)
         document->setUndoRedoEnabled(false);
     QTextCursor cursor(document);
+    // One undo takes back the person's change together with what was made of it.
+    const bool joins = m_answering && !nothingToUndo;
+    if (joins)
+        cursor.joinPreviousEditBlock();
     cursor.setPosition(int(begin));
     cursor.setPosition(int(shownEnd), QTextCursor::KeepAnchor);
     cursor.insertText(m_text.sliced(begin, end - begin));
+    if (joins)
+        cursor.endEditBlock();
     if (nothingToUndo)
         document->setUndoRedoEnabled(true);
     m_filling = false;

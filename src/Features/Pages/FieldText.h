@@ -48,4 +48,6 @@ private:
     QString m_shown;
     bool m_composing = false;
     bool m_filling = false;
+    /// Whether the person's own change is being told, so that what it leads to belongs to it.
+    bool m_answering = false;
 };

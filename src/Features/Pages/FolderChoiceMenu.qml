@@ -23,6 +23,8 @@ OVMenu {
             required property bool isCurrent
             required property var folderID
 
+            // The choice that holds stays marked when it is made again.
+            autoExclusive: true
             checkable: true
             checked: isCurrent
             // An ampersand would mark a mnemonic.

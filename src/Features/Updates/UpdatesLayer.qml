@@ -48,7 +48,12 @@ Item {
         error: root.updates.failure
         onUpdateRequested: root.updates.install()
         onLaterRequested: root.updates.postpone()
-        onClosed: if (root.updates.isOffering && root.enabled) root.updates.postpone()
+        onClosed: {
+            if (root.updates.isInstalling)
+                root.follow()
+            else if (root.updates.isOffering && root.enabled)
+                root.updates.postpone()
+        }
     }
 
     OVDialog {

@@ -163,6 +163,8 @@ void UpdateService::openDownloadPage()
 
 void UpdateService::postpone()
 {
+    if (isInstalling())
+        return;
     setAvailable({});
     setNotice({});
     setInstallProgress({});

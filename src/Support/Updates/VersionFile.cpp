@@ -21,12 +21,16 @@ AvailableUpdate VersionFile::offer(const QUrl &site) const
     const QUrl pageURL = site.resolved(QUrl(page.value_or(QStringLiteral("/"))));
     const QString package = asset.download.value_or(QString());
     const QUrl downloadURL = package.isEmpty() ? QUrl() : site.resolved(QUrl(package));
+    const QString checksum = asset.sha256.value_or(QString());
+    // Over plain http without a checksum, anybody on the way could put in a program of their own.
+    const bool isLessSafe =
+        site.scheme() == u"https" && downloadURL.scheme() != u"https" && checksum.trimmed().isEmpty();
     return {
         .version = version,
         .build = buildOrZero(),
         .notes = notes.value_or(QString()),
-        .downloadURL = Http::isWebAddress(downloadURL) ? downloadURL : QUrl(),
-        .sha256 = asset.sha256.value_or(QString()),
+        .downloadURL = Http::isWebAddress(downloadURL) && !isLessSafe ? downloadURL : QUrl(),
+        .sha256 = checksum,
         .pageURL = Http::isWebAddress(pageURL) ? pageURL : site,
     };
 }

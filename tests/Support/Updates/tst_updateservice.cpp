@@ -155,6 +155,8 @@ private slots:
                    offer.downloadURL = site("/l");
                    offer.sha256 = u"EF"_s;
                });
+        QTest::newRow("over plain http without a checksum")
+            << quoted("{'version': '2.0', 'download': 'http://cdn.example/x'}") << bare;
         QTest::newRow("nothing for this platform")
             << quoted("{'version': '2.0', 'download': '/x', 'linux': {}}") << bare;
         QTest::newRow("addresses that are none of the web")

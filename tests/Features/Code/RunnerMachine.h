@@ -66,6 +66,12 @@ public:
         return count;
     }
 
+    /// A process that is just becoming another program is not counted, so one look has to be enough.
+    bool waitForMoreProcessesThan(int count) const
+    {
+        return QTest::qWaitFor([&] { return processes() > count; }, 30'000);
+    }
+
     QStringList scratchFolders() const
     {
         return QDir(options.temporaryFolder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);

@@ -300,7 +300,7 @@ private slots:
         bool hasAnswer = false;
         runner->run(u"trap '' TERM; sleep 1000; sleep 1000"_s, CodeLanguage::shell, this,
                     [&](const CodeRunResult &) { hasAnswer = true; });
-        QTRY_VERIFY(machine.processes() > 1);
+        QVERIFY(machine.waitForMoreProcessesThan(1));
         runner.reset();
         QCOMPARE(machine.processes(), 0);
         QCOMPARE(machine.scratchFolders(), QStringList());
@@ -321,7 +321,7 @@ private slots:
         program.setProcessEnvironment(machine.options.environment);
         program.start(QCoreApplication::applicationFilePath(),
                       {u"--run-in"_s, machine.options.temporaryFolder});
-        QTRY_VERIFY_WITH_TIMEOUT(machine.processes() > 2, 30'000);
+        QVERIFY(machine.waitForMoreProcessesThan(2));
         QCOMPARE(machine.scratchFolders().size(), 1);
         program.kill();
         QVERIFY(program.waitForFinished());

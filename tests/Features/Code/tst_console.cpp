@@ -80,7 +80,7 @@ private slots:
         RunnerMachine machine;
         auto run = std::make_unique<CodeRun>(machine.options);
         run->run(u"sleep 100"_s, u"shell"_s);
-        QTRY_VERIFY(machine.processes() > 0);
+        QVERIFY(machine.waitForMoreProcessesThan(0));
         run.reset();
         QCOMPARE(machine.processes(), 0);
     }

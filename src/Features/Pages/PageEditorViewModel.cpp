@@ -1,6 +1,7 @@
 #include "Features/Pages/PageEditorViewModel.h"
 
 #include "Features/Pages/PageBlocks.h"
+#include "Foundation/EnumChoices.h"
 #include "Models/CodeLanguage.h"
 
 #include <QClipboard>
@@ -10,30 +11,6 @@
 
 namespace
 {
-template <TabledEnum Enum>
-bool isCase(int position)
-{
-    return position >= 0 && position < int(enumCases<Enum>().size());
-}
-
-template <TabledEnum Enum>
-QStringList labels()
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<Enum>())
-        texts.append(enumLabel(entry.value));
-    return texts;
-}
-
-template <TabledEnum Enum>
-QStringList symbols()
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<Enum>())
-        texts.append(enumSymbol(entry.value));
-    return texts;
-}
-
 Block freshBlock(const QString &text = {})
 {
     Block block;
@@ -69,31 +46,24 @@ void PageEditorViewModel::setPageID(const QUuid &pageID)
     refresh();
 }
 
-void PageEditorViewModel::setTitle(const QString &title)
-{
-    const Page *const shown = page();
-    if (shown && shown->title != title)
-        changePage([&](Page &page) { page.title = title; });
-}
-
 QStringList PageEditorViewModel::typeLabels()
 {
-    return labels<BlockType>();
+    return EnumChoices::labels<BlockType>();
 }
 
 QStringList PageEditorViewModel::typeSymbols()
 {
-    return symbols<BlockType>();
+    return EnumChoices::symbols<BlockType>();
 }
 
 QStringList PageEditorViewModel::toneLabels()
 {
-    return labels<CalloutTone>();
+    return EnumChoices::labels<CalloutTone>();
 }
 
 QStringList PageEditorViewModel::toneSymbols()
 {
-    return symbols<CalloutTone>();
+    return EnumChoices::symbols<CalloutTone>();
 }
 
 void PageEditorViewModel::blockFocused(const QUuid &blockID)
@@ -150,7 +120,7 @@ void PageEditorViewModel::moveBlock(const QUuid &blockID, int delta)
 
 void PageEditorViewModel::changeType(const QUuid &blockID, int type)
 {
-    if (!isCase<BlockType>(type))
+    if (!EnumChoices::isCase<BlockType>(type))
         return;
     changeBlock(blockID, [&](Block &block) { PageBlocks::changeType(block, BlockType(type)); });
     requestFocus(blockID, -1);
@@ -158,7 +128,7 @@ void PageEditorViewModel::changeType(const QUuid &blockID, int type)
 
 void PageEditorViewModel::applySlash(const QUuid &blockID, int type)
 {
-    if (!isCase<BlockType>(type))
+    if (!EnumChoices::isCase<BlockType>(type))
         return;
     changeBlock(blockID, [&](Block &block) {
         PageBlocks::changeType(block, BlockType(type));
@@ -206,7 +176,7 @@ void PageEditorViewModel::toggleChecked(const QUuid &blockID)
 
 void PageEditorViewModel::setTone(const QUuid &blockID, int tone)
 {
-    if (isCase<CalloutTone>(tone))
+    if (EnumChoices::isCase<CalloutTone>(tone))
         changeBlock(blockID, [&](Block &block) { block.tone = CalloutTone(tone); });
 }
 

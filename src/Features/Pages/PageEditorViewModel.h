@@ -17,7 +17,7 @@ class PageEditorViewModel : public QObject
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
     Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
-    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     /// `BlockRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
     Q_PROPERTY(bool isZen MEMBER m_isZen NOTIFY isZenChanged FINAL)
@@ -37,7 +37,6 @@ public:
     QUuid pageID() const { return m_pageID; }
     void setPageID(const QUuid &pageID);
     const QString &title() const { return m_title; }
-    void setTitle(const QString &title);
     QAbstractItemModel *rows() { return &m_rows; }
     const QList<int> &slashTypes() const { return m_slashTypes; }
 

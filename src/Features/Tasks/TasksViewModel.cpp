@@ -1,26 +1,9 @@
 #include "Features/Tasks/TasksViewModel.h"
 
+#include "Foundation/EnumChoices.h"
 #include "Foundation/LineText.h"
 
 #include <utility>
-
-namespace
-{
-template <TabledEnum Enum>
-bool isCase(int position)
-{
-    return position >= 0 && position < int(enumCases<Enum>().size());
-}
-
-template <TabledEnum Enum>
-QStringList labels()
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<Enum>())
-        texts.append(enumLabel(entry.value));
-    return texts;
-}
-} // namespace
 
 TasksViewModel::TasksViewModel(QObject *parent) : QObject(parent), m_refresh([this] { refresh(); }) {}
 
@@ -82,7 +65,7 @@ void TasksViewModel::addTask()
 
 void TasksViewModel::setFilter(int filter)
 {
-    if (filter == int(m_filter) || !isCase<TaskFilter>(filter))
+    if (filter == int(m_filter) || !EnumChoices::isCase<TaskFilter>(filter))
         return;
     m_filter = TaskFilter(filter);
     emit filterChanged();
@@ -105,12 +88,12 @@ QString TasksViewModel::countText() const
 
 QStringList TasksViewModel::filterTexts() const
 {
-    return labels<TaskFilter>();
+    return EnumChoices::labels<TaskFilter>();
 }
 
 QStringList TasksViewModel::statusTexts() const
 {
-    return labels<TaskStatus>();
+    return EnumChoices::labels<TaskStatus>();
 }
 
 QStringList TasksViewModel::priorityTexts() const
@@ -133,7 +116,7 @@ void TasksViewModel::cycleTaskStatus(const QUuid &taskID)
 
 void TasksViewModel::setTaskStatus(const QUuid &taskID, int status)
 {
-    if (isCase<TaskStatus>(status))
+    if (EnumChoices::isCase<TaskStatus>(status))
         m_store->setTaskStatus(taskID, TaskStatus(status));
 }
 
@@ -144,7 +127,7 @@ void TasksViewModel::cycleTaskPriority(const QUuid &taskID)
 
 void TasksViewModel::setTaskPriority(const QUuid &taskID, int priority)
 {
-    if (isCase<TaskPriority>(priority))
+    if (EnumChoices::isCase<TaskPriority>(priority))
         m_store->setTaskPriority(taskID, TaskPriority(priority));
 }
 

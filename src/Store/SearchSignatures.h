@@ -1,25 +1,12 @@
 #pragma once
 
-#include "Foundation/TextSignature.h"
-#include "Models/CodeDocument.h"
-#include "Models/Page.h"
 #include "Store/RecordList.h"
+#include "Store/SearchedTexts.h"
 
 #include <QDeadlineTimer>
-#include <QStringList>
 
 #include <memory>
 #include <vector>
-
-/// The long texts of a record that a search looks into.
-inline QStringList searchedTexts(const Page &page)
-{
-    return {page.title, page.previewText()};
-}
-inline QStringList searchedTexts(const CodeDocument &document)
-{
-    return {document.title, document.source};
-}
 
 /// Whether the searched texts of both are still one and the same piece of memory, which a change of either
 /// ends. Different memory may hold equal texts; that costs no more than a new signature.
@@ -70,9 +57,8 @@ public:
     {
         std::unique_ptr<Entry> &entry = m_entries[std::size_t(index)];
         if (!entry) {
-            entry = std::make_unique<Entry>(Entry{list.all()[index], {}});
-            for (const QString &text : searchedTexts(entry->record))
-                entry->signature.add(text.toLower());
+            const Record &record = list.all()[index];
+            entry = std::make_unique<Entry>(Entry{record, m_texts.signature(record)});
         }
         return entry->signature;
     }
@@ -109,6 +95,7 @@ private:
 
     /// Null where the signature is still to be made.
     std::vector<std::unique_ptr<Entry>> m_entries;
+    SearchedTexts m_texts;
     /// Before this place no signature is missing.
     std::size_t m_next = 0;
     bool m_isCurrent = false;

@@ -38,7 +38,8 @@ public:
         signatures.follow(list);
         for (qsizetype i = 0; i < list.size() && !isFull(); ++i) {
             signatures.prefetch(i + 16, m_signatureQuery);
-            if (signatures.signature(list, i).mayHold(m_signatureQuery) && isIn(searchedTexts(list.all()[i])))
+            if (signatures.signature(list, i).mayHold(m_signatureQuery) &&
+                m_texts.hold(list.all()[i], m_query))
                 m_results.append(result(list.all()[i]));
         }
     }
@@ -174,6 +175,7 @@ private:
     const WorkspaceStore &m_store;
     QString m_query;
     SignatureQuery m_signatureQuery;
+    SearchedTexts m_texts;
     QList<SearchResult> m_results;
 };
 } // namespace

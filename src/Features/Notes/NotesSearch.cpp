@@ -5,32 +5,18 @@
 
 #include <QDeadlineTimer>
 
-#include <algorithm>
-
-namespace
-{
-bool holds(const Page &note, const QString &folded)
-{
-    const auto isIn = [&folded](const QString &text) { return text.toLower().contains(folded); };
-    const auto isInBlock = [&isIn](const Block &block) { return isIn(block.text); };
-    if (isIn(note.title) || std::ranges::any_of(note.content, isInBlock))
-        return true;
-    // Between the texts of two blocks stands a blank.
-    return folded.contains(u' ') && isIn(note.previewText());
-}
-} // namespace
-
 QList<const Page *> NotesSearch::filtered(const QString &query) const
 {
     const QString folded = query.trimmed().toLower();
     if (folded.isEmpty())
         return m_store.notes();
     const SignatureQuery signatureQuery(folded);
+    SearchedTexts texts;
     const auto isFound = [&](const Page &page) {
         if (page.kind != PageKind::note)
             return false;
         const Known *const known = find(page);
-        return (!known || known->signature.mayHold(signatureQuery)) && holds(page, folded);
+        return (!known || known->signature.mayHold(signatureQuery)) && texts.hold(page, folded);
     };
     return Questions::newestFirst(Questions::where(m_store.pages(), isFound), &Page::updatedDate);
 }
@@ -44,6 +30,7 @@ const NotesSearch::Known *NotesSearch::find(const Page &note) const
 bool NotesSearch::prepare(std::chrono::milliseconds budget)
 {
     const QDeadlineTimer deadline(budget);
+    SearchedTexts texts;
     m_known.removeIf([this](const std::pair<const QUuid &, Known &> &entry) {
         const Page *const page = m_store.pages().first(entry.first);
         return !page || page->kind != PageKind::note;
@@ -53,10 +40,7 @@ bool NotesSearch::prepare(std::chrono::milliseconds budget)
             continue;
         if (deadline.hasExpired())
             return false;
-        Known known{page, {}};
-        for (const QString &text : searchedTexts(page))
-            known.signature.add(text.toLower());
-        m_known.insert(page.id, std::move(known));
+        m_known.insert(page.id, Known{page, texts.signature(page)});
     }
     return true;
 }

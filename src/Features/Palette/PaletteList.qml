@@ -65,6 +65,8 @@ ListView {
     }
 
     boundsBehavior: Flickable.StopAtBounds
+    // Every key fills the rows anew: none that nobody sees.
+    cacheBuffer: 0
     bottomMargin: Theme.space8
     clip: contentHeight + topMargin + bottomMargin > height
     currentIndex: -1

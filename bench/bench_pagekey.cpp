@@ -1,19 +1,13 @@
-#include "DesignSystem/OVTheme.h"
-#include "Features/Shell/SidebarViewModel.h"
-#include "Foundation/SystemClock.h"
 #include "Harness/Comparison.h"
+#include "Harness/Desk.h"
 #include "Harness/WorkspaceGenerator.h"
-#include "Session/OrvelSession.h"
-#include "Store/SnapshotCodec.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickRenderControl>
 #include <QQuickWindow>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -93,30 +87,6 @@ private:
     std::unique_ptr<QQuickItem> m_item;
 };
 
-/// What every window does with a change of a page besides its editor.
-struct Desk {
-    explicit Desk(const QString &path, Snapshot workspace, const Page &page)
-    {
-        workspace.pages.append(page);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(SnapshotCodec::encode(workspace)) < 0) {
-            std::fprintf(stderr, "bench_pagekey: cannot prepare the workspace\n");
-            std::exit(2);
-        }
-        file.close();
-        // The save comes after the last key, so none falls into the measurement.
-        store =
-            std::make_unique<WorkspaceStore>(WorkspaceStore::Options{path, &clock, std::chrono::hours(1)});
-        sidebar.setUi(&ui);
-        sidebar.setStore(store.get());
-    }
-
-    SystemClock clock;
-    UIState ui;
-    std::unique_ptr<WorkspaceStore> store;
-    SidebarViewModel sidebar;
-};
-
 constexpr char editorPage[] = "import QtQuick\nimport Orvel.Pages\n"
                               "PageEditorView { function focusBlock(row) { list.focusBlock(row, 5) } }";
 constexpr char barePage[] =
@@ -139,16 +109,12 @@ QVariantMap texts(const Page &page)
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
-    const QTemporaryDir folder;
     const Page page = longPage();
-    Desk desk(folder.filePath(QStringLiteral("workspace.json")), WorkspaceGenerator::ofFileSize(10'000'000),
-              page);
-    OVTheme::apply(desk.store->settings());
-    UpdateService updates{{}};
-    OrvelSession session(desk.store.get(), &desk.ui, &updates);
+    Snapshot workspace = WorkspaceGenerator::ofFileSize(10'000'000);
+    workspace.pages.append(page);
+    const Desk desk(workspace);
     QQmlEngine engine;
-    engine.addImportPath(QStringLiteral(":/qt/qml"));
-    session.provideTo(engine);
+    desk.provideTo(engine);
     const QVariantMap id{{QStringLiteral("pageID"), page.id}};
     const auto milliseconds = [](double count) { return Comparison::Duration(count); };
 

@@ -67,6 +67,8 @@ private:
     Comparison::Duration toFrame(Action action)
     {
         QCoreApplication::processEvents();
+        // A running program does so on each turn; without it, rows given up would go on living.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return timed([&] {
             action();
             QEvent update(QEvent::UpdateRequest);

@@ -20,6 +20,18 @@ T.Menu {
         widestItem = Math.max(0, ...items.map(item => item.implicitWidth))
     }
 
+    /// Opens below a part of an item, or above it where the window ends too early, but never over it.
+    /// @param x of the menu, in the item
+    /// @param top of the part
+    /// @param bottom of the part
+    function openBeside(item: Item, x: real, top: real, bottom: real) {
+        measure();
+        (contentItem as ListView).forceLayout()
+        const below = item.mapToItem(null, 0, bottom).y + implicitHeight + bottomMargin
+        const fitsAbove = item.mapToItem(null, 0, top).y >= implicitHeight + topMargin
+        popup(item, x, below > item.Window.height && fitsAbove ? top - implicitHeight : bottom)
+    }
+
     function jumpTo(letter: string): bool {
         for (let step = 1; step <= count; ++step) {
             const index = (Math.max(currentIndex, -1) + step + count) % count

@@ -12,7 +12,7 @@ OVPressable {
 
     function open() {
         menu.parent = root
-        menu.popup(root, 0, height + Theme.space4)
+        menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
         menu.currentIndex = visualFocus ? 0 : -1
     }
 

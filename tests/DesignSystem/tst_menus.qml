@@ -75,6 +75,25 @@ Item {
             tryCompare(which, "visible", false)
         }
 
+        function test_opensBesideAndNeverOver_data() {
+            return [
+                { tag: "room below", y: 0, below: true },
+                { tag: "the menu just fits below", y: 600 - 30 - 8 - menu.implicitHeight, below: true },
+                { tag: "no room below", y: 600 - 30 - 7 - menu.implicitHeight, below: false },
+                { tag: "at the end", y: 570, below: false }
+            ]
+        }
+        function test_opensBesideAndNeverOver(data) {
+            opener.y = data.y
+            menu.openBeside(opener, 0, 0, opener.height)
+            tryCompare(menu, "opened", true)
+            const top = menu.contentItem.mapToItem(opener, 0, 0).y - menu.topPadding
+            compare(top, data.below ? opener.height : -menu.height)
+            menu.close()
+            closed(menu)
+            opener.y = 0
+        }
+
         function test_arrowsSkipWhatCannotBeChosen() {
             openMenu()
             keyClick(Qt.Key_Down)

@@ -115,7 +115,7 @@ Item {
             Accessible.role: Accessible.ButtonMenu
             symbol: "ellipsis"
             text: qsTr("More")
-            onClicked: menu.popup(more, 0, height + Theme.space4)
+            onClicked: menu.openBeside(more, 0, -Theme.space4, height + Theme.space4)
 
             CodeDocumentMenu {
                 id: menu

@@ -108,7 +108,7 @@ ScreenList {
         tones.active = true
         const toneMenu = tones.item as ChoiceMenu
         toneMenu.row = row
-        toneMenu.popup(from, 0, from.height)
+        toneMenu.openBeside(from, 0, 0, from.height)
     }
 
     // New blocks come while the person types, when nothing else may move.

@@ -16,9 +16,9 @@ OVMenu {
         hadFocus = row.activeFocus
         const byKeys = from === row
         if (byKeys)
-            popup(row, row.list.columnX, row.part.firstLineCenter + Theme.space16)
+            openBeside(row, row.list.columnX, 0, Math.min(row.rowHeight, 2 * row.part.firstLineCenter))
         else
-            popup(from, 0, from.height)
+            openBeside(from, 0, 0, from.height)
         currentIndex = byKeys ? 0 : -1
     }
 

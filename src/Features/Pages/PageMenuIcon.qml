@@ -10,7 +10,7 @@ OVIconButton {
 
     function open() {
         menu.measure()
-        menu.popup(root, width - menu.width, height + Theme.space4)
+        menu.openBeside(root, width - menu.width, -Theme.space4, height + Theme.space4)
         menu.currentIndex = visualFocus ? 0 : -1
     }
 

@@ -29,7 +29,6 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         compact: true
         navigation: navigationModel
-        opensUpwards: true
     }
 
     Row {

@@ -43,7 +43,6 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 compact: true
                 navigation: navigationModel
-                opensUpwards: true
             }
 
             Line { }

@@ -6,9 +6,6 @@ import Orvel.Shell
 OVIconButton {
     id: root
 
-    /// Whether the menu opens above the button.
-    property bool opensUpwards: false
-
     symbol: "ellipsis"
     text: qsTr("More")
     toolTip: menu.visible ? "" : text
@@ -19,6 +16,6 @@ OVIconButton {
         id: menu
 
         x: root.width - width
-        y: root.opensUpwards ? -height - Theme.space8 : root.height + Theme.space8
+        y: root.height + Theme.space8
     }
 }

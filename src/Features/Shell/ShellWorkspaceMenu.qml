@@ -10,8 +10,6 @@ OVPressable {
     required property NavigationViewModel navigation
     /// Only the icon, for bars that have little room.
     property bool compact: false
-    /// Whether the menu opens above the button.
-    property bool opensUpwards: false
 
     implicitHeight: tile.implicitHeight + 2 * Theme.space8
     implicitWidth: compact ? tile.implicitWidth + 2 * Theme.space8
@@ -23,7 +21,7 @@ OVPressable {
     toolTip: compact ? text : ""
     Accessible.name: qsTr("Workspace menu, %1").arg(text)
     Accessible.role: Accessible.ButtonMenu
-    onClicked: menu.popup(root, 0, opensUpwards ? -menu.implicitHeight - Theme.space4 : height + Theme.space4)
+    onClicked: menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
 
     contentItem: Item {
         WorkspaceTile {

@@ -20,11 +20,11 @@ namespace
 class Scene
 {
 public:
-    explicit Scene(QQmlEngine &engine, const QByteArray &page, const QVariantMap &properties = {})
+    explicit Scene(QQmlEngine &engine, const QByteArray &page)
     {
         QQmlComponent component(&engine);
         component.setData(page, {});
-        m_page.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(properties)));
+        m_page.reset(qobject_cast<QQuickItem *>(component.create()));
         if (!m_page) {
             std::fprintf(stderr, "bench_codekey: %s\n", qUtf8Printable(component.errorString()));
             std::exit(2);
@@ -107,11 +107,11 @@ int main(int argc, char *argv[])
                                      .language = CodeLanguage::swift,
                                      .source = SourceText::ofSize(100'000)});
     const CodeDocument document = workspace.codeDocuments.first();
-    const Desk desk(workspace);
+    Desk desk(workspace);
+    desk.ui.setCodeDocumentID(document.id);
     QQmlEngine engine;
     desk.provideTo(engine);
-    Scene ours(engine, "import QtQuick\nimport Orvel.Code\nCodeView { focus: true }",
-               {{QStringLiteral("focusDocument"), document.id}});
+    Scene ours(engine, "import QtQuick\nimport Orvel.Code\nCodeView { focus: true }");
     QQuickItem *const input = ours.focused();
     Scene bare(engine, "import QtQuick\nFlickable { contentWidth: width; contentHeight: area.height\n"
                        "TextEdit { id: area; focus: true; width: parent.width; font.family: 'JetBrains Mono';"

@@ -8,8 +8,6 @@ import Orvel.Session
 FocusScope {
     id: root
 
-    /// The id of the document to open first.
-    property var focusDocument
     readonly property alias viewModel: code
     readonly property bool isNarrow: width < 720 * Theme.fontScale
     readonly property int padding: isNarrow ? Theme.screenPaddingNarrow : Theme.screenPadding
@@ -61,9 +59,10 @@ FocusScope {
     CodeViewModel {
         id: code
         active: root.visible
-        focusDocument: root.focusDocument
+        focusDocument: Orvel.ui.codeDocumentID
         store: Orvel.store
-        ui: Orvel.ui
+        // The screen opens again where it was left.
+        onSelectionChanged: Orvel.ui.codeDocumentID = selectedID
     }
 
     Shortcut {

@@ -27,24 +27,6 @@ void CodeViewModel::setStore(WorkspaceStore *store)
     m_refresh.request();
 }
 
-void CodeViewModel::setUi(UIState *ui)
-{
-    if (m_ui == ui)
-        return;
-    if (m_ui)
-        m_ui->disconnect(this);
-    m_ui = ui;
-    if (m_ui) {
-        if (m_selectedID.isNull())
-            m_selectedID = m_ui->codeDocumentID();
-        connect(m_ui, &UIState::codeDocumentIDChanged, this, [this] {
-            if (m_store && m_active)
-                select(m_ui->codeDocumentID());
-        });
-    }
-    emit uiChanged();
-}
-
 void CodeViewModel::setActive(bool active)
 {
     if (m_active == active)
@@ -217,13 +199,13 @@ void CodeViewModel::refresh()
 void CodeViewModel::syncSelection()
 {
     const auto &documents = m_store->codeDocuments();
-    if (m_focusWanted && documents.first(m_focusDocument))
-        m_selectedID = m_focusDocument;
+    QUuid next = m_selectedID;
+    if (std::exchange(m_focusWanted, false) && documents.first(m_focusDocument))
+        next = m_focusDocument;
     else if (!documents.first(m_selectedID))
-        m_selectedID = documents.all().isEmpty() ? QUuid() : documents.all().first().id;
-    m_focusWanted = false;
-    if (m_ui)
-        m_ui->setCodeDocumentID(m_selectedID);
+        next = documents.all().isEmpty() ? QUuid() : documents.all().first().id;
+    m_changedDocuments += {m_selectedID, next};
+    m_selectedID = next;
 }
 
 void CodeViewModel::layOut()

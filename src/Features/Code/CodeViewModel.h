@@ -5,7 +5,6 @@
 #include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
 #include "Store/WorkspaceStore.h"
-#include "Support/UIState.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -15,8 +14,6 @@ class CodeViewModel : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    /// Keeps the open document for when the screen is shown again.
-    Q_PROPERTY(UIState *ui READ ui WRITE setUi NOTIFY uiChanged FINAL)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
     /// The document that the person came for; null for none.
     Q_PROPERTY(
@@ -58,8 +55,6 @@ public:
 
     WorkspaceStore *store() const { return m_store; }
     void setStore(WorkspaceStore *store);
-    UIState *ui() const { return m_ui; }
-    void setUi(UIState *ui);
     bool isActive() const { return m_active; }
     void setActive(bool active);
     QVariant focusDocument() const { return m_focusDocument; }
@@ -110,7 +105,6 @@ public:
 
 signals:
     void storeChanged();
-    void uiChanged();
     void activeChanged();
     void focusDocumentChanged();
     void queryChanged();
@@ -141,7 +135,6 @@ private:
     void locateSelection();
 
     WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
     bool m_active = true;
     QUuid m_focusDocument;
     /// Whether `m_focusDocument` has still to be opened.

@@ -20,7 +20,7 @@ inline constexpr auto screens = std::to_array<Screen>({
     {Destination::Kind::page, "Orvel/Pages/PageEditorView.qml", "pageID"},
     {Destination::Kind::notes, "Orvel/Notes/NotesView.qml", {}},
     {Destination::Kind::code, "Orvel/Code/CodeView.qml", {}},
-    {Destination::Kind::codeDocument, "Orvel/Code/CodeView.qml", "focusDocument"},
+    {Destination::Kind::codeDocument, "Orvel/Code/CodeView.qml", {}},
     {Destination::Kind::tasks, "Orvel/Tasks/TasksView.qml", {}},
 });
 

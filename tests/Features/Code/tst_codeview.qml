@@ -1,6 +1,8 @@
 import QtQuick
 import QtTest
 import Orvel.Code
+import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Testing
 
 /// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file.
@@ -32,8 +34,8 @@ Item {
             Workspace.reset()
         }
 
-        function open(properties = {}) {
-            root.view = createTemporaryObject(screen, root, properties)
+        function open() {
+            root.view = createTemporaryObject(screen, root)
             root.view.forceActiveFocus()
             waitForRendering(root.view)
         }
@@ -43,12 +45,12 @@ Item {
         }
 
         /// The visible item that assistive tools know by this name.
-        function find(name, from = root.Window.contentItem) {
+        function find(name, type = Item, from = root.Window.contentItem) {
             for (let i = 0; i < from.children.length; ++i) {
                 const child = from.children[i]
                 if (!child.visible)
                     continue
-                const found = child.Accessible.name === name ? child : find(name, child)
+                const found = child.Accessible.name === name && child instanceof type ? child : find(name, type, child)
                 if (found)
                     return found
             }
@@ -99,9 +101,23 @@ Item {
         function test_opensWhatIsWanted() {
             Workspace.addCode("a", "python", "1")
             const b = Workspace.addCode("b", "sql", "select 2")
-            open({ focusDocument: b })
-            tryVerify(() => find("Source of b"))
+            Orvel.ui.selectCodeDocument(b)
+            open()
+            shows("Source of b")
             compare(find("Source of b").text, "select 2")
+            click("a, Python · 1 line")
+            shows("Source of a")
+
+            // A person who left it opens it from the palette again.
+            Orvel.ui.selectCodeDocument(b)
+            shows("Source of b")
+
+            // A new look makes the screen anew, where the person was.
+            click("a, Python · 1 line")
+            shows("Source of a")
+            root.view.destroy()
+            open()
+            shows("Source of a")
         }
 
         function test_runsOnce() {
@@ -212,6 +228,51 @@ Item {
             shows("No snippet matches.")
             keyClick(Qt.Key_Escape)
             shows("first, Python · 1 line")
+        }
+
+        function test_hidingTheListLeavesNoKeyboardInIt() {
+            Workspace.addCode("a", "python", "")
+            open()
+            click("Search snippets")
+            click("Hide the list")
+            tryVerify(() => !find("Search snippets"))
+            compare(focused().Accessible.name, "Source of a")
+            click("Show the list")
+            shows("Search snippets")
+            click("Search snippets")
+            keyClick(Qt.Key_Down)
+            compare(focused().Accessible.name, "a, Python · 1 line")
+        }
+
+        function test_hidingTheConsoleLeavesNoKeyboardInIt() {
+            Workspace.addCode("list", "json", "[1]")
+            open()
+            keyClick(Qt.Key_R, Qt.ControlModifier)
+            shows("Succeeded")
+            mouseClick(find("Output"))
+            compare(focused().Accessible.name, "Output")
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Console"))
+            compare(focused().Accessible.name, "Source of list")
+        }
+
+        function test_choosingTheSameAgainChangesNothing() {
+            Workspace.addCode("a", "python", "")
+            open()
+            const before = saved()[0]
+            for (let times = 0; times < 2; ++times) {
+                click("Language: Python")
+                tryVerify(() => find("Python", OVMenuItem)?.checked)
+                verify(!find("Shell", OVMenuItem).checked)
+                waitForRendering(root.view, 100)
+                mouseClick(find("Python", OVMenuItem))
+                tryVerify(() => !find("Python", OVMenuItem))
+            }
+            compare(saved()[0].language, "python")
+            keyClick(Qt.Key_F2)
+            keyClick(Qt.Key_Return)
+            compare(saved()[0].title, before.title)
+            compare(saved()[0].updatedDate, before.updatedDate)
         }
 
         function test_languageColoursAndCopies() {

@@ -21,7 +21,6 @@ private:
         Desk()
         {
             workspace.reset();
-            code.setUi(&workspace.ui());
             code.setStore(&workspace.store());
         }
 
@@ -80,12 +79,10 @@ private slots:
         QCOMPARE(desk.titles(), u"a b c* d"_s);
         desk.code.setFocusDocument(QUuid::createUuid());
         QCOMPARE(desk.titles(), u"a b c* d"_s);
-
-        // The screen opens again where it was left.
-        CodeViewModel again;
-        again.setUi(&desk.workspace.ui());
-        again.setStore(&desk.workspace.store());
-        QTRY_COMPARE(again.selectedID(), c);
+        desk.code.setFocusDocument(c);
+        QCOMPARE(desk.titles(), u"a b c* d"_s);
+        desk.code.setFocusDocument(b);
+        QCOMPARE(desk.titles(), u"a b* c d"_s);
     }
 
     void theFirstOneTakesThePlaceOfADeletedOne()

@@ -112,6 +112,7 @@ FocusScope {
             readonly property int widthStep: 640
             readonly property real room: view.width - x - Theme.space12
 
+            Accessible.description: qsTr("Tab indents. Ctrl Tab leaves the editor.")
             Accessible.name: root.accessibleName
             color: Theme.ovInk
             cursorDelegate: OVCaret { }

@@ -86,6 +86,7 @@ FocusScope {
 
             CodeStatusBar {
                 caretColumn: editor.caretColumn
+                byKeyboard: editor.visualFocus
                 caretLine: editor.caretLine
                 viewModel: root.viewModel
                 width: parent.width

@@ -9,6 +9,8 @@ Item {
     required property CodeViewModel viewModel
     required property int caretLine
     required property int caretColumn
+    /// Whether somebody works in the editor by keyboard alone.
+    property bool byKeyboard: false
 
     implicitHeight: Theme.iconButtonSize + Theme.space8
 
@@ -36,10 +38,19 @@ Item {
         }
 
         OVText {
+            id: count
             color: Theme.ovInkSecondary
             role: OVText.Caption
             text: root.viewModel.lineCountText
             visible: parent.x + place.x + place.width + implicitWidth + 2 * Theme.space12 < controls.x
+        }
+
+        OVText {
+            role: OVText.Caption
+            text: qsTr("Ctrl Tab leaves the editor")
+            visible: root.byKeyboard && count.visible
+                     && parent.x + count.x + count.width + implicitWidth + 2 * Theme.space12 < controls.x
+            Accessible.ignored: true
         }
     }
 

@@ -230,6 +230,23 @@ Item {
             shows("first, Python · 1 line")
         }
 
+        function test_whoComesByKeyboardLearnsHowToLeave() {
+            Workspace.addCode("a", "python", "")
+            open()
+            click("Source of a")
+            verify(!find("Ctrl Tab leaves the editor", Text))
+            click("Search snippets")
+            for (let stops = 0; stops < 12 && focused().Accessible.name !== "Source of a"; ++stops)
+                keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "Source of a")
+            verify(focused().Accessible.description.includes("Ctrl Tab leaves"))
+            tryVerify(() => find("Ctrl Tab leaves the editor", Text))
+            keyClick(Qt.Key_Tab, Qt.ControlModifier)
+            verify(focused().Accessible.name !== "Source of a")
+            keyClick(Qt.Key_Backtab, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(saved()[0].source, "")
+        }
+
         function test_hidingTheListLeavesNoKeyboardInIt() {
             Workspace.addCode("a", "python", "")
             open()

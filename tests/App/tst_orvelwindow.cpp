@@ -130,6 +130,19 @@ private slots:
         QVERIFY(!item("OrvelIntroView"));
     }
 
+    void theKeyboardFollowsTheIntroIntoTheWorkspace()
+    {
+        edit([](AppSettings &settings) { settings.reducedMotion = false; });
+        open();
+        QTRY_VERIFY(!item("OrvelIntroView"));
+        press(u"Ctrl+N"_s);
+        QTRY_VERIFY(item("PageTitleField"));
+        QTRY_VERIFY(item("PageTitleField")->hasActiveFocus());
+        for (const char letter : {'t', 'r', 'i', 'p'})
+            QTest::keyClick(m_window, letter);
+        QCOMPARE(store().pages().all().last().title, u"trip"_s);
+    }
+
     void beginsAtOnceWithoutMotion_data()
     {
         QTest::addColumn<bool>("inkMode");

@@ -12,6 +12,12 @@ FocusScope {
     readonly property alias editor: editor
     readonly property alias list: list
 
+    /// A page that nobody has named yet is waiting for its name.
+    readonly property bool wantsKeyboard: (list.above as PageHeader).isUnnamed
+
+    // Where it stands is settled only now.
+    Component.onCompleted: list.focus = true
+
     Accessible.name: title
     Accessible.role: Accessible.Pane
 

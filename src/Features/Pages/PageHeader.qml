@@ -11,6 +11,7 @@ FocusScope {
 
     /// Without everything but the title.
     property bool titleOnly: false
+    readonly property alias isUnnamed: header.isUnnamed
 
     signal zenRequested()
     /// The person goes on from the title to what stands below it.

@@ -54,6 +54,8 @@ FocusScope {
         anchors.left: column.right
         anchors.right: parent.right
         anchors.top: top.bottom
+        focus: true
+        navigationHasFocus: root.activeFocus && !activeFocus
     }
 
     Loader {

@@ -4,17 +4,28 @@ import Orvel.DesignSystem
 import Orvel.Session
 import Orvel.Shell
 
-/// The detail pane: one screen at a time, the next one fading in over the last.
+/// The detail pane: one screen at a time, the next one fading in over the last. The keyboard goes along to another
+/// place, but for who walks through the places by keys, and to them as well where a screen has a `wantsKeyboard` that
+/// is true.
 T.StackView {
     id: root
 
     readonly property string identity: detail.identity
+    /// Whether the keyboard's focus is in what leads from place to place.
+    property bool navigationHasFocus: false
+    property string shownPlace
 
     function show() {
-        if (depth === 0)
-            push(detail.source, detail.properties, T.StackView.Immediate)
-        else
-            replace(null, detail.source, detail.properties)
+        const isFirst = depth === 0
+        const hadFocus = activeFocus
+        const isNewPlace = detail.place !== shownPlace
+        const screen = isFirst ? push(detail.source, detail.properties, T.StackView.Immediate)
+                               : replace(null, detail.source, detail.properties)
+        shownPlace = detail.place
+        screen.focus = true
+        // What lies above the workspace when it comes, such as the intro, keeps the keyboard.
+        if (!isFirst && (hadFocus || isNewPlace && (!navigationHasFocus || screen.wantsKeyboard === true)))
+            screen.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     clip: true

@@ -16,6 +16,8 @@ class DetailViewModel : public QObject
     Q_PROPERTY(UIState *ui READ ui WRITE setUi NOTIFY uiChanged REQUIRED FINAL)
     /// Value of `ThemeRevision`.
     Q_PROPERTY(int themeRevision READ themeRevision WRITE setThemeRevision NOTIFY themeRevisionChanged FINAL)
+    /// The text of the destination that the screen shows.
+    Q_PROPERTY(QString place READ place NOTIFY screenChanged FINAL)
     /// "settings" while the settings are shown, so that a change of theme leaves them standing; else
     /// "theme-" and the revision, so that it builds every other screen anew.
     Q_PROPERTY(QString identity READ identity NOTIFY screenChanged FINAL)
@@ -33,6 +35,7 @@ public:
     int themeRevision() const { return m_themeRevision; }
     void setThemeRevision(int revision);
 
+    QString place() const { return m_screen.place.text(); }
     const QString &identity() const { return m_screen.identity; }
     const QUrl &source() const { return m_screen.source; }
     const QVariantMap &properties() const { return m_screen.properties; }

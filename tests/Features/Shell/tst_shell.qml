@@ -99,6 +99,27 @@ Item {
             compare(pages(), [])
         }
 
+        function test_theKeyboardGoesAlong() {
+            Workspace.addPage("Plan")
+            start()
+            view.forceActiveFocus()
+            Orvel.ui.select("tasks")
+            const host = all(view, item => item instanceof DetailHost)[0]
+            tryVerify(() => host.activeFocus)
+
+            // Who walks through the sidebar stays there, but to a page that waits for its name.
+            press("Plan", SidebarRow)
+            one("Plan", PageEditorView)
+            verify(!host.activeFocus)
+            keyClick(Qt.Key_Down)
+            verify(all(view, item => item instanceof SidebarRow && item.visualFocus).length === 1)
+            press("New page")
+            tryVerify(() => host.activeFocus)
+            one("Untitled", PageEditorView)
+            typeText("trip")
+            compare(pages(), ["Plan", "trip"])
+        }
+
         function test_menuOfAPage() {
             Workspace.showModules(["tasks"])
             Workspace.addFolder("Travel & rest")

@@ -12,6 +12,8 @@ ScreenList {
 
     /// Up from the first block.
     signal leftUp()
+    /// Tab from the last block, where no button follows.
+    signal leftForwards()
 
     function rowAt(index: int): BlockRow {
         return itemAtIndex(index) as BlockRow
@@ -67,6 +69,8 @@ ScreenList {
             leftBackwards()
         else if (next < count)
             show(next).part.focusByTab(forward)
+        else if (editor.isZen)
+            leftForwards()
         else
             (footerItem as BlockListFooter).button.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -133,6 +137,7 @@ ScreenList {
     footer: BlockListFooter {
         columnWidth: root.columnWidth
         columnX: root.columnX
+        hasButton: !root.editor.isZen
         width: root.width
         onAddRequested: root.editor.appendBlock()
         onLeftBackwards: root.count > 0 ? root.show(root.count - 1).part.focusByTab(false) : root.leftBackwards()

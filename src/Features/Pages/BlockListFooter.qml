@@ -7,6 +7,7 @@ Item {
 
     required property int columnX
     required property int columnWidth
+    property bool hasButton: true
     readonly property Item button: add
 
     signal addRequested()
@@ -20,6 +21,7 @@ Item {
         leftPadding: Theme.space8
         rightPadding: Theme.space12
         text: qsTr("Add a block")
+        visible: root.hasButton
         x: root.columnX - Theme.space8
         y: Theme.space12
         Keys.onBacktabPressed: root.leftBackwards()

@@ -41,79 +41,8 @@ ScreenListRow {
 
     function leaveBackwards(): bool {
         if (!part.hasOwnKeys)
-            tab(false)
+            keys.tab(false)
         return !part.hasOwnKeys
-    }
-
-    function tab(forward: bool) {
-        const stops = part.stops()
-        const next = stops.findIndex(stop => stop.activeFocus) + (forward ? 1 : -1)
-        if (next >= 0 && next < stops.length)
-            stops[next].forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
-        else
-            tabbed(forward)
-    }
-
-    /// Does what a key means for any block; false for any other.
-    function actOnBlock(key: int, control: bool, shift: bool): bool {
-        switch (key) {
-        case Qt.Key_Up:
-        case Qt.Key_Down:
-            if (control && shift)
-                editor.moveBlock(blockID, key === Qt.Key_Up ? -1 : 1)
-            return control && shift
-        case Qt.Key_Tab:
-        case Qt.Key_Backtab:
-            if (control)
-                tab(!shift)
-            return control
-        case Qt.Key_Menu:
-            menuRequested(row)
-            return true
-        case Qt.Key_F10:
-            if (shift)
-                menuRequested(row)
-            return shift
-        }
-        return false
-    }
-
-    /// Does what a key means where a line of text is written; false for any other.
-    function actOnText(key: int, control: bool, shift: bool): bool {
-        if (control) {
-            const isEnd = key === Qt.Key_Home || key === Qt.Key_End
-            if (isEnd && !shift)
-                jumped(key)
-            return isEnd && !shift
-        }
-        switch (key) {
-        case Qt.Key_Up:
-        case Qt.Key_Down: {
-            const direction = key === Qt.Key_Up ? -1 : 1
-            if (shift || !part.leaves(direction))
-                return false
-            departed(direction)
-            return true
-        }
-        case Qt.Key_PageUp:
-        case Qt.Key_PageDown:
-            if (!shift)
-                jumped(key)
-            return !shift
-        case Qt.Key_Tab:
-            tab(!shift)
-            return true
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-            editor.insertBlock(blockID)
-            return true
-        case Qt.Key_Escape:
-            if (editor.slashTypes.length === 0)
-                return false
-            editor.dismissSlash()
-            return true
-        }
-        return false
     }
 
     fadesIn: false
@@ -121,15 +50,18 @@ ScreenListRow {
     Accessible.name: typeLabel
     Accessible.role: Accessible.ListItem
 
-    Keys.onPressed: event => {
-        const control = (event.modifiers & Qt.ControlModifier) !== 0
-        const shift = (event.modifiers & Qt.ShiftModifier) !== 0
-        if (event.key !== Qt.Key_Up && event.key !== Qt.Key_Down)
-            caret.column = -1
-        if (event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
-            return
-        event.accepted = actOnBlock(event.key, control, shift)
-                || (!part.hasOwnKeys && actOnText(event.key, control, shift))
+    Keys.onPressed: event => keys.handle(event)
+
+    BlockKeys {
+        id: keys
+        blockID: row.blockID
+        caret: row.caret
+        editor: row.editor
+        part: row.part
+        onDeparted: direction => row.departed(direction)
+        onJumped: key => row.jumped(key)
+        onMenuRequested: row.menuRequested(row)
+        onTabbed: forward => row.tabbed(forward)
     }
 
     HoverHandler {

@@ -12,8 +12,10 @@ BlockBody {
     Accessible.role: Accessible.Separator
     Keys.forwardTo: [root.keyTarget]
     onActiveFocusChanged: {
-        if (!activeFocus)
+        if (!activeFocus) {
+            root.editor.blockLeft(root.blockID)
             return
+        }
         root.editor.blockFocused(root.blockID)
         root.caretMoved(root, Qt.rect(0, 0, width, height))
     }

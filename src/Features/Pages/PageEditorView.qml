@@ -54,6 +54,7 @@ FocusScope {
             onLeaveDown: list.focusFirst()
             onZenRequested: editor.isZen = true
         }
+        onLeftForwards: zen.focusExit()
         onLeftUp: (above as PageHeader).focusTitle()
     }
 }

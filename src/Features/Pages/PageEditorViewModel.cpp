@@ -20,7 +20,8 @@ Block freshBlock(const QString &text = {})
 }
 } // namespace
 
-PageEditorViewModel::PageEditorViewModel(QObject *parent) : QObject(parent), m_refresh([this] { refresh(); })
+PageEditorViewModel::PageEditorViewModel(QObject *parent)
+    : QObject(parent), m_refresh([this] { refresh(); }), m_beforeNextKey([this] { m_refresh.flush(); })
 {
 }
 
@@ -84,26 +85,26 @@ void PageEditorViewModel::blockLeft(const QUuid &blockID)
 void PageEditorViewModel::insertBlock(const QUuid &after)
 {
     const Block fresh = freshBlock();
-    changePage([&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
+    changeList([&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::appendBlock()
 {
     const Block fresh = freshBlock();
-    changePage([&](Page &page) { page.content.append(fresh); });
+    changeList([&](Page &page) { page.content.append(fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::duplicateBlock(const QUuid &blockID)
 {
-    changePage([&](Page &page) { PageBlocks::duplicate(page.content, blockID, QUuid::createUuid()); });
+    changeList([&](Page &page) { PageBlocks::duplicate(page.content, blockID, QUuid::createUuid()); });
 }
 
 void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 {
     qsizetype index = -1;
-    changePage([&](Page &page) {
+    changeList([&](Page &page) {
         index = PageBlocks::indexOf(page.content, blockID);
         PageBlocks::remove(page.content, blockID, freshBlock());
     });
@@ -115,7 +116,7 @@ void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 
 void PageEditorViewModel::moveBlock(const QUuid &blockID, int delta)
 {
-    changePage([&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
+    changeList([&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
 }
 
 void PageEditorViewModel::changeType(const QUuid &blockID, int type)
@@ -156,7 +157,7 @@ QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text)
         return text;
     }
     QUuid last = blockID;
-    changePage([&](Page &page) {
+    changeList([&](Page &page) {
         qsizetype index = PageBlocks::indexOf(page.content, blockID);
         page.content[index].text = lines->first;
         for (const QString &line : lines->rest) {
@@ -219,6 +220,7 @@ void PageEditorViewModel::pageChanged(const RecordChange &change)
 
 void PageEditorViewModel::refresh()
 {
+    m_beforeNextKey.disarm();
     const Page *const shown = page();
     if (!shown)
         return;
@@ -276,6 +278,7 @@ void PageEditorViewModel::requestFocus(const QUuid &blockID, int caret)
     m_wantedFocus = blockID;
     m_wantedCaret = caret;
     m_refresh.request();
+    m_beforeNextKey.arm();
 }
 
 void PageEditorViewModel::giveFocus()
@@ -306,6 +309,13 @@ void PageEditorViewModel::changePage(Edit edit)
         edit(page);
         page.updatedDate = m_store->clock().now();
     });
+}
+
+template <typename Edit>
+void PageEditorViewModel::changeList(Edit edit)
+{
+    changePage(edit);
+    m_beforeNextKey.arm();
 }
 
 template <typename Edit>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/Code/CodeRun.h"
+#include "Features/Pages/BeforeNextKey.h"
 #include "Features/Pages/BlockRow.h"
 #include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
@@ -107,6 +108,9 @@ private:
     /// Changes a copy of the page, with `updatedDate` now, and requests a save.
     template <typename Edit>
     void changePage(Edit edit);
+    /// The next key already finds the blocks as the edit leaves them.
+    template <typename Edit>
+    void changeList(Edit edit);
     template <typename Edit>
     void changeBlock(const QUuid &blockID, Edit edit);
 
@@ -127,4 +131,5 @@ private:
     QUuid m_wantedFocus;
     int m_wantedCaret = -1;
     CoalescedCall m_refresh;
+    BeforeNextKey m_beforeNextKey;
 };

@@ -10,6 +10,10 @@ T.Popup {
     required property PageEditorViewModel editor
     readonly property Item place: holder
 
+    function focusExit() {
+        exitButton.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     closePolicy: T.Popup.CloseOnEscape
     focus: true
     height: T.Overlay.overlay?.height ?? 0
@@ -34,6 +38,7 @@ T.Popup {
         }
 
         OVSecondaryButton {
+            id: exitButton
             anchors.margins: Theme.space16
             anchors.right: parent.right
             anchors.top: parent.top

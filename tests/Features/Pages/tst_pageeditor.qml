@@ -50,6 +50,10 @@ Item {
             return saved().content.map(block => block.text).join("|")
         }
 
+        function idText(id) {
+            return id.toString().replace(/[{}]/g, "").toLowerCase()
+        }
+
         function types() {
             return saved().content.map(block => block.type).join(" ")
         }
@@ -145,6 +149,77 @@ Item {
             keyClick(Qt.Key_Return, Qt.ShiftModifier)
             at("", 0)
             compare(texts(), "one|||three")
+        }
+
+        function test_keepsUpWithFastKeys() {
+            open(["one", "three"])
+            edit("one")
+            Composer.typeAtOnce("!\ntwo\n\nmore")
+            compare(texts(), "one!|two||more|three")
+            const swap = Qt.ControlModifier | Qt.ShiftModifier
+            Composer.press(Qt.Key_Up, swap)
+            Composer.press(Qt.Key_Up, swap)
+            Composer.press(Qt.Key_Down, Qt.NoModifier)
+            Composer.typeAtOnce("x")
+            compare(texts(), "one!|more|twox||three")
+        }
+
+        /// Whatever is typed stands in the file as it stands in the fields, and none of it is lost.
+        function test_keepsEverythingUnderRandomKeys() {
+            let seed = 20
+            const random = count => {
+                seed = (seed * 16807) % 2147483647
+                return seed % count
+            }
+            open(["one", { type: "checklist", text: "two" }, { type: "quote", text: "" }, { type: "numbered", text: "4" }])
+            edit("one")
+            let marks = ""
+            const swap = Qt.ControlModifier | Qt.ShiftModifier
+            const mark = () => {
+                const text = String.fromCharCode(0x4e00 + marks.length)
+                marks += text
+                return text
+            }
+            const acts = [
+                () => Composer.commit(mark()),
+                () => Composer.commit(mark()),
+                () => Composer.compose("にほ"),
+                () => keyClick(Qt.Key_Return),
+                () => keyClick(Qt.Key_Up),
+                () => keyClick(Qt.Key_Down),
+                () => keyClick(Qt.Key_Left),
+                () => keyClick(Qt.Key_Home),
+                () => keyClick(Qt.Key_Up, swap),
+                () => keyClick(Qt.Key_Down, swap),
+                () => keyClick(Qt.Key_Tab),
+                () => keyClick(Qt.Key_Tab, Qt.ShiftModifier),
+                () => {
+                    if (!(focused() instanceof BlockField))
+                        return
+                    Composer.copy(mark() + "\n" + mark())
+                    keyClick(Qt.Key_V, Qt.ControlModifier)
+                },
+                () => root.view.editor.changeType(saved().content[random(saved().content.length)].id, random(9)),
+                () => root.view.editor.duplicateBlock(saved().content[random(saved().content.length)].id)
+            ]
+            for (let step = 0; step < 80; ++step) {
+                if (!(focused() instanceof BlockField))
+                    root.view.list.focusBlock(random(saved().content.length), 0)
+                acts[random(acts.length)]()
+                Composer.commit("")
+                wait(0)
+                compare(root.view.list.count, saved().content.length)
+                const stored = {}
+                for (const block of saved().content)
+                    stored[block.id.toLowerCase()] = block.text
+                for (const row of all(root.view.list, item => item instanceof BlockRow))
+                    for (const shown of all(row, item => item instanceof BlockField))
+                        compare(shown.text, stored[idText(row.blockID)], "Step " + step + ", row " + row.index)
+            }
+            const whole = texts()
+            verify(marks.length > 12)
+            for (const text of marks)
+                verify(whole.includes(text), "There is " + text)
         }
 
         function test_arrowsKeepTheColumn() {
@@ -447,6 +522,11 @@ Item {
             tryVerify(() => all(root.parent, item => item instanceof OVSecondaryButton).length === 1)
             at("/two", 4)
             compare(fields().length, 2)
+            compare(all(root.parent, item => item.text === "Add a block").length, 0)
+            keyClick(Qt.Key_Tab)
+            compare(focused().text, "Exit")
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            at("/two")
             keyClick(Qt.Key_Home)
             keyClick(Qt.Key_Delete)
             type("/t")

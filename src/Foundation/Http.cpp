@@ -12,14 +12,6 @@ enum class Method { get, head };
 
 constexpr int mostRedirects = 10;
 
-/// Whether the server has answered, if only with a status of 400 or more.
-bool isAnswered(QNetworkReply::NetworkError error)
-{
-    return error == QNetworkReply::NoError ||
-           (error >= QNetworkReply::ContentAccessDenied && error <= QNetworkReply::UnknownContentError) ||
-           (error >= QNetworkReply::InternalServerError && error <= QNetworkReply::UnknownServerError);
-}
-
 /// One request under way; deletes itself when it has ended.
 class HttpExchange : public QObject
 {
@@ -101,27 +93,42 @@ private:
 
     void finish()
     {
+        m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        // A refusal is an answer, however badly its page arrives.
+        if (m_answer.status >= 400) {
+            endWhole();
+            return;
+        }
         // It is this exchange that gives up on a silent server; its own aborts are not heard here.
         if (m_reply->error() == QNetworkReply::OperationCanceledError) {
             end(std::unexpected(QStringLiteral("The answer took too long.")));
             return;
         }
-        if (!isAnswered(m_reply->error())) {
+        if (m_reply->error() != QNetworkReply::NoError) {
             end(std::unexpected(m_reply->errorString()));
             return;
         }
         if (!takeBody())
             return;
-        if (m_isBodyExpected && m_reply->hasRawHeader("Content-Encoding")) {
+        if (m_isBodyExpected && isPacked())
             end(std::unexpected(QStringLiteral("The answer is packed though that was not asked for.")));
-        } else if (m_received < toldLength()) {
+        else if (m_received < toldLength())
             end(std::unexpected(QStringLiteral("The answer ended early.")));
-        } else {
-            m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-            m_answer.contentType =
-                m_reply->header(QNetworkRequest::ContentTypeHeader).toString().toLower().toLatin1();
-            end(std::move(m_answer));
-        }
+        else
+            endWhole();
+    }
+
+    bool isPacked() const
+    {
+        const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
+        return !encoding.isEmpty() && encoding != "identity";
+    }
+
+    void endWhole()
+    {
+        m_answer.contentType =
+            m_reply->header(QNetworkRequest::ContentTypeHeader).toString().toLower().toLatin1();
+        end(std::move(m_answer));
     }
 
     void end(HttpResult result)

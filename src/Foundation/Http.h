@@ -23,7 +23,7 @@ struct HttpLimits {
     qint64 bytes;
 };
 
-/// The whole answer of a server, whatever its status.
+/// The whole answer of a server; with a status of 400 or more, as much of its body as came.
 struct HttpAnswer {
     int status = 0;
     /// In lower case, with its parameters; empty if the server told none.
@@ -33,7 +33,7 @@ struct HttpAnswer {
     bool isSuccess() const { return status >= 200 && status < 300; }
 };
 
-/// The answer, or the reason why there is none, for logs rather than for the person.
+/// The answer, or the reason why there is none, in the words of the system.
 using HttpResult = std::expected<HttpAnswer, QString>;
 
 /// Takes the body of an answer piece by piece, first with no bytes at all once the headers are there. The

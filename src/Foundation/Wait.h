@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTimer>
+#include <QObject>
 
 #include <chrono>
 #include <functional>
@@ -8,10 +8,6 @@
 /// Calls `then` after the time has passed, unless the owner dies first.
 using Wait = std::function<void(std::chrono::milliseconds time, QObject *owner, std::function<void()> then)>;
 
-/// By the system's clock.
-inline Wait systemWait()
-{
-    return [](std::chrono::milliseconds time, QObject *owner, std::function<void()> then) {
-        QTimer::singleShot(time, owner, std::move(then));
-    };
-}
+/// By the system's clock, which goes on while the machine sleeps: what came due meanwhile is called soon
+/// after.
+Wait systemWait();

@@ -74,5 +74,6 @@ void PackageDownload::answered(const HttpResult &result)
     }
     const bool isCutShort = m_toldLength > 0 && m_received != m_toldLength;
     m_done(std::unexpected(isCutShort ? u"The update download stopped early."_s
-                                      : u"The update download failed."_s));
+                           : result   ? u"The update download failed."_s
+                                      : result.error()));
 }

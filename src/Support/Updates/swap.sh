@@ -40,7 +40,11 @@ is_running() {
 
 # One at a time; the second then finds the work done. The lock is let go when this script ends, however it ends.
 exec 9<"${target%/*}"
-flock 9
+if ! flock -w 60 9; then
+    log "swap: another one has not ended"
+    rm -rf "$work"
+    exit 1
+fi
 
 version=$(version_of "$staged")
 if [ -n "$version" ] && [ "$version" = "$(version_of "$target")" ] &&

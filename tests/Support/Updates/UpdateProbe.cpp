@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QNetworkAccessManager>
+#include <QTimer>
 
 #include <cstdlib>
 

@@ -49,12 +49,13 @@ public:
         }
     }
 
-    /// Sends one key, to the moment when the scene is up to date.
+    /// Sends one key, to the moment when what follows from it is done and the scene is up to date.
     Comparison::Duration type(Qt::Key key, const QString &text)
     {
         const auto time = timed([&] {
             QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
             QCoreApplication::sendEvent(&m_window, &press);
+            QCoreApplication::processEvents();
             update();
         });
         render();

@@ -83,8 +83,7 @@ void CodeViewModel::newDocument()
     document.id = QUuid::createUuid();
     document.createdDate = document.updatedDate = m_store->clock().now();
     document.sortOrder = secondsSince1970(document.createdDate);
-    if (!CodeRow::matches(document, m_query.trimmed()))
-        setQuery({});
+    showInList(document);
     m_store->add(document);
     select(document.id);
 }
@@ -152,7 +151,9 @@ void CodeViewModel::setSource(const QString &source)
 
 void CodeViewModel::copySource() const
 {
-    QGuiApplication::clipboard()->setText(m_shown.source);
+    // What is shown may lag behind what has just been typed.
+    if (const CodeDocument *const document = m_store->codeDocuments().first(m_selectedID))
+        QGuiApplication::clipboard()->setText(document->source);
 }
 
 void CodeViewModel::runSnippet()
@@ -162,6 +163,12 @@ void CodeViewModel::runSnippet()
         return;
     setShowConsole(true);
     m_result.run(document->source, enumRawText(document->language));
+}
+
+void CodeViewModel::showInList(const CodeDocument &document)
+{
+    if (!CodeRow::matches(document, m_query.trimmed()))
+        setQuery({});
 }
 
 template <typename Edit>
@@ -200,10 +207,14 @@ void CodeViewModel::syncSelection()
 {
     const auto &documents = m_store->codeDocuments();
     QUuid next = m_selectedID;
-    if (std::exchange(m_focusWanted, false) && documents.first(m_focusDocument))
-        next = m_focusDocument;
-    else if (!documents.first(m_selectedID))
+    const CodeDocument *const wanted =
+        std::exchange(m_focusWanted, false) ? documents.first(m_focusDocument) : nullptr;
+    if (wanted && wanted->id != m_selectedID) {
+        next = wanted->id;
+        showInList(*wanted);
+    } else if (!documents.first(m_selectedID)) {
         next = documents.all().isEmpty() ? QUuid() : documents.all().first().id;
+    }
     m_changedDocuments += {m_selectedID, next};
     m_selectedID = next;
 }

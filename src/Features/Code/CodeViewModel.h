@@ -127,6 +127,8 @@ private:
     void change(const QUuid &id, Edit edit);
     void documentChanged(const RecordChange &change);
     void refresh();
+    /// Takes a query back that does not find the document.
+    void showInList(const CodeDocument &document);
     /// Selects the document that is wanted, or another one when the present one is gone.
     void syncSelection();
     void layOut();

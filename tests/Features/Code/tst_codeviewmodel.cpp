@@ -130,6 +130,11 @@ private slots:
         QCOMPARE(desk.code.query(), QString());
         QCOMPARE(desk.titles(), u"alpha beta gamma Untitled*"_s);
         QVERIFY(!desk.code.findsNothing());
+        // So does one that is asked for from elsewhere.
+        QCOMPARE(found(u"script"_s), u"gamma"_s);
+        desk.code.setFocusDocument(beta);
+        QCOMPARE(desk.titles(), u"alpha beta* gamma Untitled"_s);
+        QCOMPARE(desk.code.query(), QString());
     }
 
     void editsReachTheRecord()
@@ -162,8 +167,6 @@ private slots:
         QCOMPARE(desk.code.lineCountText(), u"1 line"_s);
         desk.code.setSource(u"x"_s);
         QCOMPARE(desk.document(id)->source, u"one\ntwo\n"_s);
-        desk.code.copySource();
-        QCoreApplication::processEvents();
         desk.code.copySource();
         QCOMPARE(QGuiApplication::clipboard()->text(), u"x"_s);
     }

@@ -62,6 +62,7 @@ Item {
         anchors.right: actions.left
         anchors.rightMargin: Theme.space8
         anchors.verticalCenter: parent.verticalCenter
+        color: elided.visible ? "transparent" : Theme.ovInk
         font.pixelSize: Theme.sizeCardTitle
         font.weight: Font.DemiBold
         placeholderText: qsTr("Untitled")
@@ -75,6 +76,15 @@ Item {
         onEditingFinished: {
             root.viewModel.rename(documentID, text)
             text = root.viewModel.title
+        }
+
+        OVText {
+            id: elided
+            Accessible.ignored: true
+            anchors.fill: parent
+            font: title.font
+            text: title.text
+            visible: !title.autoScroll && title.contentWidth > title.width
         }
     }
 

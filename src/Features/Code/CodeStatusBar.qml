@@ -64,6 +64,21 @@ Item {
         OVIconButton {
             checkable: true
             filled: false
+            checked: root.viewModel.showConsole
+            iconSize: Theme.iconRow
+            symbol: "terminal"
+            text: qsTr("Show the console")
+            onToggled: root.viewModel.showConsole = checked
+        }
+
+        OVDivider {
+            anchors.verticalCenter: parent.verticalCenter
+            vertical: true
+        }
+
+        OVIconButton {
+            checkable: true
+            filled: false
             checked: root.viewModel.wrap
             iconSize: Theme.iconRow
             symbol: "text.alignleft"

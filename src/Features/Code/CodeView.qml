@@ -51,9 +51,14 @@ FocusScope {
             rail.focusList()
     }
 
+    // The list over the editor goes first, since it hides the console too.
     Keys.onEscapePressed: event => {
-        event.accepted = code.showConsole
-        code.showConsole = false
+        const hasListOver = isNarrow && railOverEditor
+        event.accepted = hasListOver || code.showConsole
+        if (hasListOver)
+            railOverEditor = false
+        else
+            code.showConsole = false
     }
 
     CodeViewModel {

@@ -143,6 +143,22 @@ Item {
             tryVerify(() => !find("Console"))
         }
 
+        function test_consoleComesBackWithWhatItHeld() {
+            Workspace.addCode("list", "json", "[1]")
+            open()
+            click("Show the console")
+            compare(find("Output").text, "Run the snippet to see its output.")
+            click("Run snippet")
+            shows("Succeeded")
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Console"))
+            click("Show the console")
+            shows("Succeeded")
+            compare(find("Output").text, "[\n  1\n]")
+            click("Show the console")
+            tryVerify(() => !find("Console"))
+        }
+
         function test_undoStaysWithinADocument() {
             Workspace.addCode("a", "plain", "same")
             Workspace.addCode("b", "plain", "same")
@@ -336,6 +352,18 @@ Item {
             click("b, Python · 1 line")
             shows("Source of b")
             verify(!find("Search snippets"))
+
+            // Escape goes back, and leaves alone what the list had covered.
+            keyClick(Qt.Key_R, Qt.ControlModifier)
+            shows("Console")
+            click("Show the list")
+            shows("Search snippets")
+            keyClick(Qt.Key_Escape)
+            shows("Source of b")
+            compare(focused().Accessible.name, "Source of b")
+            verify(find("Console"))
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Console"))
         }
     }
 }

@@ -15,8 +15,8 @@ FocusScope {
     /// A page that nobody has named yet is waiting for its name.
     readonly property bool wantsKeyboard: (list.above as PageHeader).isUnnamed
 
-    // Where it stands is settled only now.
-    Component.onCompleted: list.focus = true
+    // A page that has its name keeps its words safe from keys meant for something else.
+    Component.onCompleted: list.focus = wantsKeyboard
 
     Accessible.name: title
     Accessible.role: Accessible.Pane
@@ -33,6 +33,12 @@ FocusScope {
         id: place
         anchors.fill: parent
         focus: true
+
+        Keys.onDownPressed: event => {
+            event.accepted = Window.activeFocusItem === place
+            if (event.accepted)
+                list.focusFirst()
+        }
     }
 
     ZenLayer {

@@ -100,12 +100,24 @@ Item {
         }
 
         function test_theKeyboardGoesAlong() {
-            Workspace.addPage("Plan")
+            const plan = Workspace.addPage("Plan")
             start()
             view.forceActiveFocus()
             Orvel.ui.select("tasks")
             const host = all(view, item => item instanceof DetailHost)[0]
             tryVerify(() => host.activeFocus)
+
+            // A page that has its name takes no words until the person goes to where they belong.
+            Orvel.ui.selectPage(plan)
+            one("Plan", PageEditorView)
+            tryVerify(() => host.activeFocus && !host.busy)
+            typeText("x")
+            keyClick(Qt.Key_Down)
+            typeText("y")
+            const page = JSON.parse(Workspace.saved()).pages[0]
+            compare([page.title, page.content[0].text], ["Plan", "y"])
+            Orvel.ui.select("tasks")
+            one("Tasks", OVPageHeader)
 
             // Who walks through the sidebar stays there, but to a page that waits for its name.
             press("Plan", SidebarRow)

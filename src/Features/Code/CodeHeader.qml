@@ -23,6 +23,12 @@ Item {
         title.selectAll()
     }
 
+    /// Runs what the person sees, with what is still being composed.
+    function runSnippet() {
+        Qt.inputMethod.commit() // qmllint disable
+        viewModel.runSnippet()
+    }
+
     implicitHeight: actions.height
 
     Connections {
@@ -113,6 +119,7 @@ Item {
             symbol: root.didCopy ? "checkmark" : "doc.on.doc"
             text: root.didCopy ? qsTr("Copied") : qsTr("Copy code")
             onClicked: {
+                Qt.inputMethod.commit() // qmllint disable
                 root.viewModel.copySource()
                 root.didCopy = true
                 copied.restart()
@@ -144,7 +151,7 @@ Item {
             text: root.runText
             toolTip: qsTr("%1, Ctrl R").arg(root.runText)
             visible: root.isTightest
-            onClicked: root.viewModel.runSnippet()
+            onClicked: root.runSnippet()
         }
 
         OVPrimaryButton {
@@ -154,7 +161,7 @@ Item {
             text: root.runText
             toolTip: root.isTight ? qsTr("Ctrl R") : ""
             visible: !root.isTightest
-            onClicked: root.viewModel.runSnippet()
+            onClicked: root.runSnippet()
         }
     }
 }

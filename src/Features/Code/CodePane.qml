@@ -17,6 +17,10 @@ FocusScope {
         header.editTitle()
     }
 
+    function runSnippet() {
+        header.runSnippet()
+    }
+
     Connections {
         target: root.viewModel
         function onSelectionChanged() {

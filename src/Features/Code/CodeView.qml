@@ -74,7 +74,10 @@ FocusScope {
         autoRepeat: false
         enabled: root.visible && root.enabled && !question.visible
         sequence: "Ctrl+R"
-        onActivated: code.runSnippet()
+        onActivated: {
+            if (!code.isEmpty)
+                pane.runSnippet()
+        }
     }
 
     OVAppear {

@@ -232,6 +232,34 @@ Item {
             compare(focused().Accessible.name, "Source of a")
         }
 
+        function deleteOpen() {
+            click("More")
+            click("Delete…")
+            shows("Delete this snippet?")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => !find("Delete this snippet?"))
+        }
+
+        function test_deletingTheOpenOneLeavesAPlaceToGoOn() {
+            Workspace.addCode("a", "python", "1")
+            Workspace.addCode("b", "python", "2")
+            open()
+            deleteOpen()
+            shows("Source of b")
+            tryVerify(() => focused().Accessible.name === "Source of b")
+            type("x")
+            compare(saved()[0].source, "x2")
+            deleteOpen()
+            compare(saved().length, 0)
+            shows("No snippets yet")
+            keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "New snippet")
+            keyClick(Qt.Key_Space)
+            shows("Source of Untitled")
+            type("y")
+            compare(saved()[0].source, "y")
+        }
+
         function test_search() {
             Workspace.addCode("first", "python", "print(1)")
             Workspace.addCode("second", "sql", "select 1")

@@ -7,6 +7,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickRenderControl>
+#include <QQuickView>
 #include <QQuickWindow>
 
 #include <cstdio>
@@ -89,6 +90,7 @@ private:
 
 constexpr char editorPage[] = "import QtQuick\nimport Orvel.Pages\n"
                               "PageEditorView { function focusBlock(row) { list.focusBlock(row, 5) } }";
+constexpr char windowPage[] = "import Orvel.Shell\nWorkspaceView { }";
 constexpr char barePage[] =
     "import QtQuick\n"
     "ListView { id: list; required property var texts; model: texts; currentIndex: -1\n"
@@ -96,6 +98,37 @@ constexpr char barePage[] =
     "width: ListView.view.width }\n"
     "function focusBlock(row) { positionViewAtIndex(row, ListView.Contain); currentIndex = row\n"
     "currentItem.forceActiveFocus() } }";
+
+/// From the choice of a page to its first frame, in a window that has shown another screen so far.
+Comparison::Duration openFirstPage(QQmlEngine &engine, UIState &ui, const QUuid &pageID)
+{
+    QQuickView view(&engine, nullptr);
+    QQmlComponent component(&engine);
+    component.setData(windowPage, QUrl());
+    ui.select(QStringLiteral("tasks"));
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.resize(1240, 820);
+    view.setContent(QUrl(), &component, component.create());
+    view.show();
+    QFocusEvent focus(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&view, &focus);
+    const auto draw = [&view] {
+        QCoreApplication::processEvents();
+        QEvent update(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(&view, &update);
+    };
+    draw();
+    const auto duration = timed([&] {
+        ui.selectPage(pageID);
+        draw();
+    });
+    if (!view.activeFocusItem() ||
+        view.activeFocusItem()->property("placeholderText") != QStringLiteral("Untitled")) {
+        std::fprintf(stderr, "bench_pagekey: the page has not been opened\n");
+        std::exit(2);
+    }
+    return duration;
+}
 
 QVariantMap texts(const Page &page)
 {
@@ -112,15 +145,18 @@ int main(int argc, char *argv[])
     const Page page = longPage();
     Snapshot workspace = WorkspaceGenerator::ofFileSize(10'000'000);
     workspace.pages.append(page);
-    const Desk desk(workspace);
+    Desk desk(workspace);
     QQmlEngine engine;
     desk.provideTo(engine);
     const QVariantMap id{{QStringLiteral("pageID"), page.id}};
     const auto milliseconds = [](double count) { return Comparison::Duration(count); };
 
     Comparison comparison;
+    const auto first = openFirstPage(engine, desk.ui, page.id);
     Stage ours(engine);
     Stage bare(engine);
+    comparison.timeUnder(QStringLiteral("first frame of the first page of a window, of 2,000 blocks"), first,
+                         timed([&] { bare.show(barePage, texts(page)); }), milliseconds(100));
     const auto open = [&] { return timed([&] { ours.show(editorPage, id); }); };
     const auto openBare = [&] { return timed([&] { bare.show(barePage, texts(page)); }); };
     const auto firstOpening = open();

@@ -15,6 +15,9 @@ FocusScope {
     /// Whether the focus is where almost every key means something of its own.
     property bool hasOwnKeys: false
 
+    /// Whether its row has put the caret where it belongs; until then it tells nobody of it.
+    property bool isReady: false
+
     /// The caret was moved by the person, or the field under it grew.
     signal caretMoved(field: Item, caret: rect)
 
@@ -38,8 +41,14 @@ FocusScope {
         forceActiveFocus(Qt.OtherFocusReason)
     }
 
+    /// Puts the caret at this place in the text.
+    function placeCaret(caret: int) {
+    }
+
     /// Takes the focus with the caret at this place in the text; -1 leaves it where it is.
     function focusAt(caret: int) {
+        if (caret >= 0)
+            placeCaret(caret)
         forceActiveFocus(Qt.OtherFocusReason)
     }
 

@@ -28,6 +28,9 @@ ScreenListRow {
     /// Whether the menu of this block is open.
     property bool menuShown: false
 
+    /// Where the caret last stood in the text, for another body that takes it over.
+    property int caretPosition: 0
+
     readonly property BlockBody part: loader.item as BlockBody
     readonly property bool chromeShown: pointer.hovered || activeFocus || menuShown
 
@@ -46,6 +49,7 @@ ScreenListRow {
     }
 
     fadesIn: false
+    onCaretMoved: field => caretPosition = (field as TextEdit)?.cursorPosition ?? caretPosition
     rowHeight: Math.ceil(loader.height)
     Accessible.name: typeLabel
     Accessible.role: Accessible.ListItem
@@ -141,5 +145,9 @@ ScreenListRow {
         focus: true
         sourceComponent: row.body === "divider" ? dividerBody : row.body === "code" ? codeBody : textBody
         width: parent.width
+        onLoaded: {
+            row.part.placeCaret(row.caretPosition)
+            row.part.isReady = true
+        }
     }
 }

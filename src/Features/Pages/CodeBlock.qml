@@ -32,9 +32,13 @@ BlockBody {
         code.forceFocus()
     }
 
+    function placeCaret(caret: int) {
+        code.input.cursorPosition = Math.min(caret, code.input.length)
+    }
+
     function focusAt(caret: int) {
         if (caret >= 0)
-            code.input.cursorPosition = Math.min(caret, code.input.length)
+            placeCaret(caret)
         code.forceFocus()
     }
 
@@ -104,7 +108,7 @@ BlockBody {
                 Connections {
                     target: code.input
                     function onCursorRectangleChanged() {
-                        if (code.activeFocus)
+                        if (code.activeFocus && root.isReady)
                             root.caretMoved(code.input, code.input.cursorRectangle)
                     }
                 }

@@ -41,9 +41,13 @@ BlockBody {
         field.enter(direction, field.mapFromItem(item, column, 0).x)
     }
 
+    function placeCaret(caret: int) {
+        field.cursorPosition = Math.min(caret, field.length)
+    }
+
     function focusAt(caret: int) {
         if (caret >= 0)
-            field.cursorPosition = Math.min(caret, field.length)
+            placeCaret(caret)
         field.forceActiveFocus(Qt.OtherFocusReason)
     }
 
@@ -120,7 +124,7 @@ BlockBody {
                 root.editor.blockLeft(blockID)
         }
         onCursorRectangleChanged: {
-            if (activeFocus)
+            if (activeFocus && root.isReady)
                 root.caretMoved(field, cursorRectangle)
         }
     }

@@ -449,6 +449,20 @@ Item {
             compare(texts(), "two")
         }
 
+        function test_keepsTheCaretInAnotherType() {
+            open(["two words", "end"])
+            edit("two words", 4)
+            const id = root.view.list.rowAt(0).blockID
+            const code = 9
+            root.view.editor.changeType(id, code)
+            tryVerify(() => !(focused() instanceof BlockField) && focused().text === "two words")
+            compare(focused().cursorPosition, 4)
+            type("x")
+            const quote = 7
+            root.view.editor.changeType(id, quote)
+            at("two xwords", 5)
+        }
+
         function test_runsCode() {
             const code = "{\"a\":\u00a01}"
             open([{ type: "code", text: code, language: "json" }, "after"])

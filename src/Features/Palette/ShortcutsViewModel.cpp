@@ -6,17 +6,24 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
-/// Whether each word of the query begins the name of one of the keys.
-bool namesKeys(const QStringList &caps, const QString &query)
+/// Whether each word of the query begins the name of a key of its own.
+bool namesKeys(QStringList caps, const QString &query)
 {
     static const QRegularExpression between(QStringLiteral("[+\\s]+"));
-    const QStringList words = query.split(between, Qt::SkipEmptyParts);
+    QStringList words = query.split(between, Qt::SkipEmptyParts);
+    // What "shift" begins, "s" begins as well: the longer word has less to choose from.
+    std::ranges::stable_sort(words, std::greater(), &QString::size);
     return !words.isEmpty() && std::ranges::all_of(words, [&caps](const QString &word) {
-        return std::ranges::any_of(
+        const auto key = std::ranges::find_if(
             caps, [&word](const QString &cap) { return cap.startsWith(word, Qt::CaseInsensitive); });
+        if (key == caps.end())
+            return false;
+        caps.erase(key);
+        return true;
     });
 }
 

@@ -65,7 +65,10 @@ private slots:
                               << QStringList{u"General: Keyboard shortcuts"_s};
         QTest::newRow("letter within the name of a key")
             << QStringList{u"ctrl t"_s} << QStringList{u"General: Cycle theme accent"_s};
-        QTest::newRow("none") << QStringList{u"ctrl x"_s, u"nothing like it"_s, u"+"_s} << QStringList();
+        QTest::newRow("letter that also begins the name of another key")
+            << QStringList{u"ctrl shift s"_s, u"S+Shift+Ctrl"_s} << QStringList{u"General: Toggle sidebar"_s};
+        QTest::newRow("none") << QStringList{u"ctrl x"_s, u"ctrl ctrl"_s, u"nothing like it"_s, u"+"_s}
+                              << QStringList();
     }
     void isFoundByTitleAndByKeys()
     {

@@ -231,7 +231,7 @@ Item {
             compare(file.settings.hasCompletedOnboarding, true)
             compare(file.settings.hiddenModules.length, 0)
             compare(file.pages.length, 1)
-            verify(Orvel.ui.selection !== undefined)
+            compare(Orvel.ui.selection.text, "dashboard")
         }
 
         function test_withoutModules() {

@@ -127,14 +127,21 @@ QList<Picture> notesPictures()
             ui.select(QStringLiteral("notes"));
         };
     };
-    return {
-        {QStringLiteral("notes-empty"), windowPage, windowSize, with(0), light},
+    const QString unheardOf = QStringLiteral("meadow");
+    QList<Picture> pictures{
         {QStringLiteral("notes-few"), windowPage, windowSize, with(5), light},
-        {QStringLiteral("notes-many"), windowPage, windowSize, with(300), light},
-        {QStringLiteral("notes-many-dark"), windowPage, windowSize, with(300), dark},
         {QStringLiteral("notes-many-small-huge"), windowPage, smallSize, with(300), both(light, huge)},
+        {QStringLiteral("notes-none-small-huge"), windowPage, smallSize, with(5), both(light, huge),
+         unheardOf},
         {QStringLiteral("notes-many-wide"), windowPage, {1920, 1080}, with(300), light},
     };
+    for (const auto &[name, look] : looks()) {
+        pictures.append({QStringLiteral("notes-empty-") + name, windowPage, windowSize, with(0), look});
+        pictures.append({QStringLiteral("notes-many-") + name, windowPage, windowSize, with(300), look});
+        pictures.append(
+            {QStringLiteral("notes-none-") + name, windowPage, windowSize, with(5), look, unheardOf});
+    }
+    return pictures;
 }
 
 QList<Picture> shellPictures()
@@ -245,8 +252,8 @@ QList<Picture> onboardingPictures()
                             QStringLiteral("starter"), QStringLiteral("look"),    QStringLiteral("ready")};
     for (int step = 0; step < steps.size(); ++step) {
         const QString &name = steps.at(step);
-        pictures.append(onboardingPicture(name, step, windowSize, light, chosen));
-        pictures.append(onboardingPicture(name + QStringLiteral("-dark"), step, windowSize, dark, chosen));
+        for (const auto &[lookName, look] : looks())
+            pictures.append(onboardingPicture(name + u'-' + lookName, step, windowSize, look, chosen));
         pictures.append(
             onboardingPicture(name + QStringLiteral("-small-huge"), step, smallSize, both(light, huge),
                               "choices.clearModules(); choices.name = 'A rather long name '.repeat(12)"));

@@ -18,6 +18,7 @@ T.AbstractButton {
 
     /// Does what a press by the pointer does.
     function activate() {
+        tip.isDone = true
         if (checkable)
             toggle()
         clicked()
@@ -41,6 +42,7 @@ T.AbstractButton {
 
     Keys.onReturnPressed: activate()
     Keys.onEnterPressed: activate()
+    onPressed: tip.isDone = true
 
     Behavior on scale {
         NumberAnimation { duration: Theme.durationHover; easing.type: Easing.OutCubic }
@@ -52,7 +54,14 @@ T.AbstractButton {
     }
 
     OVToolTip {
-        shown: root.hovered || root.visualFocus
+        id: tip
+
+        readonly property bool wanted: root.hovered || root.visualFocus
+        /// Who presses knows already, and may get a menu where it would show.
+        property bool isDone: false
+
+        shown: wanted && !isDone
+        onWantedChanged: isDone = false
         target: root
         text: root.toolTip
     }

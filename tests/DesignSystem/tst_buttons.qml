@@ -93,4 +93,20 @@ TestCase {
             compare(button.Accessible.name, button.text)
         compare(icon.toolTip, "Delete")
     }
+
+    function test_pressingTakesTheToolTipAway() {
+        const tip = Array.from(icon.children).find(child => child.sourceComponent !== undefined)
+        mouseMove(icon, 10, 10)
+        tryVerify(() => tip.item?.opened ?? false)
+        compare(tip.item.text, "Delete")
+        mouseClick(icon)
+        verify(icon.hovered)
+        verify(!tip.shown)
+        tryVerify(() => tip.item === null)
+        // It is there again for who comes again.
+        mouseMove(test, 590, 290)
+        tryVerify(() => !icon.hovered)
+        mouseMove(icon, 10, 10)
+        tryVerify(() => tip.shown)
+    }
 }

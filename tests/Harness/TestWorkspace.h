@@ -172,6 +172,10 @@ public:
     {
         m_store.changeSettings([](AppSettings &settings) { settings.reducedMotion = true; });
     }
+    Q_INVOKABLE void useInkMode()
+    {
+        m_store.changeSettings([](AppSettings &settings) { settings.inkMode = true; });
+    }
     Q_INVOKABLE void hideModule(const QString &raw)
     {
         m_store.changeSettings(

@@ -127,19 +127,20 @@ QList<Picture> notesPictures()
             ui.select(QStringLiteral("notes"));
         };
     };
+    const QByteArray alone = "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Notes\n"
+                             "Item { OVBackground { anchors.fill: parent }\n"
+                             "NotesView { anchors.fill: parent; focus: true } }";
     const QString unheardOf = QStringLiteral("meadow");
     QList<Picture> pictures{
         {QStringLiteral("notes-few"), windowPage, windowSize, with(5), light},
         {QStringLiteral("notes-many-small-huge"), windowPage, smallSize, with(300), both(light, huge)},
-        {QStringLiteral("notes-none-small-huge"), windowPage, smallSize, with(5), both(light, huge),
-         unheardOf},
+        {QStringLiteral("notes-none-small-huge"), alone, smallSize, with(5), both(light, huge), unheardOf},
         {QStringLiteral("notes-many-wide"), windowPage, {1920, 1080}, with(300), light},
     };
     for (const auto &[name, look] : looks()) {
         pictures.append({QStringLiteral("notes-empty-") + name, windowPage, windowSize, with(0), look});
         pictures.append({QStringLiteral("notes-many-") + name, windowPage, windowSize, with(300), look});
-        pictures.append(
-            {QStringLiteral("notes-none-") + name, windowPage, windowSize, with(5), look, unheardOf});
+        pictures.append({QStringLiteral("notes-none-") + name, alone, windowSize, with(5), look, unheardOf});
     }
     return pictures;
 }

@@ -46,35 +46,37 @@ ScreenGridCard {
         y: Theme.space16
     }
 
-    Column {
-        anchors.left: parent.left
-        anchors.leftMargin: Theme.space16
+    OVText {
+        id: titleText
+        anchors.left: mark.left
         anchors.right: parent.right
         anchors.rightMargin: Theme.space16
         anchors.top: mark.bottom
         anchors.topMargin: Theme.space12
-        spacing: Theme.space4
-
-        OVText {
-            font.weight: Font.DemiBold
-            maximumLineCount: 1
-            text: card.title
-            width: parent.width
-            Accessible.ignored: true
-        }
-
-        OVText {
-            color: card.isBlank ? Theme.ovInkTertiary : Theme.ovInkSecondary
-            maximumLineCount: 4
-            role: OVText.Dense
-            text: card.preview
-            width: parent.width
-            wrapMode: Text.Wrap
-            Accessible.ignored: true
-        }
+        font.weight: Font.DemiBold
+        maximumLineCount: 1
+        text: card.title
+        Accessible.ignored: true
     }
 
     OVText {
+        anchors.bottom: date.top
+        anchors.bottomMargin: Theme.space4
+        anchors.left: titleText.left
+        anchors.right: titleText.right
+        anchors.top: titleText.bottom
+        anchors.topMargin: Theme.space4
+        color: card.isBlank ? Theme.ovInkTertiary : Theme.ovInkSecondary
+        maximumLineCount: 4
+        role: OVText.Dense
+        text: card.preview
+        verticalAlignment: Text.AlignTop
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
+    }
+
+    OVText {
+        id: date
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.space16
         anchors.left: parent.left

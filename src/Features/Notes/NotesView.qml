@@ -16,11 +16,19 @@ FocusScope {
         ui: Orvel.ui
     }
 
+    // As many lines as a full card has, in the font at hand: its title, four of its text, and its date.
+    OVText {
+        id: lines
+        role: OVText.Dense
+        text: "\n".repeat(5)
+        visible: false
+        wrapMode: Text.Wrap
+    }
+
     ScreenGrid {
         id: grid
         anchors.fill: parent
-        cardHeight: 2 * Theme.space16 + Theme.iconTile + 2 * Theme.space12 + 2 * Theme.space4 + Theme.space8
-                    + Math.ceil(1.4 * (Theme.sizeBody + 4 * Theme.sizeDense + Theme.sizeCaption))
+        cardHeight: 2 * Theme.space16 + Theme.iconTile + 2 * Theme.space12 + Theme.space4 + Math.ceil(lines.implicitHeight)
         focus: true
         minimumCardWidth: Theme.fieldWidth + Theme.space16
         model: notes.rows

@@ -164,6 +164,19 @@ Item {
             compare(place(), "dashboard")
         }
 
+        function test_fourLinesOfTextStandClearOfTheDate() {
+            Workspace.useInkMode()
+            Workspace.addNote("Plan", "words upon ".repeat(40))
+            open()
+            const shown = card("Plan")
+            const text = find("words upon", shown)
+            const date = find("Today", shown)
+            compare(text.lineCount, 4)
+            const end = text.mapToItem(shown, 0, text.contentHeight).y
+            const start = date.mapToItem(shown, 0, 0).y
+            verify(end + 2 <= start, end + " to " + start)
+        }
+
         function test_thousandsStayVirtual() {
             for (let i = 0; i < 3000; ++i)
                 Workspace.addNote("Note", "text")

@@ -37,7 +37,7 @@ T.CheckBox {
         radius: Math.min(Theme.cornerMark, height / 3)
         color: filled ? Theme.accent : control.down || control.hovered ? Theme.ovHover : Theme.ovSurface
         border.width: filled ? 0 : Theme.lineWidth
-        border.color: control.hovered ? Theme.ovInkTertiary : Theme.ovBorderStrong
+        border.color: control.hovered ? Theme.ovInkSecondary : Theme.ovInkTertiary
         scale: control.down ? 0.94 : 1
 
         Behavior on color {

@@ -159,9 +159,6 @@ int main(int argc, char *argv[])
                          timed([&] { bare.show(barePage, texts(page)); }), milliseconds(100));
     const auto open = [&] { return timed([&] { ours.show(editorPage, id); }); };
     const auto openBare = [&] { return timed([&] { bare.show(barePage, texts(page)); }); };
-    const auto firstOpening = open();
-    comparison.timeUnder(QStringLiteral("open the first page of a process, of 2,000 blocks"), firstOpening,
-                         openBare(), milliseconds(100));
     const auto openings = Comparison::alternate(20, open, openBare);
     comparison.timeUnder(QStringLiteral("open a page of 2,000 blocks, half of the times"),
                          Comparison::quantile(openings.ours, 0.5),

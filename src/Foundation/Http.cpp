@@ -11,6 +11,8 @@ namespace
 enum class Method { get, head };
 
 constexpr int mostRedirects = 10;
+/// What the toolkit may fetch ahead of a program that has no time to take it.
+constexpr qint64 mostBytesAhead = 1 << 20;
 
 /// One request under way; deletes itself when it has ended.
 class HttpExchange : public QObject
@@ -40,11 +42,12 @@ public:
         m_sink = std::move(sink);
         m_isBodyExpected = method == Method::get;
         m_reply = m_isBodyExpected ? network.get(request) : network.head(request);
+        m_reply->setReadBufferSize(mostBytesAhead);
         connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::takeHeaders);
         connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBody);
         connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::finish);
         QTimer::singleShot(m_limits.whole, this,
-                           [this] { end(std::unexpected(QStringLiteral("The answer took too long."))); });
+                           [this] { giveUp(QStringLiteral("The answer took too long.")); });
     }
 
 private:
@@ -86,26 +89,27 @@ private:
         return taken.has_value();
     }
 
-    void refuseLength()
+    void refuseLength() { giveUp(QStringLiteral("The answer is longer than %1 bytes.").arg(m_limits.bytes)); }
+
+    /// A refusal is an answer, however badly its page arrives.
+    void giveUp(const QString &reason)
     {
-        end(std::unexpected(QStringLiteral("The answer is longer than %1 bytes.").arg(m_limits.bytes)));
+        if (m_answer.status >= 400)
+            endWhole();
+        else
+            end(std::unexpected(reason));
     }
 
     void finish()
     {
         m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        // A refusal is an answer, however badly its page arrives.
-        if (m_answer.status >= 400) {
-            endWhole();
-            return;
-        }
         // It is this exchange that gives up on a silent server; its own aborts are not heard here.
         if (m_reply->error() == QNetworkReply::OperationCanceledError) {
-            end(std::unexpected(QStringLiteral("The answer took too long.")));
+            giveUp(QStringLiteral("The answer took too long."));
             return;
         }
-        if (m_reply->error() != QNetworkReply::NoError) {
-            end(std::unexpected(m_reply->errorString()));
+        if (m_answer.status >= 400 || m_reply->error() != QNetworkReply::NoError) {
+            giveUp(m_reply->errorString());
             return;
         }
         if (!takeBody())

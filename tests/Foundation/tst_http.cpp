@@ -86,6 +86,9 @@ private slots:
         QTest::addColumn<Answer>("answer");
         QTest::newRow("cut") << Answer{.body = "half", .toldLength = 8};
         QTest::newRow("packed") << Answer{.body = "whole", .contentEncoding = "gzip"};
+        QTest::newRow("too long") << Answer{.body = QByteArray(mostBytes + 1, 'x')};
+        QTest::newRow("told too long") << Answer{.toldLength = mostBytes + 1, .pace = Pace::stalling};
+        QTest::newRow("endless") << Answer{.pace = Pace::endless};
     }
     void aRefusalIsAnAnswerHoweverItArrives()
     {

@@ -46,8 +46,7 @@ public:
         connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::takeHeaders);
         connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBody);
         connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::finish);
-        QTimer::singleShot(m_limits.whole, this,
-                           [this] { giveUp(QStringLiteral("The answer took too long.")); });
+        QTimer::singleShot(m_limits.whole, this, [this] { giveUp(tookTooLong()); });
     }
 
 private:
@@ -89,13 +88,15 @@ private:
         return taken.has_value();
     }
 
+    static QString tookTooLong() { return QStringLiteral("The answer took too long."); }
+
     void refuseLength() { giveUp(QStringLiteral("The answer is longer than %1 bytes.").arg(m_limits.bytes)); }
 
     /// A refusal is an answer, however badly its page arrives.
     void giveUp(const QString &reason)
     {
         if (m_answer.status >= 400)
-            endWhole();
+            endAnswered();
         else
             end(std::unexpected(reason));
     }
@@ -103,13 +104,9 @@ private:
     void finish()
     {
         m_answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        // It is this exchange that gives up on a silent server; its own aborts are not heard here.
-        if (m_reply->error() == QNetworkReply::OperationCanceledError) {
-            giveUp(QStringLiteral("The answer took too long."));
-            return;
-        }
-        if (m_answer.status >= 400 || m_reply->error() != QNetworkReply::NoError) {
-            giveUp(m_reply->errorString());
+        if (const auto error = m_reply->error(); error != QNetworkReply::NoError) {
+            // The toolkit gives up on a silent server; this exchange's own aborts are not heard here.
+            giveUp(error == QNetworkReply::OperationCanceledError ? tookTooLong() : m_reply->errorString());
             return;
         }
         if (!takeBody())
@@ -119,7 +116,7 @@ private:
         else if (m_received < toldLength())
             end(std::unexpected(QStringLiteral("The answer ended early.")));
         else
-            endWhole();
+            endAnswered();
     }
 
     bool isPacked() const
@@ -128,7 +125,7 @@ private:
         return !encoding.isEmpty() && encoding != "identity";
     }
 
-    void endWhole()
+    void endAnswered()
     {
         m_answer.contentType =
             m_reply->header(QNetworkRequest::ContentTypeHeader).toString().toLower().toLatin1();

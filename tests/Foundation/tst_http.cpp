@@ -45,9 +45,9 @@ private:
         const bool isAtOnce = result.has_value();
         if (!QTest::qWaitFor([&] { return result.has_value(); }, 60'000))
             return std::unexpected(u"THE TEST GAVE UP"_s);
-        // Nothing is left behind: no connection, no exchange, no second answer.
         // The toolkit keeps a connection that it opened ahead; one that is in use stays.
         m_network.clearConnectionCache();
+        // Nothing is left behind: no connection, no exchange, no second answer.
         const bool isClean = QTest::qWaitFor(
             [&] { return m_owner.children().isEmpty() && m_server.openConnections() == 0; }, 60'000);
         if (isAtOnce || !isClean || calls != 1)

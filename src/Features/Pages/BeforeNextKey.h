@@ -4,8 +4,8 @@
 
 #include <functional>
 
-/// Makes a call before the next key is delivered. Keys that are typed fast come in
-/// one batch, in the middle of which nothing is done yet that was put off to the end of the turn.
+/// Makes a call before the next key is delivered. Keys that are typed fast come in one batch, in the middle
+/// of which nothing is done yet that was put off to the end of the turn.
 class BeforeNextKey : public QObject
 {
     Q_OBJECT

@@ -3,39 +3,70 @@
 #include "Foundation/RowChanges.h"
 
 #include <QAbstractListModel>
+#include <QHash>
 #include <QMetaProperty>
 
+#include <algorithm>
+#include <functional>
 #include <memory>
+
+/// What tells the rows of a list apart: their `id`, a member or a function without arguments, of any type
+/// that QHash takes as a key.
+template <typename Row>
+using RowKey = std::remove_cvref_t<std::invoke_result_t<decltype(&Row::id), const Row &>>;
 
 /// A row of a list as a screen shows it: a gadget whose properties are the roles, with an id and
 /// `operator==`.
 template <typename Row>
-concept KeyedRow = requires(const Row &row) {
+concept KeyedRow = std::default_initializable<Row> && requires(const Row &row, const RowKey<Row> &key) {
     Row::staticMetaObject;
-    { row.id } -> std::convertible_to<QUuid>;
+    { key == key } -> std::convertible_to<bool>;
     { row == row } -> std::convertible_to<bool>;
 };
+
+/// The list that a row owns, such as the cards of a column, and the role through which a view gets it as a
+/// model: `static constexpr NestedList nestedList{"cards", &BoardColumn::cards};`
+template <typename Owner, typename Row>
+struct NestedList {
+    const char *role;
+    QList<Row> Owner::*rows;
+
+    using RowType = Row;
+};
+template <typename Owner, typename Row>
+NestedList(const char *, QList<Row> Owner::*) -> NestedList<Owner, Row>;
+
+template <typename Row>
+concept OwnsList = requires { Row::nestedList; };
 
 /// A list model that is given its next rows as a whole and tells views the difference as the fewest removes,
 /// moves, inserts and role changes by id, so that delegates keep their focus, caret and animation. It never
 /// resets and never costs more than O(n log n).
 ///
-/// The roles are the properties of the row's gadget, by their names.
+/// The roles are the properties of the row's gadget, by their names. What no role shows changes without a
+/// signal. A list that a row owns is a KeyedListModel as well, which lives as long as its row and changes in
+/// place.
 template <KeyedRow Row>
 class KeyedListModel : public QAbstractListModel
 {
 public:
+    using Key = RowKey<Row>;
     using QAbstractListModel::QAbstractListModel;
 
     int rowCount(const QModelIndex &parent = {}) const override
     {
-        return parent.isValid() ? 0 : (m_changes ? m_changes->count() : int(m_rows.size()));
+        if (parent.isValid())
+            return 0;
+        return int(m_rows.size()) + (m_changes ? m_changes->count() - m_changed.oldCount : 0);
     }
 
     QVariant data(const QModelIndex &index, int role) const override
     {
         if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
             return {};
+        if constexpr (OwnsList<Row>)
+            if (role == nestedRole())
+                return QVariant::fromValue(nestedModel(rowAt(index.row())));
         const QMetaProperty property = Row::staticMetaObject.property(role - firstRole);
         return property.isValid() ? property.readOnGadget(&rowAt(index.row())) : QVariant();
     }
@@ -45,136 +76,248 @@ public:
         QHash<int, QByteArray> names;
         for (int i = 0; i < Row::staticMetaObject.propertyCount(); ++i)
             names.insert(firstRole + i, Row::staticMetaObject.property(i).name());
+        if constexpr (OwnsList<Row>)
+            names.insert(nestedRole(), Row::nestedList.role);
         return names;
     }
 
     const QList<Row> &rows() const { return m_rows; }
 
-    /// The row with this id; nothing if it is not in the list.
-    const Row *find(const QUuid &id) const
+    /// The row with this id; nothing if it is not in the list. Of many rows in turn, each is found in O(1).
+    const Row *find(const Key &id) const
     {
-        for (const Row &row : m_rows)
-            if (row.id == id)
-                return &row;
-        return nullptr;
+        const int row = indexOf(id);
+        return row < 0 ? nullptr : &m_rows.at(row);
     }
 
     /// Changes the row with this id where it stands; the edit keeps its id. Without such a row it does
     /// nothing.
     template <typename Edit>
-    void changeRow(const QUuid &id, Edit edit)
+    void changeRow(const Key &id, Edit edit)
     {
-        const auto found = std::ranges::find(m_rows, id, &Row::id);
-        if (found == m_rows.end())
+        const int row = indexOf(id);
+        if (row < 0)
             return;
-        Row next = *found;
+        Row next = m_rows.at(row);
         edit(next);
-        const QList<int> roles = changedRoles(*found, next);
-        if (roles.isEmpty())
-            return;
-        const QModelIndex place = index(int(found - m_rows.begin()));
-        *found = std::move(next);
-        emit dataChanged(place, place, roles);
+        announce(row, row, assign(row, std::move(next)));
+    }
+
+    /// Changes the contents of the row with the id of this one; without one it does nothing.
+    void updateRow(Row next)
+    {
+        if (const int row = indexOf(idOf(next)); row >= 0)
+            announce(row, row, assign(row, std::move(next)));
     }
 
     /// Replaces the rows. Ids have to be unique; of several rows with one id the first is taken.
     void setRows(QList<Row> next)
     {
-        if (!sameIds(next)) {
+        Span changed = changedSpan(next);
+        if (repeatsIds(next, changed)) {
             dropRepeatedIds(next);
-            changeOrder(next);
+            changed = changedSpan(next);
         }
-        changeRows(std::move(next));
-    }
-
-    /// Changes the contents of the row with this id, in O(n) of comparing ids alone; without one it does
-    /// nothing.
-    void updateRow(Row next)
-    {
-        const auto found = std::ranges::find(m_rows, next.id, &Row::id);
-        if (found != m_rows.end())
-            changeRow(int(found - m_rows.begin()), std::move(next));
+        if (changed.oldCount > 0 || changed.nextCount > 0)
+            changeOrder(next, changed);
+        changeContents(std::move(next));
     }
 
 private:
-    static constexpr int firstRole = Qt::UserRole + 1;
+    /// The rows between those at the start and at the end that stay as they are.
+    struct Span {
+        qsizetype first = 0;
+        qsizetype oldCount = 0;
+        qsizetype nextCount = 0;
+    };
 
-    const Row &rowAt(int row) const
+    static constexpr int firstRole = Qt::UserRole + 1;
+    /// An attached view takes time for each step that grows with the number of steps before it.
+    static constexpr int maxSteps = 1000;
+    static int nestedRole() { return firstRole + Row::staticMetaObject.propertyCount(); }
+
+    static Key idOf(const Row &row) { return std::invoke(&Row::id, row); }
+    static bool haveSameId(const Row &a, const Row &b) { return idOf(a) == idOf(b); }
+
+    const Row &rowAt(qsizetype row) const
     {
-        if (!m_changes)
-            return m_rows[row];
-        const RowChanges::Slot slot = m_changes->slotAt(row);
-        return slot.isOld ? m_rows[slot.index] : (*m_next)[slot.index];
+        if (!m_changes || row < m_changed.first)
+            return m_rows.at(row);
+        row -= m_changed.first;
+        if (row >= m_changes->count())
+            return m_rows.at(m_changed.first + m_changed.oldCount + row - m_changes->count());
+        const RowChanges::Slot slot = m_changes->slotAt(int(row));
+        return (slot.isOld ? m_rows : *m_next).at(m_changed.first + slot.index);
     }
 
-    bool sameIds(const QList<Row> &next) const
+    template <typename Owner = Row>
+    using NestedModel = KeyedListModel<typename decltype(Owner::nestedList)::RowType>;
+
+    /// The model of the list that the row owns, made when a view first asks for it.
+    QAbstractItemModel *nestedModel(const Row &row) const
     {
-        return std::ranges::equal(m_rows, next, {}, &Row::id, &Row::id);
+        QAbstractItemModel *&model = m_nested[idOf(row)];
+        if (!model) {
+            auto *const made = new NestedModel<>(&m_nestedModels);
+            made->setRows(row.*Row::nestedList.rows);
+            model = made;
+        }
+        return model;
+    }
+
+    void forgetNested(int first, int last)
+    {
+        // Delegates on their way out still show the list.
+        for (int row = first; row <= last && !m_nested.isEmpty(); ++row)
+            if (QAbstractItemModel *const model = m_nested.take(idOf(rowAt(row))))
+                model->deleteLater();
+    }
+
+    int indexOf(const Key &id) const
+    {
+        if (m_index.isEmpty() && !std::exchange(m_isSearched, true)) {
+            // An index is worth its making only if more than this is looked for.
+            const auto found = std::ranges::find(m_rows, id, idOf);
+            return found == m_rows.end() ? -1 : int(found - m_rows.begin());
+        }
+        if (m_index.isEmpty()) {
+            m_index.reserve(m_rows.size());
+            for (int row = 0; row < m_rows.size(); ++row)
+                m_index.insert(idOf(m_rows.at(row)), row);
+        }
+        return m_index.value(id, -1);
+    }
+
+    Span changedSpan(const QList<Row> &next) const
+    {
+        const auto start = std::ranges::mismatch(m_rows, next, haveSameId);
+        const auto end = std::mismatch(m_rows.crbegin(), std::make_reverse_iterator(start.in1),
+                                       next.crbegin(), std::make_reverse_iterator(start.in2), haveSameId);
+        return {start.in1 - m_rows.begin(), end.first.base() - start.in1, end.second.base() - start.in2};
+    }
+
+    /// Whether a row of the span has the id of another row.
+    static bool repeatsIds(const QList<Row> &rows, const Span &span)
+    {
+        const qsizetype last = span.first + span.nextCount - 1;
+        QSet<Key> ids;
+        ids.reserve(span.nextCount);
+        for (qsizetype row = span.first; row <= last; ++row)
+            ids.insert(idOf(rows.at(row)));
+        const auto isTaken = [&ids](const Row &row) { return ids.contains(idOf(row)); };
+        return ids.size() < span.nextCount ||
+               (span.nextCount > 0 && (std::any_of(rows.begin(), rows.begin() + span.first, isTaken) ||
+                                       std::any_of(rows.begin() + last + 1, rows.end(), isTaken)));
     }
 
     static void dropRepeatedIds(QList<Row> &rows)
     {
-        QSet<QUuid> seen;
+        QSet<Key> seen;
         seen.reserve(rows.size());
         rows.removeIf([&seen](const Row &row) {
             const auto before = seen.size();
-            seen.insert(row.id);
+            seen.insert(idOf(row));
             return seen.size() == before;
         });
     }
 
-    static QList<QUuid> idsOf(const QList<Row> &rows)
+    std::vector<int> oldIndexOf(const QList<Row> &next, const Span &changed) const
     {
-        QList<QUuid> ids;
-        ids.reserve(rows.size());
-        for (const Row &row : rows)
-            ids.append(row.id);
-        return ids;
+        QHash<Key, int> old;
+        old.reserve(changed.oldCount);
+        for (int i = 0; i < changed.oldCount; ++i)
+            old.insert(idOf(m_rows.at(changed.first + i)), i);
+        std::vector<int> indexes(std::size_t(changed.nextCount));
+        for (int i = 0; i < changed.nextCount; ++i)
+            indexes[std::size_t(i)] = old.value(idOf(next.at(changed.first + i)), -1);
+        return indexes;
     }
 
     /// Announces removes, moves and inserts; afterwards the rows stand in their new order, kept ones with
     /// their old contents.
-    void changeOrder(const QList<Row> &next)
+    void changeOrder(const QList<Row> &next, const Span &changed)
     {
-        m_changes = std::make_unique<RowChanges>(idsOf(m_rows), idsOf(next));
+        m_changes = std::make_unique<RowChanges>(int(changed.oldCount), oldIndexOf(next, changed));
+        if (m_changes->stepCount() > maxSteps)
+            m_changes = std::make_unique<RowChanges>(int(changed.oldCount),
+                                                     std::vector<int>(std::size_t(changed.nextCount), -1));
+        m_changed = changed;
         m_next = &next;
+        const int first = int(changed.first);
         while (const auto range = m_changes->nextRemoval()) {
-            beginRemoveRows({}, range->first, range->last);
+            beginRemoveRows({}, first + range->first, first + range->last);
+            forgetNested(first + range->first, first + range->last);
             m_changes->apply();
             endRemoveRows();
         }
         while (const auto move = m_changes->nextMove()) {
-            beginMoveRows({}, move->from, move->from, {}, move->before);
+            beginMoveRows({}, first + move->from, first + move->from, {}, first + move->before);
             m_changes->apply();
             endMoveRows();
         }
         while (const auto range = m_changes->nextInsertion()) {
-            beginInsertRows({}, range->first, range->last);
+            beginInsertRows({}, first + range->first, first + range->last);
             m_changes->apply();
             endInsertRows();
         }
-        QList<Row> rows = next;
-        for (int i = 0; i < rows.size(); ++i)
-            if (const auto old = m_changes->oldIndexOf(i))
-                rows[i] = m_rows[*old];
-        m_rows = std::move(rows);
+        putInOrder(next);
+    }
+
+    void putInOrder(const QList<Row> &next)
+    {
+        QList<Row> changed;
+        changed.reserve(m_changed.nextCount);
+        for (qsizetype i = 0; i < m_changed.nextCount; ++i) {
+            if (const auto old = m_changes->oldIndexOf(int(i)))
+                changed.append(std::move(m_rows[m_changed.first + *old]));
+            else
+                changed.append(next.at(m_changed.first + i));
+        }
+        const qsizetype added = m_changed.nextCount - m_changed.oldCount;
+        if (added > 0)
+            m_rows.insert(m_changed.first, added, Row());
+        else
+            m_rows.remove(m_changed.first, -added);
+        std::ranges::move(changed, m_rows.begin() + m_changed.first);
         m_changes.reset();
         m_next = nullptr;
+        m_index.clear();
+        m_isSearched = false;
     }
 
-    void changeRows(QList<Row> next)
+    void changeContents(QList<Row> next)
     {
-        for (int i = 0; i < next.size(); ++i)
-            changeRow(i, std::move(next[i]));
+        int first = 0;
+        QList<int> roles;
+        for (int row = 0; row < next.size(); ++row) {
+            const QList<int> changed = assign(row, std::move(next[row]));
+            if (changed == roles)
+                continue;
+            announce(first, row - 1, roles);
+            first = row;
+            roles = changed;
+        }
+        announce(first, int(next.size()) - 1, roles);
     }
 
-    void changeRow(int row, Row next)
+    /// The roles that changed.
+    QList<int> assign(int row, Row next)
     {
-        if (m_rows[row] == next)
-            return;
-        const QList<int> roles = changedRoles(m_rows[row], next);
-        m_rows[row] = std::move(next);
-        emit dataChanged(index(row), index(row), roles);
+        if (m_rows.at(row) == next)
+            return {};
+        Row &old = m_rows[row];
+        const QList<int> roles = changedRoles(old, next);
+        old = std::move(next);
+        if constexpr (OwnsList<Row>)
+            if (QAbstractItemModel *const nested = m_nested.value(idOf(old)))
+                static_cast<NestedModel<> *>(nested)->setRows(old.*Row::nestedList.rows);
+        return roles;
+    }
+
+    void announce(int first, int last, const QList<int> &roles)
+    {
+        if (!roles.isEmpty())
+            emit dataChanged(index(first), index(last), roles);
     }
 
     static QList<int> changedRoles(const Row &before, const Row &after)
@@ -189,7 +332,13 @@ private:
     }
 
     QList<Row> m_rows;
+    mutable QHash<Key, int> m_index;
+    mutable bool m_isSearched = false;
+    /// Of the rows that own a list and whose list was asked for.
+    mutable QHash<Key, QAbstractItemModel *> m_nested;
+    mutable QObject m_nestedModels;
     /// Set only while a change of order is being announced.
     std::unique_ptr<RowChanges> m_changes;
+    Span m_changed;
     const QList<Row> *m_next = nullptr;
 };

@@ -1,7 +1,5 @@
 #include "Foundation/RowChanges.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <bit>
 
@@ -31,21 +29,12 @@ std::vector<bool> longestKeptRun(const std::vector<int> &nextIndexOf)
 }
 } // namespace
 
-RowChanges::RowChanges(const QList<QUuid> &old, const QList<QUuid> &next)
+RowChanges::RowChanges(int oldCount, std::vector<int> oldIndexOf) : m_oldIndexOf(std::move(oldIndexOf))
 {
-    QHash<QUuid, int> indexInNext;
-    indexInNext.reserve(next.size());
-    for (int i = 0; i < next.size(); ++i)
-        indexInNext.insert(next[i], i);
-
-    m_oldIndexOf.assign(std::size_t(next.size()), -1);
-    std::vector<int> nextIndexOf(std::size_t(old.size()), -1);
-    for (int i = 0; i < old.size(); ++i) {
-        const int index = indexInNext.value(old[i], -1);
-        nextIndexOf[std::size_t(i)] = index;
-        if (index >= 0)
-            m_oldIndexOf[std::size_t(index)] = i;
-    }
+    std::vector<int> nextIndexOf(std::size_t(oldCount), -1);
+    for (std::size_t next = 0; next < m_oldIndexOf.size(); ++next)
+        if (const int old = m_oldIndexOf[next]; old >= 0)
+            nextIndexOf[std::size_t(old)] = int(next);
     layOut(m_oldIndexOf, nextIndexOf, longestKeptRun(nextIndexOf));
 }
 
@@ -81,6 +70,28 @@ void RowChanges::layOut(const std::vector<int> &oldIndexOf, const std::vector<in
         if (parent < m_tree.size())
             m_tree[parent] += m_tree[i + 1];
     }
+}
+
+int RowChanges::stepCount() const
+{
+    int steps = 0;
+    bool isRemoving = false;
+    bool isInserting = false;
+    for (const Place &place : m_places) {
+        if (place.oldIndex >= 0) {
+            const bool goes = place.nextIndex < 0;
+            steps += goes && !isRemoving ? 1 : 0;
+            isRemoving = goes;
+        }
+        if (place.stays) {
+            isInserting = false;
+        } else if (place.oldIndex < 0) {
+            const bool comes = m_oldIndexOf[std::size_t(place.nextIndex)] < 0;
+            steps += comes && isInserting ? 0 : 1;
+            isInserting = comes;
+        }
+    }
+    return steps;
 }
 
 std::optional<RowChanges::Range> RowChanges::nextRemoval()

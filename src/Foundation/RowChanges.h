@@ -1,13 +1,10 @@
 #pragma once
 
-#include <QList>
-#include <QUuid>
-
 #include <optional>
 #include <vector>
 
-/// Works out how one list of ids becomes another with the fewest removals, moves and insertions, and tracks
-/// which row stands where while the steps are carried out one by one. Ids are unique within each list.
+/// Works out how one list becomes another with the fewest removals, moves and insertions, and tracks which row
+/// stands where while the steps are carried out one by one.
 ///
 /// Steps are asked for in the order removals, moves, insertions; `apply` carries out the one asked for last.
 /// All of it together costs O(n log n).
@@ -29,8 +26,11 @@ public:
         int index;
     };
 
-    RowChanges(const QList<QUuid> &old, const QList<QUuid> &next);
+    /// @param oldIndexOf for each row of the next list where it stands in the old one, or -1 if it is new
+    RowChanges(int oldCount, std::vector<int> oldIndexOf);
 
+    /// How many removals, moves and insertions there are.
+    int stepCount() const;
     std::optional<Range> nextRemoval();
     std::optional<Move> nextMove();
     std::optional<Range> nextInsertion();

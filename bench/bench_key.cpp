@@ -4,6 +4,7 @@
 #include "Harness/Comparison.h"
 #include "Harness/WorkspaceGenerator.h"
 #include "Store/SnapshotCodec.h"
+#include "Store/TaskOperations.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -19,7 +20,7 @@ class Desk
 public:
     Desk(const QString &path, const Snapshot &workspace) : m_store(openStore(path, workspace))
     {
-        m_task = m_store->newTask(QStringLiteral("A task"), TaskPriority::medium, {});
+        m_task = TaskOperations::create(*m_store, QStringLiteral("A task"), TaskPriority::medium, {});
         m_tasks.setStore(m_store.get());
         m_sidebar.setUi(&m_ui);
         m_sidebar.setStore(m_store.get());

@@ -1,6 +1,8 @@
 #include "App/OrvelCommands.h"
 
 #include "DesignSystem/KeyText.h"
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 #include "Support/OVQuotes.h"
 
 #include <QRandomGenerator>
@@ -100,12 +102,12 @@ void OrvelCommands::run(const QString &id)
 
 void OrvelCommands::open(PageKind kind)
 {
-    m_ui->setSelection(Destination::page(m_store->newPage(kind)));
+    m_ui->setSelection(Destination::page(PageOperations::create(*m_store, kind)));
 }
 
 void OrvelCommands::newTask()
 {
-    m_store->newTask(u"Untitled task"_s, TaskPriority::medium, m_store->clock().now());
+    TaskOperations::create(*m_store, u"Untitled task"_s, TaskPriority::medium, m_store->clock().now());
     m_ui->setSelection(Destination::to(Destination::Kind::tasks));
 }
 

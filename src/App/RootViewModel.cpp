@@ -10,7 +10,10 @@ void RootViewModel::setStore(WorkspaceStore *store)
         m_store->disconnect(this);
     m_store = store;
     if (m_store)
-        connect(m_store, &WorkspaceStore::settingsChanged, this, &RootViewModel::read);
+        connect(m_store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+            if (changes.settings)
+                read();
+        });
     emit storeChanged();
     read();
 }

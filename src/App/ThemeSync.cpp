@@ -7,8 +7,12 @@ ThemeSync::ThemeSync(const WorkspaceStore *store, const SystemAppearance *deskto
 {
     const auto follow = [](bool dark) { OVTheme::setSystemDark(dark); };
     const auto apply = [store] { OVTheme::apply(store->settings()); };
+    const auto followSettings = [apply](const ChangeSet &changes) {
+        if (changes.settings)
+            apply();
+    };
     connect(desktop, &SystemAppearance::changed, this, follow);
-    connect(store, &WorkspaceStore::settingsChanged, this, apply);
+    connect(store, &WorkspaceStore::changed, this, followSettings);
     follow(desktop->isDark());
     apply();
 }

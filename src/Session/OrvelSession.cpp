@@ -6,7 +6,7 @@ constexpr char sessionProperty[] = "orvelSession";
 }
 
 OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates)
-    : m_store(store), m_ui(ui), m_updates(updates), m_search(*store)
+    : m_store(store), m_ui(ui), m_updates(updates), m_search(*store), m_undo(store, ui)
 {
 }
 

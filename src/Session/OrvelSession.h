@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/SessionTypes.h"
+#include "Session/UndoController.h"
 
 #include <QQmlEngine>
 
@@ -16,6 +17,7 @@ class OrvelSession : public QObject
     Q_PROPERTY(UIState *ui READ ui CONSTANT FINAL)
     Q_PROPERTY(UpdateService *updates READ updates CONSTANT FINAL)
     Q_PROPERTY(PreparedSearch *search READ search CONSTANT FINAL)
+    Q_PROPERTY(UndoController *undo READ undo CONSTANT FINAL)
 
 public:
     /// The objects outlive the session, and the session outlives the engine.
@@ -30,10 +32,12 @@ public:
     UIState *ui() const { return m_ui; }
     UpdateService *updates() const { return m_updates; }
     PreparedSearch *search() { return &m_search; }
+    UndoController *undo() { return &m_undo; }
 
 private:
     WorkspaceStore *m_store;
     UIState *m_ui;
     UpdateService *m_updates;
     PreparedSearch m_search;
+    UndoController m_undo;
 };

@@ -1,16 +1,16 @@
 #include "Session/PageActions.h"
 
-#include "Store/WorkspaceStore.h"
+#include "Store/PageOperations.h"
 #include "Support/UIState.h"
 
 void PageActions::create(WorkspaceStore &store, UIState &ui, PageKind kind)
 {
-    ui.setSelection(Destination::page(store.newPage(kind)));
+    ui.setSelection(Destination::page(PageOperations::create(store, kind)));
 }
 
 void PageActions::erase(WorkspaceStore &store, UIState &ui, const QUuid &pageID, Destination::Kind next)
 {
     if (ui.selection() == Destination::page(pageID))
         ui.setSelection(Destination::to(next));
-    store.erase<Page>(pageID);
+    PageOperations::remove(store, pageID);
 }

@@ -10,8 +10,10 @@ PreparedSearch::PreparedSearch(const WorkspaceStore &store, Timing timing, QObje
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &PreparedSearch::prepareSlice);
-    connect(&store, &WorkspaceStore::pagesChanged, this, &PreparedSearch::prepareLater);
-    connect(&store, &WorkspaceStore::codeDocumentsChanged, this, &PreparedSearch::prepareLater);
+    connect(&store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+        if (changes.touches<Page, CodeDocument>())
+            prepareLater();
+    });
     prepareLater();
 }
 

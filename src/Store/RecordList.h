@@ -5,14 +5,10 @@
 #include <QSet>
 #include <QUuid>
 
-#include <algorithm>
-#include <numeric>
-
-/// The records of one kind in the order of insertion. Finding and replacing one by its id is O(1), and O(log
-/// n) in the number of records that were removed so far.
+/// The records of one kind in the order of insertion. Finding one by its id is O(1).
 ///
 /// Ids should be unique but nothing enforces it in a file: with several records of one id, `first` gives the
-/// first, while `replace` and `remove` reach them all.
+/// first, while `positionsOf` gives them all.
 template <typename Record>
 class RecordList
 {
@@ -21,6 +17,7 @@ public:
     explicit RecordList(QList<Record> records) : m_records(std::move(records)) {}
 
     const QList<Record> &all() const { return m_records; }
+    const Record &at(qsizetype position) const { return m_records.at(position); }
     qsizetype size() const { return m_records.size(); }
     bool isEmpty() const { return m_records.isEmpty(); }
     auto begin() const { return m_records.cbegin(); }
@@ -29,90 +26,129 @@ public:
     /// The first record with this id, or null. The pointer holds until the list changes.
     const Record *first(const QUuid &id) const
     {
-        const qsizetype index = indexOf(id);
-        return index < 0 ? nullptr : &m_records.at(index);
+        const qsizetype position = positionOf(id);
+        return position < 0 ? nullptr : &m_records.at(position);
+    }
+    bool contains(const QUuid &id) const { return positionOf(id) >= 0; }
+
+    /// The position of the first record with this id, or -1.
+    qsizetype positionOf(const QUuid &id) const
+    {
+        if (!m_isIndexed)
+            buildIndex();
+        const auto found = m_index.find(id);
+        if (found == m_index.end())
+            return -1;
+        const auto isAt = [&](qsizetype position) {
+            return position >= 0 && position < m_records.size() && m_records.at(position).id == id;
+        };
+        for (qsizetype offset = 0; offset <= m_maxShift; ++offset)
+            for (const qsizetype position : {*found - offset, *found + offset})
+                if (isAt(position))
+                    return *found = position;
+        Q_UNREACHABLE();
+    }
+
+    /// The positions of all records with these ids, ascending.
+    QList<qsizetype> positionsOf(const QSet<QUuid> &ids) const
+    {
+        QList<qsizetype> positions;
+        if (ids.size() < 16 && !hasRepeatedIds()) {
+            for (const QUuid &id : ids)
+                if (const qsizetype position = positionOf(id); position >= 0)
+                    positions.append(position);
+            std::ranges::sort(positions);
+            return positions;
+        }
+        for (qsizetype i = 0; i < m_records.size(); ++i)
+            if (ids.contains(m_records.at(i).id))
+                positions.append(i);
+        return positions;
+    }
+
+    /// Puts a record, which keeps the id of the one that it replaces, at this position; returns the old one.
+    Record exchange(qsizetype position, Record record)
+    {
+        return std::exchange(m_records[position], std::move(record));
+    }
+
+    /// Takes the records at these ascending positions out.
+    QList<Record> take(const QList<qsizetype> &positions)
+    {
+        QList<Record> taken;
+        taken.reserve(positions.size());
+        prepareShift(positions);
+        if (positions.size() == 1) {
+            taken.append(m_records.takeAt(positions.first()));
+        } else if (!positions.isEmpty()) {
+            qsizetype next = 0;
+            qsizetype kept = positions.first();
+            for (qsizetype i = kept; i < m_records.size(); ++i) {
+                if (next < positions.size() && positions.at(next) == i) {
+                    taken.append(std::move(m_records[i]));
+                    ++next;
+                } else {
+                    m_records[kept++] = std::move(m_records[i]);
+                }
+            }
+            m_records.resize(kept);
+        }
+        if (m_isIndexed)
+            for (const Record &record : std::as_const(taken))
+                m_index.remove(record.id);
+        return taken;
+    }
+
+    /// Puts records in, so that afterwards each stands at its position; positions ascend.
+    void insert(const QList<qsizetype> &positions, QList<Record> records)
+    {
+        if (positions.isEmpty())
+            return;
+        if (positions.first() < m_records.size())
+            prepareShift(positions);
+        const bool wasIndexed = m_isIndexed;
+        for (qsizetype i = 0; wasIndexed && i < positions.size(); ++i) {
+            if (m_index.contains(records.at(i).id))
+                forgetIndex();
+            if (!m_isIndexed)
+                break;
+            m_index.insert(records.at(i).id, positions.at(i));
+        }
+        if (positions.size() == 1) {
+            m_records.insert(positions.first(), std::move(records.first()));
+            return;
+        }
+        qsizetype from = m_records.size();
+        qsizetype next = positions.size();
+        m_records.resize(m_records.size() + positions.size());
+        for (qsizetype to = m_records.size() - 1; next > 0; --to) {
+            if (positions.at(next - 1) == to)
+                m_records[to] = std::move(records[--next]);
+            else
+                m_records[to] = std::move(m_records[--from]);
+        }
     }
 
     void append(Record record)
     {
-        if (m_isIndexed) {
-            if (!m_index.contains(record.id))
-                m_index.insert(record.id, m_nextSerial);
-            m_serials.append(m_nextSerial++);
-        }
+        if (m_isIndexed && !m_index.contains(record.id))
+            m_index.insert(record.id, m_records.size());
         m_records.append(std::move(record));
     }
 
-    /// Puts the record in the place of those with its id; without one it does nothing.
-    void replace(const Record &record)
-    {
-        const qsizetype index = indexOf(record.id);
-        if (index < 0)
-            return;
-        m_records[index] = record;
-        if (!hasRepeatedIds())
-            return;
-        for (qsizetype i = index + 1; i < m_records.size(); ++i)
-            if (m_records.at(i).id == record.id)
-                m_records[i] = record;
-    }
-
-    void remove(const QSet<QUuid> &ids)
-    {
-        if (!m_isIndexed || hasRepeatedIds()) {
-            m_records.removeIf([&ids](const Record &record) { return ids.contains(record.id); });
-            forgetIndex();
-            return;
-        }
-        QList<qsizetype> indexes;
-        for (const QUuid &id : ids)
-            if (const qsizetype index = indexOf(id); index >= 0)
-                indexes.append(index);
-        std::ranges::sort(indexes);
-        for (const QUuid &id : ids)
-            m_index.remove(id);
-        removeAt(m_records, indexes);
-        removeAt(m_serials, indexes);
-    }
-
 private:
-    template <typename Value>
-    static void removeAt(QList<Value> &values, const QList<qsizetype> &sortedIndexes)
-    {
-        if (sortedIndexes.isEmpty())
-            return;
-        auto end = values.begin() + sortedIndexes.first();
-        for (qsizetype i = 0; i < sortedIndexes.size(); ++i) {
-            const auto next = i + 1 < sortedIndexes.size() ? sortedIndexes[i + 1] : values.size();
-            end = std::move(values.begin() + sortedIndexes[i] + 1, values.begin() + next, end);
-        }
-        values.erase(end, values.end());
-    }
-
-    qsizetype indexOf(const QUuid &id) const
+    bool hasRepeatedIds() const
     {
         if (!m_isIndexed)
             buildIndex();
-        const auto found = m_index.constFind(id);
-        if (found == m_index.cend())
-            return -1;
-        // Removals move a record towards the front, by at most one place each.
-        const qsizetype removals = m_nextSerial - m_serials.size();
-        const auto first = m_serials.cbegin() + std::max(*found - removals, qsizetype(0));
-        const auto end = m_serials.cbegin() + std::min(*found + 1, m_serials.size());
-        return std::lower_bound(first, end, *found) - m_serials.cbegin();
+        return m_index.size() != m_records.size();
     }
-
-    bool hasRepeatedIds() const { return m_index.size() != m_records.size(); }
 
     // Built when something is looked up, so that loading a large workspace doesn't wait for it.
     void buildIndex() const
     {
-        m_nextSerial = m_records.size();
-        m_serials.resize(m_nextSerial);
-        std::iota(m_serials.begin(), m_serials.end(), 0);
-        m_index.reserve(m_nextSerial);
-        for (qsizetype i = 0; i < m_nextSerial; ++i)
+        m_index.reserve(m_records.size());
+        for (qsizetype i = 0; i < m_records.size(); ++i)
             if (!m_index.contains(m_records.at(i).id))
                 m_index.insert(m_records.at(i).id, i);
         m_isIndexed = true;
@@ -121,15 +157,27 @@ private:
     void forgetIndex()
     {
         m_index.clear();
-        m_serials.clear();
         m_isIndexed = false;
+        m_maxShift = 0;
+    }
+
+    /// Positions in the index may be wrong by as many places as records came or went before them. They are
+    /// put right when they are asked for, and only after many such changes all at once.
+    void prepareShift(const QList<qsizetype> &positions)
+    {
+        static constexpr qsizetype longestSearch = 500;
+        if (!m_isIndexed)
+            return;
+        const bool isAtEnd = !positions.isEmpty() && positions.last() == m_records.size() - 1 &&
+                             positions.last() - positions.first() == positions.size() - 1;
+        if (!isAtEnd)
+            m_maxShift += positions.size();
+        if (m_maxShift > longestSearch || hasRepeatedIds())
+            forgetIndex();
     }
 
     QList<Record> m_records;
-    /// The serial number of each record, growing with its place, so that removing one leaves the numbers of
-    /// the others, which the index holds, as they are.
-    mutable QList<qsizetype> m_serials;
     mutable QHash<QUuid, qsizetype> m_index;
-    mutable qsizetype m_nextSerial = 0;
+    qsizetype m_maxShift = 0;
     mutable bool m_isIndexed = false;
 };

@@ -1,53 +1,55 @@
 #pragma once
 
-#include "Models/Activity.h"
 #include "Models/AppSettings.h"
-#include "Models/Book.h"
-#include "Models/CalendarEvent.h"
-#include "Models/CodeDocument.h"
-#include "Models/DBRow.h"
-#include "Models/DatabaseTable.h"
-#include "Models/Deck.h"
-#include "Models/Folder.h"
-#include "Models/Habit.h"
-#include "Models/Page.h"
-#include "Models/Project.h"
-#include "Models/TaskItem.h"
+#include "Store/RecordKinds.h"
+
+/// The records of one kind in a `Snapshot`.
+template <typename Record>
+struct SnapshotList {
+    QList<Record> records;
+
+    bool operator==(const SnapshotList &) const = default;
+};
+
+template <typename Kinds>
+struct SnapshotLists;
+template <typename... Kind>
+struct SnapshotLists<std::tuple<Kind...>> : SnapshotList<typename Kind::Record>... {
+    bool operator==(const SnapshotLists &) const = default;
+};
 
 /// The document on disk: the whole workspace. It is tolerant key by key, so a list with a bad record reads as
 /// empty while all others load. Copying one is cheap, since lists share their contents.
-struct Snapshot {
+struct Snapshot : SnapshotLists<RecordKinds::All> {
     AppSettings settings;
-    QList<Folder> folders;
-    QList<Page> pages;
-    QList<TaskItem> tasks;
-    QList<CalendarEvent> events;
-    QList<Project> projects;
-    QList<Activity> activities;
-    QList<DatabaseTable> databases;
-    QList<DBRow> rows;
-    QList<Habit> habits;
-    QList<CodeDocument> codeDocuments;
-    QList<Deck> decks;
-    QList<Book> books;
+
+    template <typename Record>
+    QList<Record> &list()
+    {
+        return SnapshotList<Record>::records;
+    }
+    template <typename Record>
+    const QList<Record> &list() const
+    {
+        return SnapshotList<Record>::records;
+    }
 
     bool operator==(const Snapshot &) const = default;
 
     static constexpr bool isTolerant = true;
     static constexpr auto fields()
     {
-        return std::tuple{Field{"settings", &Snapshot::settings},
-                          Field{"folders", &Snapshot::folders},
-                          Field{"pages", &Snapshot::pages},
-                          Field{"tasks", &Snapshot::tasks},
-                          Field{"events", &Snapshot::events},
-                          Field{"projects", &Snapshot::projects},
-                          Field{"activities", &Snapshot::activities},
-                          Field{"databases", &Snapshot::databases},
-                          Field{"rows", &Snapshot::rows},
-                          Field{"habits", &Snapshot::habits},
-                          Field{"codeDocuments", &Snapshot::codeDocuments},
-                          Field{"decks", &Snapshot::decks},
-                          Field{"books", &Snapshot::books}};
+        return std::apply(
+            []<typename... Kind>(const Kind &...kind) {
+                return std::tuple{Field{"settings", &Snapshot::settings}, listField(kind)...};
+            },
+            RecordKinds::all);
+    }
+
+private:
+    template <typename Record>
+    static constexpr Field<Snapshot, QList<Record>> listField(const RecordKind<Record> &kind)
+    {
+        return {kind.key, &SnapshotList<Record>::records};
     }
 };

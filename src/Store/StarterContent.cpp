@@ -1,7 +1,10 @@
 #include "Store/StarterContent.h"
 
+#include "Store/PageOperations.h"
+#include "Store/ProjectOperations.h"
 #include "Store/Questions.h"
 #include "Store/StarterRecords.h"
+#include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 
 namespace
@@ -52,30 +55,35 @@ bool holdsExample(const WorkspaceStore &store)
 template <typename... Record>
 void removeExamples(WorkspaceStore &store)
 {
-    (store.remove<Record>(Questions::ids(store.list<Record>(), isExample<Record>)), ...);
+    const auto ids = [&store]<typename One>() {
+        const QList<QUuid> found = Questions::ids(store.list<One>(), isExample<One>);
+        return QSet<QUuid>(found.begin(), found.end());
+    };
+    (store.erase<Record>(ids.template operator()<Record>()), ...);
 }
 } // namespace
 
 void StarterContent::completeOnboarding(WorkspaceStore &store, const Choices &choices)
 {
-    AppSettings settings = store.settings();
-    settings.userName = choices.userName.trimmed();
-    const QString name = choices.workspaceName.trimmed();
-    settings.workspaceName = name.isEmpty() ? AppSettings().workspaceName : name;
-    settings.workspaceIcon = choices.workspaceIcon;
-    settings.appearance = choices.appearance;
-    settings.hiddenModules.clear();
-    for (const auto &entry : enumCases<OrvelModule>())
-        settings.setModule(entry.value, choices.modules.contains(entry.value));
-    store.setSettings(settings);
+    const Action action = Action::background(store);
+    store.changeSettings([&](AppSettings &settings) {
+        settings.userName = choices.userName.trimmed();
+        const QString name = choices.workspaceName.trimmed();
+        settings.workspaceName = name.isEmpty() ? AppSettings().workspaceName : name;
+        settings.workspaceIcon = choices.workspaceIcon;
+        settings.appearance = choices.appearance;
+        settings.hiddenModules.clear();
+        for (const auto &entry : enumCases<OrvelModule>())
+            settings.setModule(entry.value, choices.modules.contains(entry.value));
+    });
     seed(store, choices.modules, choices.includeSamples);
-    settings.hasCompletedOnboarding = true;
-    store.setSettings(settings);
+    store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
     store.saveNow();
 }
 
 void StarterContent::seed(WorkspaceStore &store, const QList<OrvelModule> &modules, bool samples)
 {
+    const Action action(store, ActionText::tr("Add Example Content"));
     StarterRecords records(store);
     records.addWelcomePage();
     if (samples) {
@@ -105,14 +113,17 @@ bool StarterContent::hasExampleContent(const WorkspaceStore &store)
 
 void StarterContent::removeExampleContent(WorkspaceStore &store)
 {
+    const Action action(store, ActionText::tr("Remove Example Content"));
+    action.setMessage(ActionText::tr("Example content removed"));
     for (const QUuid &projectID : Questions::ids(store.projects(), isExample<Project>)) {
-        const auto isOfProject = [&projectID](const auto &record) { return record.projectID == projectID; };
-        store.remove<TaskItem>(Questions::ids(store.tasks(), isOfProject));
-        store.deleteProject(projectID);
+        QSet<QUuid> taskIDs;
+        for (const TaskItem *const task : TaskOperations::ofProject(store, projectID))
+            taskIDs.insert(task->id);
+        store.erase<TaskItem>(taskIDs);
+        ProjectOperations::remove(store, projectID);
     }
     for (const QUuid &folderID :
          Questions::ids(store.folders(), [](const Folder &folder) { return folder.name == folderName; }))
-        store.deleteFolder(folderID);
+        FolderOperations::remove(store, folderID);
     removeExamples<Page, TaskItem, Habit, CalendarEvent, CodeDocument, Deck>(store);
-    store.scheduleSave();
 }

@@ -1,5 +1,8 @@
 #include "Store/StarterRecords.h"
 
+#include "Store/DatabaseOperations.h"
+#include "Store/PageOperations.h"
+#include "Store/ProjectOperations.h"
 #include "Support/DatabaseTemplates.h"
 #include "Support/OVDate.h"
 
@@ -56,7 +59,7 @@ void StarterRecords::addPages()
                       {checklist, u"Review the roadmap"_s},
                       {checklist, u"Weekly sync"_s},
                       {checklist, u"Assign owners"_s}}));
-    m_store.newFolder(u"Ideas"_s, u"📁"_s);
+    FolderOperations::create(m_store, u"Ideas"_s, u"📁"_s);
     Page list =
         page(PageKind::note, u"Reading list"_s, u"📚"_s, {{paragraph, u"Books and links to revisit."_s}});
     list.sortOrder = 2;
@@ -104,16 +107,16 @@ void StarterRecords::addProject()
                           {QUuid::createUuid(), u"Team invited"_s, false}};
     project.createdDate = project.updatedDate = m_now;
     m_store.add(project);
-    m_store.logActivity(project.id, u"Project created"_s, u"status"_s);
+    ProjectOperations::logActivity(m_store, project.id, u"Project created"_s, u"status"_s);
     for (const QString &title : {u"Choose a workspace icon"_s, u"Draft the plan"_s, u"Share with the team"_s})
-        m_store.addProjectTask(project.id, title);
+        ProjectOperations::addTask(m_store, project.id, title);
 }
 
 void StarterRecords::addDatabase()
 {
     const auto reading = std::ranges::find(DatabaseTemplates::all(), u"reading"_s, &DatabaseTemplate::id);
     const DatabaseTable table = reading->table(QUuid::createUuid(), m_now);
-    m_store.newDatabase(table);
+    DatabaseOperations::create(m_store, table);
     const auto column = [&table](const QString &name) {
         return DBRow::valueKey(std::ranges::find(table.properties, name, &DBProperty::name)->id);
     };
@@ -121,8 +124,8 @@ void StarterRecords::addDatabase()
          {std::tuple(u"Thinking, Fast and Slow"_s, u"Daniel Kahneman"_s, u"Finished"_s),
           std::tuple(u"The Design of Everyday Things"_s, u"Don Norman"_s, u"Finished"_s),
           std::tuple(u"Deep Work"_s, u"Cal Newport"_s, u"To read"_s)})
-        m_store.addRow(
-            table.id,
+        DatabaseOperations::addRow(
+            m_store, table.id,
             {{column(u"Title"_s), title}, {column(u"Author"_s), author}, {column(u"Status"_s), status}});
 }
 

@@ -1,6 +1,7 @@
 #include "Store/WorkspaceSearch.h"
 
 #include "Foundation/Graphemes.h"
+#include "Store/DatabaseOperations.h"
 #include "Support/HabitDays.h"
 #include "Support/OVDate.h"
 
@@ -57,7 +58,7 @@ public:
 
     void addDecks()
     {
-        for (const Deck &deck : m_store.decks())
+        for (const Deck &deck : m_store.list<Deck>())
             if (!isFull() && deck.matches(m_query))
                 m_results.append(result(deck));
     }
@@ -108,7 +109,8 @@ private:
 
     SearchResult result(const DatabaseTable &table) const
     {
-        const QString count = QString::number(m_store.rowsIn(table.id).size()) + u" records"_s;
+        const QString count =
+            QString::number(DatabaseOperations::rows(m_store, table.id).size()) + u" records"_s;
         return {resultId("db", table.id),
                 SearchResultKind::database,
                 table.name,
@@ -182,9 +184,12 @@ private:
 
 WorkspaceSearch::WorkspaceSearch(const WorkspaceStore &store) : m_store(store)
 {
-    QObject::connect(&store, &WorkspaceStore::pagesChanged, &m_listener, [this] { m_pages.listChanged(); });
-    QObject::connect(&store, &WorkspaceStore::codeDocumentsChanged, &m_listener,
-                     [this] { m_codeDocuments.listChanged(); });
+    QObject::connect(&store, &WorkspaceStore::changed, &m_listener, [this](const ChangeSet &changes) {
+        if (changes.touches<Page>())
+            m_pages.listChanged();
+        if (changes.touches<CodeDocument>())
+            m_codeDocuments.listChanged();
+    });
 }
 
 QList<SearchResult> WorkspaceSearch::search(const QString &query)
@@ -197,11 +202,13 @@ QList<SearchResult> WorkspaceSearch::search(const QString &query)
     search.add(m_store.tasks(), [](const TaskItem &task) { return QStringList{task.title}; });
     search.add(m_store.projects(),
                [](const Project &project) { return QStringList{project.name, project.details}; });
-    search.add(m_store.databases(), [](const DatabaseTable &table) { return QStringList{table.name}; });
-    search.add(m_store.events(), [](const CalendarEvent &event) { return QStringList{event.title}; });
-    search.add(m_store.habits(), [](const Habit &habit) { return QStringList{habit.name}; });
+    search.add(m_store.list<DatabaseTable>(),
+               [](const DatabaseTable &table) { return QStringList{table.name}; });
+    search.add(m_store.list<CalendarEvent>(),
+               [](const CalendarEvent &event) { return QStringList{event.title}; });
+    search.add(m_store.list<Habit>(), [](const Habit &habit) { return QStringList{habit.name}; });
     search.addSigned(m_store.codeDocuments(), m_codeDocuments);
-    search.add(m_store.books(), [](const Book &book) { return QStringList{book.title, book.author}; });
+    search.add(m_store.list<Book>(), [](const Book &book) { return QStringList{book.title, book.author}; });
     search.addDecks();
     return search.take();
 }

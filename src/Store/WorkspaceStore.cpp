@@ -9,16 +9,35 @@
 
 #include <cstdio>
 
+WorkspaceStore::Groups::Groups(const Clock &clock)
+    : tasksByProject(&TaskItem::projectID),
+      activitiesByProject([](const Activity &activity) { return std::optional(activity.projectID); }),
+      rowsByTable([](const DBRow &row) { return std::optional(row.tableID); }),
+      eventsByDay([&clock](const CalendarEvent &event) {
+          return std::optional(toDateTime(event.date, clock.timeZone()).date());
+      })
+{
+}
+
 WorkspaceStore::WorkspaceStore(Options options, QObject *parent)
-    : QObject(parent), m_options(std::move(options))
+    : QObject(parent),
+      m_options(std::move(options)),
+      m_history(m_options.undoLimits),
+      m_groups(*m_options.clock)
 {
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(m_options.saveDelay);
     // The promise is half a second after the last change; a coarse timer would stretch it.
     m_saveTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_saveTimer, &QTimer::timeout, this, &WorkspaceStore::saveNow);
+    connect(m_options.clock, &Clock::dayChanged, this, [this] { m_groups.eventsByDay.forget(); });
     AtomicFile::sweepLeftovers(m_options.filePath);
     adopt(SnapshotCodec::decodeFile(m_options.filePath, now(), m_options.makeId).value_or(Snapshot()));
+}
+
+WorkspaceStore::~WorkspaceStore()
+{
+    m_history.clear();
 }
 
 QString WorkspaceStore::defaultFilePath()
@@ -40,36 +59,82 @@ BookLibrary WorkspaceStore::bookLibrary() const
 void WorkspaceStore::adopt(Snapshot snapshot)
 {
     m_settings = std::move(snapshot.settings);
-    m_lists = {RecordList(std::move(snapshot.folders)),   RecordList(std::move(snapshot.pages)),
-               RecordList(std::move(snapshot.tasks)),     RecordList(std::move(snapshot.events)),
-               RecordList(std::move(snapshot.projects)),  RecordList(std::move(snapshot.activities)),
-               RecordList(std::move(snapshot.databases)), RecordList(std::move(snapshot.rows)),
-               RecordList(std::move(snapshot.habits)),    RecordList(std::move(snapshot.codeDocuments)),
-               RecordList(std::move(snapshot.decks)),     RecordList(std::move(snapshot.books))};
+    RecordKinds::forEach([&]<typename Record>() {
+        std::get<RecordList<Record>>(m_lists) = RecordList<Record>(std::move(snapshot.list<Record>()));
+    });
 }
 
 Snapshot WorkspaceStore::snapshot() const
 {
-    return {m_settings,     folders().all(),  pages().all(),         tasks().all(),
-            events().all(), projects().all(), activities().all(),    databases().all(),
-            rows().all(),   habits().all(),   codeDocuments().all(), decks().all(),
-            books().all()};
-}
-
-void WorkspaceStore::setSettings(const AppSettings &settings)
-{
-    if (m_settings == settings)
-        return;
-    m_settings = settings;
-    emit settingsChanged();
+    Snapshot snapshot;
+    snapshot.settings = m_settings;
+    RecordKinds::forEach([&]<typename Record>() { snapshot.list<Record>() = list<Record>().all(); });
+    return snapshot;
 }
 
 void WorkspaceStore::changeSettings(const std::function<void(AppSettings &)> &edit)
 {
     AppSettings settings = m_settings;
     edit(settings);
-    setSettings(settings);
+    if (settings == m_settings)
+        return;
+    const Action action(*this, QString());
+    m_settings = settings;
+    m_action.changes.settings = true;
+}
+
+bool WorkspaceStore::begin(const std::function<void(UndoStep &)> &describe)
+{
+    if (m_action.depth++ > 0)
+        return false;
+    m_action.step.place = m_place();
+    describe(m_action.step);
+    return true;
+}
+
+void WorkspaceStore::end()
+{
+    if (--m_action.depth > 0)
+        return;
+    OpenAction ended = std::exchange(m_action, {});
+    if (ended.changes.isEmpty() && ended.step.isEmpty())
+        return;
+    ended.changes.message = ended.step.message;
+    if (!ended.step.isEmpty())
+        m_history.add(std::move(ended.step), m_lists);
+    announce(ended.changes);
+}
+
+void WorkspaceStore::announce(const ChangeSet &changes)
+{
+    m_groups.tasksByProject.follow(list<TaskItem>(), changes.of<TaskItem>());
+    m_groups.activitiesByProject.follow(list<Activity>(), changes.of<Activity>());
+    m_groups.rowsByTable.follow(list<DBRow>(), changes.of<DBRow>());
+    m_groups.eventsByDay.follow(list<CalendarEvent>(), changes.of<CalendarEvent>());
     scheduleSave();
+    emit changed(changes);
+}
+
+const UndoStep *WorkspaceStore::undo()
+{
+    if (m_action.depth > 0)
+        return nullptr;
+    ChangeSet changes;
+    const UndoStep *const step = m_history.undo(m_lists, m_place(), changes);
+    if (step)
+        announce(changes);
+    return step;
+}
+
+const UndoStep *WorkspaceStore::redo()
+{
+    if (m_action.depth > 0)
+        return nullptr;
+    ChangeSet changes;
+    const UndoStep *const step = m_history.redo(m_lists, changes);
+    if (step)
+        announce(changes);
+    return step;
 }
 
 void WorkspaceStore::scheduleSave()
@@ -91,10 +156,9 @@ void WorkspaceStore::resetEverything(bool keepOnboarding)
 {
     Snapshot empty;
     empty.settings.hasCompletedOnboarding = keepOnboarding && m_settings.hasCompletedOnboarding;
+    m_history.clear();
     adopt(std::move(empty));
     bookLibrary().deleteAll();
-    std::apply([this]<typename... Record>(const RecordList<Record> &...) { (announce<Record>({}), ...); },
-               m_lists);
-    emit settingsChanged();
+    announce(ChangeSet::reloaded());
     saveNow();
 }

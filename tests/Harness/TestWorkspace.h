@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Harness/ManualClock.h"
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
 #include "Support/Updates/UpdateService.h"
@@ -55,27 +57,31 @@ public:
         std::optional<Timestamp> due;
         if (!qIsNaN(dueInHours))
             due = m_clock.now() + std::chrono::milliseconds(qint64(dueInHours * 3'600'000));
-        const QUuid id = m_store.newTask(title, enumFromRaw<TaskPriority>(priority).value(), due);
+        const QUuid id =
+            TaskOperations::create(m_store, title, enumFromRaw<TaskPriority>(priority).value(), due);
         while (m_store.tasks().first(id)->status != enumFromRaw<TaskStatus>(status).value())
-            m_store.cycleTaskStatus(id);
+            TaskOperations::cycleStatus(m_store, id);
         return id.toString(QUuid::WithoutBraces);
     }
 
     Q_INVOKABLE void addTasks(int count)
     {
         for (int i = 0; i < count; ++i)
-            m_store.newTask(QStringLiteral("Task %1").arg(i), TaskPriority::medium, {});
+            TaskOperations::create(m_store, QStringLiteral("Task %1").arg(i), TaskPriority::medium, {});
     }
     Q_INVOKABLE void renameTask(const QString &id, const QString &title)
     {
-        m_store.renameTask(QUuid(id), title);
+        TaskOperations::rename(m_store, QUuid(id), title);
     }
-    Q_INVOKABLE void finishTask(const QString &id) { m_store.setTaskStatus(QUuid(id), TaskStatus::done); }
+    Q_INVOKABLE void finishTask(const QString &id)
+    {
+        TaskOperations::setStatus(m_store, QUuid(id), TaskStatus::done);
+    }
 
     Q_INVOKABLE QString addPage(const QString &title, bool isFavorite = false,
                                 const QString &folderID = QString())
     {
-        const QUuid id = m_store.newPage(PageKind::page);
+        const QUuid id = PageOperations::create(m_store, PageKind::page);
         m_store.change<Page>(id, [&](Page &page) {
             page.title = title;
             page.isFavorite = isFavorite;
@@ -103,7 +109,7 @@ public:
             block.checked = values.value(QStringLiteral("checked")).toBool();
             content.append(block);
         }
-        const QUuid id = m_store.newPage(PageKind::page);
+        const QUuid id = PageOperations::create(m_store, PageKind::page);
         m_store.change<Page>(id, [&](Page &page) { page.content = content; });
         return id.toString(QUuid::WithoutBraces);
     }
@@ -111,7 +117,7 @@ public:
     /// A note with one block a line of the text.
     Q_INVOKABLE QString addNote(const QString &title, const QString &text = QString())
     {
-        const QUuid id = m_store.newPage(PageKind::note);
+        const QUuid id = PageOperations::create(m_store, PageKind::note);
         m_store.change<Page>(id, [&](Page &page) {
             page.title = title;
             page.content.clear();
@@ -123,7 +129,7 @@ public:
 
     Q_INVOKABLE void renamePage(const QString &id, const QString &title)
     {
-        m_store.renamePage(QUuid(id), title);
+        PageOperations::rename(m_store, QUuid(id), title);
     }
 
     /// @param language a raw text
@@ -140,7 +146,8 @@ public:
 
     Q_INVOKABLE QString addFolder(const QString &name)
     {
-        return m_store.newFolder(name, QStringLiteral("📁")).id.toString(QUuid::WithoutBraces);
+        return FolderOperations::create(m_store, name, QStringLiteral("📁"))
+            .id.toString(QUuid::WithoutBraces);
     }
 
     /// What stands in the file after a save.

@@ -1,5 +1,5 @@
 #include "Harness/ManualClock.h"
-#include "Store/WorkspaceStore.h"
+#include "Store/BookOperations.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -93,7 +93,7 @@ private slots:
             Book book;
             book.id = QUuid::createUuid();
             book.gutenbergID = number;
-            return store.addBook(book).id;
+            return BookOperations::add(store, book).id;
         };
         const QUuid first = add(1);
         const QUuid second = add(2);
@@ -102,8 +102,8 @@ private slots:
         const QDir books(m_place->filePath(u"Books"_s));
         QCOMPARE(books.entryList(QDir::Files).size(), 2);
 
-        store.removeBook(first);
-        QCOMPARE(store.books().size(), 1);
+        BookOperations::remove(store, first);
+        QCOMPARE(store.list<Book>().size(), 1);
         QCOMPARE(store.bookLibrary().text(first), QString());
         QCOMPARE(store.bookLibrary().text(second), u"text"_s);
 

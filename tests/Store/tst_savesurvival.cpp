@@ -2,7 +2,7 @@
 #include "Harness/ManualClock.h"
 #include "SampleSnapshot.h"
 #include "Store/SnapshotCodec.h"
-#include "Store/WorkspaceStore.h"
+#include "Store/TaskOperations.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -66,16 +66,17 @@ private:
     qint64 generationInFile() const
     {
         const auto snapshot = SnapshotCodec::decodeFile(path(), m_clock.now(), &QUuid::createUuid);
-        if (!snapshot || snapshot->tasks.isEmpty() || snapshot->tasks.size() != snapshot->pages.size())
+        if (!snapshot || snapshot->list<TaskItem>().isEmpty() ||
+            snapshot->list<TaskItem>().size() != snapshot->list<Page>().size())
             return -1;
         const QString name = snapshot->settings.userName;
-        const QString text = snapshot->tasks.first().notes;
+        const QString text = snapshot->list<TaskItem>().first().notes;
         const bool isWhole = text.startsWith(name) &&
-                             std::ranges::all_of(snapshot->tasks,
+                             std::ranges::all_of(snapshot->list<TaskItem>(),
                                                  [&](const TaskItem &task) {
                                                      return task.title == name && task.notes == text;
                                                  }) &&
-                             std::ranges::all_of(snapshot->pages, [&](const Page &page) {
+                             std::ranges::all_of(snapshot->list<Page>(), [&](const Page &page) {
                                  return page.title == name && page.content.first().text == text;
                              });
         return isWhole ? name.toLongLong() : -1;
@@ -130,7 +131,7 @@ private slots:
         const QByteArray old = SnapshotCodec::encode(SampleSnapshot::make());
         put(old);
         const auto store = open();
-        store->renameTask(SampleSnapshot::id(5), u"Changed"_s);
+        TaskOperations::rename(*store, SampleSnapshot::id(5), u"Changed"_s);
         const QByteArray next = SnapshotCodec::encode(store->snapshot());
         const QStringList calls = [&] {
             const FaultySystem system;
@@ -159,7 +160,7 @@ private slots:
     void aMissingFolderFailsUntilItIsBack()
     {
         const auto store = open();
-        store->newTask(u"Kept"_s, TaskPriority::low, {});
+        TaskOperations::create(*store, u"Kept"_s, TaskPriority::low, {});
         QVERIFY(QDir().rmdir(m_folder->path()));
         QCOMPARE(printed([&] { store->saveNow(); }),
                  "[Orvel] Failed to save workspace snapshot: open folder: " +
@@ -172,7 +173,7 @@ private slots:
     void aFileReplacedMeanwhileIsReplacedWhole()
     {
         const auto store = open();
-        store->newTask(u"Mine"_s, TaskPriority::low, {});
+        TaskOperations::create(*store, u"Mine"_s, TaskPriority::low, {});
         const QString other = m_folder->filePath(u"other"_s);
         QVERIFY(QFile::rename((put("theirs"), path()), other));
         QVERIFY(QFile::link(u"other"_s, path()));

@@ -164,7 +164,7 @@ private slots:
     {
         for (const QJsonValue &value : {QJsonValue(QJsonValue::Undefined), QJsonValue(QJsonValue::Null)}) {
             Snapshot expected = SampleSnapshot::make();
-            expected.projects[0].cover.reset();
+            expected.list<Project>()[0].cover.reset();
             QCOMPARE(decoded(sampleWith({u"projects"_s, u"0"_s, u"cover"_s}, value)), expected);
         }
     }

@@ -1,7 +1,7 @@
 #include "Harness/ManualClock.h"
 #include "Store/SnapshotCodec.h"
 #include "Store/StarterContent.h"
-#include "Store/WorkspaceStore.h"
+#include "Store/TaskOperations.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -37,10 +37,12 @@ private:
     /// How many records of each kind the workspace holds, in the order of the file.
     static QList<qsizetype> counts(const Snapshot &snapshot)
     {
-        return {snapshot.folders.size(),       snapshot.pages.size(),    snapshot.tasks.size(),
-                snapshot.events.size(),        snapshot.projects.size(), snapshot.activities.size(),
-                snapshot.databases.size(),     snapshot.rows.size(),     snapshot.habits.size(),
-                snapshot.codeDocuments.size(), snapshot.decks.size(),    snapshot.books.size()};
+        return {snapshot.list<Folder>().size(),        snapshot.list<Page>().size(),
+                snapshot.list<TaskItem>().size(),      snapshot.list<CalendarEvent>().size(),
+                snapshot.list<Project>().size(),       snapshot.list<Activity>().size(),
+                snapshot.list<DatabaseTable>().size(), snapshot.list<DBRow>().size(),
+                snapshot.list<Habit>().size(),         snapshot.list<CodeDocument>().size(),
+                snapshot.list<Deck>().size(),          snapshot.list<Book>().size()};
     }
 
 private slots:
@@ -88,14 +90,14 @@ private slots:
         StarterContent::Choices all = choices(true);
         all.modules.append(OrvelModule::habits);
         StarterContent::completeOnboarding(*store, all);
-        const QUuid own = store->newTask(u"My own"_s, TaskPriority::low, {});
+        const QUuid own = TaskOperations::create(*store, u"My own"_s, TaskPriority::low, {});
         QVERIFY(StarterContent::hasExampleContent(*store));
         StarterContent::removeExampleContent(*store);
         QVERIFY(!StarterContent::hasExampleContent(*store));
         QCOMPARE(counts(store->snapshot()), (QList<qsizetype>{0, 1, 1, 0, 0, 0, 1, 3, 0, 0, 0, 0}));
         QCOMPARE(store->tasks().all().first().id, own);
 
-        store->newTask(u"Plan the week"_s, TaskPriority::low, {});
+        TaskOperations::create(*store, u"Plan the week"_s, TaskPriority::low, {});
         QVERIFY2(StarterContent::hasExampleContent(*store), "titles alone decide");
     }
 };

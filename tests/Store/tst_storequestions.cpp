@@ -1,4 +1,9 @@
 #include "Harness/ManualClock.h"
+#include "Store/EventOperations.h"
+#include "Store/HabitOperations.h"
+#include "Store/PageOperations.h"
+#include "Store/ProjectOperations.h"
+#include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 
 #include <QtTest>
@@ -38,13 +43,13 @@ private slots:
     void pages()
     {
         const auto store = open();
-        const Folder folder = store->newFolder(u"Second"_s, u"f"_s);
+        const Folder folder = FolderOperations::create(*store, u"Second"_s, u"f"_s);
         Folder earlier = folder;
         earlier.id = QUuid::createUuid();
         earlier.name = u"First"_s;
         earlier.sortOrder -= 1;
         store->add(earlier);
-        QCOMPARE(names(store->orderedFolders()), u"First Second"_s);
+        QCOMPARE(names(FolderOperations::ordered(*store)), u"First Second"_s);
 
         struct Row {
             const char16_t *title;
@@ -66,11 +71,11 @@ private slots:
                 page.folderID = folder.id;
             store->add(page);
         }
-        QCOMPARE(names(store->notes()), u"e c"_s);
+        QCOMPARE(names(PageOperations::notes(*store)), u"e c"_s);
         QCOMPARE(names(store->recentPages()), u"b a d"_s);
-        QCOMPARE(names(store->pinnedPages()), u"c a"_s);
-        QCOMPARE(names(store->loosePages()), u"a d"_s);
-        QCOMPARE(names(store->pagesIn(folder.id)), u"b"_s);
+        QCOMPARE(names(PageOperations::pinned(*store)), u"c a"_s);
+        QCOMPARE(names(PageOperations::loose(*store)), u"a d"_s);
+        QCOMPARE(names(PageOperations::inFolder(*store, folder.id)), u"b"_s);
     }
 
     void tasksAndActivities()
@@ -88,13 +93,13 @@ private slots:
         }
         QCOMPARE(names(store->openTasks()), u"b c"_s);
         QCOMPARE(names(store->doneTasks()), u"a d"_s);
-        QCOMPARE(names(store->tasksIn(project)), u"a b d"_s);
+        QCOMPARE(names(TaskOperations::ofProject(*store, project)), u"a b d"_s);
 
         for (const auto &text : {u"one"_s, u"two"_s, u"three"_s}) {
-            store->logActivity(project, text, u"note"_s);
+            ProjectOperations::logActivity(*store, project, text, u"note"_s);
             m_clock.advance(1s);
         }
-        QCOMPARE(names(store->activitiesFor(project)), u"three two one"_s);
+        QCOMPARE(names(ProjectOperations::activities(*store, project)), u"three two one"_s);
     }
 
     void eventsOfALocalDay()
@@ -114,8 +119,8 @@ private slots:
         addEvent(u"whole"_s, at(12, m_clock.timeZone()), {});
         addEvent(u"eve"_s, at(3, QTimeZone::utc()), {});
         addEvent(u"day"_s, at(5, m_clock.timeZone()), {});
-        QCOMPARE(names(store->eventsOn(day)), u"whole day early late"_s);
-        QCOMPARE(names(store->eventsOn(day.addDays(-1))), u"eve"_s);
+        QCOMPARE(names(EventOperations::onDay(*store, day)), u"whole day early late"_s);
+        QCOMPARE(names(EventOperations::onDay(*store, day.addDays(-1))), u"eve"_s);
     }
 
     void habitsDone()
@@ -124,9 +129,9 @@ private slots:
         m_clock.setTimeZone(QTimeZone::utc());
         for (int i = 0; i < 3; ++i)
             store->add(Habit{.id = QUuid::createUuid()});
-        store->toggleHabit(store->habits().all().at(0).id, m_clock.now());
-        store->toggleHabit(store->habits().all().at(2).id, m_clock.now() - 24h);
-        QCOMPARE(store->habitsDoneToday(), 1);
+        HabitOperations::toggle(*store, store->list<Habit>().all().at(0).id, m_clock.now());
+        HabitOperations::toggle(*store, store->list<Habit>().all().at(2).id, m_clock.now() - 24h);
+        QCOMPARE(HabitOperations::doneToday(*store), 1);
     }
 };
 

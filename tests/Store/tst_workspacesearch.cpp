@@ -74,7 +74,7 @@ private slots:
                          .completions = {u"2026-03-12"_s}});
         store->add(CalendarEvent{.id = id, .title = u"Needle day"_s, .date = m_clock.now()});
         store->add(DatabaseTable{.id = id, .name = u"Needles"_s});
-        store->addRow(id, {});
+        DatabaseOperations::addRow(*store, id, {});
         store->add(Project{.id = id, .name = u"Project"_s, .icon = u"🎯"_s, .details = u"Of needles"_s});
         store->add(TaskItem{.id = id, .title = u"Needle task"_s, .status = TaskStatus::done});
         Page note = page(u"needle"_s, {});
@@ -124,7 +124,7 @@ private slots:
         const auto store = open();
         for (int i = 0; i < 50; ++i)
             store->add(page(u"Meeting %1"_s.arg(i), {}));
-        store->newTask(u"Meeting"_s, TaskPriority::low, {});
+        TaskOperations::create(*store, u"Meeting"_s, TaskPriority::low, {});
         WorkspaceSearch search(*store);
         const QList<SearchResult> found = search.search(u"meet"_s);
         QCOMPARE(found.size(), 40);
@@ -215,4 +215,6 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(WorkspaceSearchTest)
+#include "Store/DatabaseOperations.h"
+#include "Store/TaskOperations.h"
 #include "tst_workspacesearch.moc"

@@ -1,6 +1,13 @@
 #include "Harness/ManualClock.h"
 #include "SampleSnapshot.h"
+#include "Store/BookOperations.h"
+#include "Store/DatabaseOperations.h"
+#include "Store/DeckOperations.h"
+#include "Store/HabitOperations.h"
+#include "Store/PageOperations.h"
+#include "Store/ProjectOperations.h"
 #include "Store/SnapshotCodec.h"
+#include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 
 #include <QSignalSpy>
@@ -78,7 +85,7 @@ private slots:
         const auto store = open();
         QCOMPARE(store->snapshot(), Snapshot());
         QCOMPARE(fileBytes(), "not json"_ba);
-        store->newPage(PageKind::page);
+        PageOperations::create(*store, PageKind::page);
         store->saveNow();
         QCOMPARE(SnapshotCodec::decode(fileBytes(), m_clock.now(), &QUuid::createUuid)->pages.size(), 1);
     }
@@ -87,7 +94,7 @@ private slots:
     {
         const auto store = open(0ms);
         for (int i = 0; i < 10; ++i)
-            store->newTask(QString::number(i), TaskPriority::low, {});
+            TaskOperations::create(*store, QString::number(i), TaskPriority::low, {});
         QVERIFY(!QFile::exists(path()));
         QTRY_VERIFY(QFile::exists(path()));
         QCOMPARE(open()->tasks().size(), 10);
@@ -104,11 +111,11 @@ private slots:
         QSignalSpy settings(store.get(), &WorkspaceStore::settingsChanged);
         store->replace(store->tasks().all().first());
         store->setSettings(store->settings());
-        store->renameTask(id(777), u"nobody"_s);
+        TaskOperations::rename(*store, id(777), u"nobody"_s);
         QCOMPARE(tasks.count() + pages.count() + settings.count(), 0);
 
-        store->renameTask(id(5), u"New"_s);
-        const QUuid added = store->newTask(u"Another"_s, TaskPriority::high, m_clock.now());
+        TaskOperations::rename(*store, id(5), u"New"_s);
+        const QUuid added = TaskOperations::create(*store, u"Another"_s, TaskPriority::high, m_clock.now());
         store->erase<TaskItem>(id(6));
         QList<RecordChange> changes;
         for (const auto &call : tasks)
@@ -139,8 +146,8 @@ private slots:
         const auto store = open();
         m_clock.advance(250ms);
         const Timestamp now = m_clock.now();
-        store->newPage(PageKind::page);
-        store->newPage(PageKind::note);
+        PageOperations::create(*store, PageKind::page);
+        PageOperations::create(*store, PageKind::note);
         const auto made = [&](int number, PageKind kind, const QString &icon) {
             return Page{id(number), u"Untitled"_s, icon, kind, {Block{.id = id(number + 1)}}, false,
                         {},         1773394200.25, now,  now};
@@ -154,7 +161,7 @@ private slots:
         const auto store = openSample();
         const Page original = SampleSnapshot::make().pages.first();
         const Timestamp now = m_clock.now();
-        store->duplicatePage(original.id);
+        PageOperations::duplicate(*store, original.id);
         Page copy = original;
         copy.id = id(1000);
         copy.content[0].id = id(1001);
@@ -165,8 +172,8 @@ private slots:
         QCOMPARE(store->pages().all(), (QList<Page>{original, copy}));
 
         m_clock.advance(1s);
-        store->toggleFavorite(copy.id);
-        store->movePage(copy.id, std::nullopt);
+        PageOperations::toggleFavorite(*store, copy.id);
+        PageOperations::move(*store, copy.id, std::nullopt);
         copy.isFavorite = true;
         copy.folderID.reset();
         copy.updatedDate = m_clock.now();
@@ -176,11 +183,11 @@ private slots:
     void foldersLetTheirPagesGo()
     {
         const auto store = openSample();
-        store->renameFolder(id(2), u"Play"_s);
-        const Folder made = store->newFolder(u"Second"_s, u"📁"_s);
+        FolderOperations::rename(*store, id(2), u"Play"_s);
+        const Folder made = FolderOperations::create(*store, u"Second"_s, u"📁"_s);
         QCOMPARE(store->folders().first(id(2))->name, u"Play"_s);
         QCOMPARE(*store->folders().first(made.id), made);
-        store->deleteFolder(id(2));
+        FolderOperations::remove(*store, id(2));
         QCOMPARE(store->folders().all(), QList<Folder>{made});
         QVERIFY(!store->pages().first(id(3))->folderID);
         QCOMPARE(store->pages().first(id(3))->updatedDate, m_clock.now());
@@ -190,46 +197,46 @@ private slots:
     void taskStatusKeepsItsCompletionDate()
     {
         const auto store = open();
-        const QUuid task = store->newTask(u"t"_s, TaskPriority::medium, {});
+        const QUuid task = TaskOperations::create(*store, u"t"_s, TaskPriority::medium, {});
         const auto state = [&] {
             const TaskItem &item = *store->tasks().first(task);
             return std::pair(item.status, item.completedDate);
         };
         using State = decltype(state());
-        store->cycleTaskStatus(task);
+        TaskOperations::cycleStatus(*store, task);
         QCOMPARE(state(), State(TaskStatus::inProgress, std::nullopt));
         m_clock.advance(1s);
-        store->toggleTaskDone(task);
+        TaskOperations::toggleDone(*store, task);
         const Timestamp first = m_clock.now();
         QCOMPARE(state(), State(TaskStatus::done, first));
         m_clock.advance(1s);
-        store->cycleTaskPriority(task);
+        TaskOperations::cyclePriority(*store, task);
         QCOMPARE(state(), State(TaskStatus::done, first));
         QCOMPARE(store->tasks().first(task)->priority, TaskPriority::high);
         QCOMPARE(store->tasks().first(task)->updatedDate, m_clock.now());
-        store->toggleTaskDone(task);
+        TaskOperations::toggleDone(*store, task);
         QCOMPARE(state(), State(TaskStatus::todo, std::nullopt));
-        store->cycleTaskStatus(task);
-        store->cycleTaskStatus(task);
+        TaskOperations::cycleStatus(*store, task);
+        TaskOperations::cycleStatus(*store, task);
         QCOMPARE(state(), State(TaskStatus::done, m_clock.now()));
-        store->cycleTaskStatus(task);
+        TaskOperations::cycleStatus(*store, task);
         QCOMPARE(state(), State(TaskStatus::todo, std::nullopt));
     }
 
     void deletingAProjectKeepsItsTasks()
     {
         const auto store = openSample();
-        store->logActivity(id(7), u"Note"_s, u"note"_s);
-        store->logActivity(id(777), u"Nobody"_s, u"note"_s);
-        QCOMPARE(store->activities().size(), 2);
-        QCOMPARE(store->activities().all().last(),
+        ProjectOperations::logActivity(*store, id(7), u"Note"_s, u"note"_s);
+        ProjectOperations::logActivity(*store, id(777), u"Nobody"_s, u"note"_s);
+        QCOMPARE(store->list<Activity>().size(), 2);
+        QCOMPARE(store->list<Activity>().all().last(),
                  (Activity{id(1000), id(7), u"Note"_s, u"note"_s, m_clock.now()}));
-        store->deleteProject(id(7));
+        ProjectOperations::remove(*store, id(7));
         QVERIFY(store->projects().isEmpty());
-        QVERIFY(store->activities().isEmpty());
+        QVERIFY(store->list<Activity>().isEmpty());
         QVERIFY(!store->tasks().first(id(5))->projectID);
         QCOMPARE(store->tasks().size(), 2);
-        QCOMPARE(store->events().size(), 1);
+        QCOMPARE(store->list<CalendarEvent>().size(), 1);
     }
 
     void projectsFromTemplates()
@@ -237,7 +244,7 @@ private slots:
         const auto store = open();
         const Timestamp now = m_clock.now();
         const ProjectTemplate &trip = ProjectTemplates::all().at(2);
-        const QUuid made = store->makeProject(trip);
+        const QUuid made = ProjectOperations::create(*store, trip);
         Project expected{.id = made, .name = u"Trip planner"_s, .icon = u"🧭"_s};
         expected.details = u"Everything for the next trip in one place."_s;
         for (const auto &[number, title] :
@@ -247,92 +254,94 @@ private slots:
         expected.createdDate = expected.updatedDate = now;
         QCOMPARE(store->projects().all(), QList<Project>{expected});
         QStringList titles;
-        for (const TaskItem *task : store->tasksIn(made))
+        for (const TaskItem *task : TaskOperations::ofProject(*store, made))
             titles.append(task->title);
         QCOMPARE(titles, trip.tasks);
-        QCOMPARE(store->activitiesFor(made).first()->text, u"Created from the Trip planner template"_s);
+        QCOMPARE(ProjectOperations::activities(*store, made).first()->text,
+                 u"Created from the Trip planner template"_s);
 
-        store->toggleMilestone(made, id(1002));
-        store->addMilestone(made, u" Home again\n"_s);
-        store->addMilestone(made, u"  "_s);
-        store->removeMilestone(made, id(1001));
+        ProjectOperations::toggleMilestone(*store, made, id(1002));
+        ProjectOperations::addMilestone(*store, made, u" Home again\n"_s);
+        ProjectOperations::addMilestone(*store, made, u"  "_s);
+        ProjectOperations::removeMilestone(*store, made, id(1001));
         QCOMPARE(store->projects().first(made)->milestones.size(), 3);
         QVERIFY(store->projects().first(made)->milestones.first().done);
-        QCOMPARE(store->activities().all().last().text, u"Added milestone “Home again”"_s);
+        QCOMPARE(store->list<Activity>().all().last().text, u"Added milestone “Home again”"_s);
 
-        const Project copy = *store->projects().first(store->makeProjectFrom(made).value());
+        const Project copy = *store->projects().first(ProjectOperations::createFrom(*store, made).value());
         QCOMPARE(copy.name, u"Trip planner copy"_s);
         QCOMPARE(copy.milestones.size(), 3);
         QVERIFY(!copy.milestones.first().done);
         QVERIFY(copy.milestones.first().id != id(1002));
-        QVERIFY(store->tasksIn(copy.id).isEmpty());
-        QVERIFY(!store->makeProjectFrom(id(777)));
+        QVERIFY(TaskOperations::ofProject(*store, copy.id).isEmpty());
+        QVERIFY(!ProjectOperations::createFrom(*store, id(777)));
 
-        QVERIFY(!store->makeBlankProject(u" \t"_s));
-        const QUuid blank = store->makeBlankProject(u" Bare "_s).value();
+        QVERIFY(!ProjectOperations::createBlank(*store, u" \t"_s));
+        const QUuid blank = ProjectOperations::createBlank(*store, u" Bare "_s).value();
         QCOMPARE(store->projects().first(blank)->name, u"Bare"_s);
-        store->setProjectStatus(blank, ProjectStatus::onHold);
-        store->setProjectStatus(blank, ProjectStatus::onHold);
-        store->setProjectStatus(id(777), ProjectStatus::onHold);
-        store->addProjectTask(blank, u" "_s);
-        QCOMPARE(store->activitiesFor(blank).size(), 3);
-        QCOMPARE(store->activities().all().last().text, u"Status changed to On hold"_s);
-        QVERIFY(store->tasksIn(blank).isEmpty());
+        ProjectOperations::setStatus(*store, blank, ProjectStatus::onHold);
+        ProjectOperations::setStatus(*store, blank, ProjectStatus::onHold);
+        ProjectOperations::setStatus(*store, id(777), ProjectStatus::onHold);
+        ProjectOperations::addTask(*store, blank, u" "_s);
+        QCOMPARE(ProjectOperations::activities(*store, blank).size(), 3);
+        QCOMPARE(store->list<Activity>().all().last().text, u"Status changed to On hold"_s);
+        QVERIFY(TaskOperations::ofProject(*store, blank).isEmpty());
     }
 
     void habitsToggleTheLocalDay()
     {
         const auto store = openSample();
         m_clock.setTimeZone(QTimeZone("Pacific/Auckland"));
-        const auto before = store->habits().first(id(11))->completions;
-        store->toggleHabit(id(11), m_clock.now() + 4h);
-        QVERIFY(store->habits().first(id(11))->completions.contains(u"2026-03-14"_s));
-        store->toggleHabit(id(11), m_clock.now() + 4h);
-        QCOMPARE(store->habits().first(id(11))->completions, before);
-        QCOMPARE(store->bestHabitStreak(), 0);
-        store->toggleHabit(id(11), m_clock.now());
-        QCOMPARE(store->bestHabitStreak(), 1);
+        const auto before = store->list<Habit>().first(id(11))->completions;
+        HabitOperations::toggle(*store, id(11), m_clock.now() + 4h);
+        QVERIFY(store->list<Habit>().first(id(11))->completions.contains(u"2026-03-14"_s));
+        HabitOperations::toggle(*store, id(11), m_clock.now() + 4h);
+        QCOMPARE(store->list<Habit>().first(id(11))->completions, before);
+        QCOMPARE(HabitOperations::bestStreak(*store), 0);
+        HabitOperations::toggle(*store, id(11), m_clock.now());
+        QCOMPARE(HabitOperations::bestStreak(*store), 1);
         m_clock.setTimeZone(QTimeZone::utc());
     }
 
     void aBookIsKeptOncePerCatalogueNumber()
     {
         const auto store = openSample();
-        Book again = store->books().all().first();
+        Book again = store->list<Book>().all().first();
         again.id = id(500);
         again.progress = 0.75;
-        const Book stored = store->addBook(again);
+        const Book stored = BookOperations::add(*store, again);
         again.id = id(15);
         QCOMPARE(stored, again);
-        QCOMPARE(store->books().all(), QList<Book>{again});
+        QCOMPARE(store->list<Book>().all(), QList<Book>{again});
         again.gutenbergID = 11;
         again.id = id(501);
-        store->addBook(again);
-        QCOMPARE(store->books().size(), 2);
+        BookOperations::add(*store, again);
+        QCOMPARE(store->list<Book>().size(), 2);
     }
 
     void databasesAndTheirRows()
     {
         const auto store = openSample();
-        const DBRow added = store->addRow(id(20), {{u"k"_s, u"v"_s}}).value();
-        QVERIFY(!store->addRow(id(777), {}));
-        store->setValue(QString(), id(21), id(25));
-        QVERIFY(store->rows().first(id(25))->values.contains(DBRow::valueKey(id(21))));
-        QCOMPARE(store->rows().first(id(25))->value(SampleSnapshot::table().properties.first()), QString());
-        store->duplicateRow(added.id);
-        QCOMPARE(store->rows().all().last().values, added.values);
-        QCOMPARE(store->rowsIn(id(20)).size(), 3);
-        store->deleteDatabase(id(20));
-        QVERIFY(store->databases().isEmpty());
-        QVERIFY(store->rows().isEmpty());
+        const DBRow added = DatabaseOperations::addRow(*store, id(20), {{u"k"_s, u"v"_s}}).value();
+        QVERIFY(!DatabaseOperations::addRow(*store, id(777), {}));
+        DatabaseOperations::setValue(*store, QString(), id(21), id(25));
+        QVERIFY(store->list<DBRow>().first(id(25))->values.contains(DBRow::valueKey(id(21))));
+        QCOMPARE(store->list<DBRow>().first(id(25))->value(SampleSnapshot::table().properties.first()),
+                 QString());
+        DatabaseOperations::duplicateRow(*store, added.id);
+        QCOMPARE(store->list<DBRow>().all().last().values, added.values);
+        QCOMPARE(DatabaseOperations::rows(*store, id(20)).size(), 3);
+        DatabaseOperations::remove(*store, id(20));
+        QVERIFY(store->list<DatabaseTable>().isEmpty());
+        QVERIFY(store->list<DBRow>().isEmpty());
     }
 
     void decksAreCopiedWithNewIds()
     {
         const auto store = openSample();
-        const Deck original = store->decks().all().first();
-        const Deck copy = store->duplicateDeck(original.id).value();
-        QVERIFY(!store->duplicateDeck(id(777)));
+        const Deck original = store->list<Deck>().all().first();
+        const Deck copy = DeckOperations::duplicate(*store, original.id).value();
+        QVERIFY(!DeckOperations::duplicate(*store, id(777)));
         Deck expected = original;
         expected.id = id(1000);
         expected.slides[0].id = id(1001);
@@ -340,7 +349,7 @@ private slots:
         expected.createdDate = expected.updatedDate = m_clock.now();
         expected.sortOrder = secondsSince1970(m_clock.now());
         QCOMPARE(copy, expected);
-        QCOMPARE(store->decks().all(), (QList<Deck>{original, expected}));
+        QCOMPARE(store->list<Deck>().all(), (QList<Deck>{original, expected}));
     }
 
     void resetErasesAtOnce_data()

@@ -1,6 +1,6 @@
 #include "SamplePages.h"
 
-#include "Store/WorkspaceStore.h"
+#include "Store/PageOperations.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +15,7 @@ QUuid addPage(WorkspaceStore &store, const QString &title, QList<Block> blocks)
 {
     for (Block &block : blocks)
         block.id = QUuid::createUuid();
-    const QUuid id = store.newPage(PageKind::page);
+    const QUuid id = PageOperations::create(store, PageKind::page);
     store.change<Page>(id, [&](Page &page) {
         page.title = title;
         page.icon = u"🧭"_s;

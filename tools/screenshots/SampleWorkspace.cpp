@@ -1,5 +1,7 @@
 #include "SampleWorkspace.h"
 
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 
 namespace
@@ -7,7 +9,7 @@ namespace
 QUuid addPage(WorkspaceStore &store, const QString &title, const QString &icon, bool isFavorite = false,
               std::optional<QUuid> folderID = std::nullopt)
 {
-    const QUuid id = store.newPage(PageKind::page);
+    const QUuid id = PageOperations::create(store, PageKind::page);
     store.change<Page>(id, [&](Page &page) {
         page.title = title;
         page.isFavorite = isFavorite;
@@ -22,13 +24,17 @@ void addTasks(WorkspaceStore &store)
 {
     const Timestamp now = store.clock().now();
     const auto inDays = [now](int days) { return now + std::chrono::hours(24 * days); };
-    store.newTask(QStringLiteral("Write the quarterly letter"), TaskPriority::high, now);
-    store.cycleTaskStatus(store.newTask(QStringLiteral("Plan the week"), TaskPriority::medium, inDays(3)));
-    store.newTask(QStringLiteral("Read the onboarding tips"), TaskPriority::low, std::nullopt);
-    store.newTask(QStringLiteral("Call the print shop about the covers, paper stock and the long lead time"),
-                  TaskPriority::medium, inDays(-3));
-    store.newTask(QStringLiteral("Explore databases"), TaskPriority::low, inDays(10));
-    store.toggleTaskDone(store.newTask(QStringLiteral("Try the block editor"), TaskPriority::medium, now));
+    TaskOperations::create(store, QStringLiteral("Write the quarterly letter"), TaskPriority::high, now);
+    TaskOperations::cycleStatus(store, TaskOperations::create(store, QStringLiteral("Plan the week"),
+                                                              TaskPriority::medium, inDays(3)));
+    TaskOperations::create(store, QStringLiteral("Read the onboarding tips"), TaskPriority::low,
+                           std::nullopt);
+    TaskOperations::create(
+        store, QStringLiteral("Call the print shop about the covers, paper stock and the long lead time"),
+        TaskPriority::medium, inDays(-3));
+    TaskOperations::create(store, QStringLiteral("Explore databases"), TaskPriority::low, inDays(10));
+    TaskOperations::toggleDone(store, TaskOperations::create(store, QStringLiteral("Try the block editor"),
+                                                             TaskPriority::medium, now));
 }
 
 void addSnippet(WorkspaceStore &store, const QString &title, CodeLanguage language, const QString &source)
@@ -95,10 +101,10 @@ void SampleWorkspace::fill(WorkspaceStore &store)
     addPage(store, QStringLiteral("Reading list"), QStringLiteral("📚"), true);
     addPage(store, QStringLiteral("Weekly review"), {});
     addPage(store, QStringLiteral("Garden plan"), QStringLiteral("🌱"));
-    const QUuid work = store.newFolder(QStringLiteral("Work"), QStringLiteral("📁")).id;
+    const QUuid work = FolderOperations::create(store, QStringLiteral("Work"), QStringLiteral("📁")).id;
     addPage(store, QStringLiteral("Meeting notes"), {}, false, work);
     addPage(store, QStringLiteral("Launch checklist"), QStringLiteral("🚀"), false, work);
-    const QUuid travel = store.newFolder(QStringLiteral("Travel"), QStringLiteral("🧭")).id;
+    const QUuid travel = FolderOperations::create(store, QStringLiteral("Travel"), QStringLiteral("🧭")).id;
     addPage(store, QStringLiteral("Lisbon in spring"), {}, false, travel);
 }
 
@@ -113,7 +119,7 @@ void SampleWorkspace::crowd(WorkspaceStore &store)
     for (int i = 1; i <= 8; ++i) {
         const QString name = i == 3 ? QStringLiteral("Folder with a rather long name ").repeated(7)
                                     : QStringLiteral("Folder %1").arg(i);
-        folders.append(store.newFolder(name, QStringLiteral("📁")).id);
+        folders.append(FolderOperations::create(store, name, QStringLiteral("📁")).id);
     }
     for (int i = 1; i <= 60; ++i) {
         const QString title = i % 7 == 3
@@ -129,15 +135,16 @@ void SampleWorkspace::manyTasks(WorkspaceStore &store)
 {
     fill(store);
     const Timestamp now = store.clock().now();
-    store.newTask(
-        QStringLiteral("Sort the letters of the whole last year by sender and by month ").repeated(4),
+    TaskOperations::create(
+        store, QStringLiteral("Sort the letters of the whole last year by sender and by month ").repeated(4),
         TaskPriority::high, now - std::chrono::hours(90));
-    store.newTask(QStringLiteral("قراءة الكتاب الجديد"), TaskPriority::low, now);
-    store.newTask(QStringLiteral("Water the plants 🪴 and feed the cat 🐈"), TaskPriority::medium, {});
-    store.newTask({}, TaskPriority::medium, {});
+    TaskOperations::create(store, QStringLiteral("قراءة الكتاب الجديد"), TaskPriority::low, now);
+    TaskOperations::create(store, QStringLiteral("Water the plants 🪴 and feed the cat 🐈"),
+                           TaskPriority::medium, {});
+    TaskOperations::create(store, {}, TaskPriority::medium, {});
     for (int i = 1; i <= 10'000; ++i)
-        store.newTask(QStringLiteral("Task %1").arg(i), TaskPriority(i % 3),
-                      now + std::chrono::hours(24) * (i % 30));
+        TaskOperations::create(store, QStringLiteral("Task %1").arg(i), TaskPriority(i % 3),
+                               now + std::chrono::hours(24) * (i % 30));
 }
 
 void SampleWorkspace::notes(WorkspaceStore &store, int count)
@@ -157,7 +164,7 @@ void SampleWorkspace::notes(WorkspaceStore &store, int count)
     static const QStringList icons{QStringLiteral("📝"), QStringLiteral("🌸"), QStringLiteral("📌"),
                                    QStringLiteral("🔖"), QStringLiteral("🧭"), QStringLiteral("💡")};
     for (int i = 0; i < count; ++i) {
-        const QUuid id = store.newPage(PageKind::note);
+        const QUuid id = PageOperations::create(store, PageKind::note);
         store.change<Page>(id, [&](Page &note) {
             const int kind = (count - i) % int(titles.size());
             note.title = titles.at(kind);

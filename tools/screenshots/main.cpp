@@ -6,6 +6,7 @@
 #include "SamplePages.h"
 #include "SampleWorkspace.h"
 #include "ScratchWorkspace.h"
+#include "Store/PageOperations.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -282,11 +283,13 @@ QList<Picture> pagePictures()
     };
     const Content every = on(SamplePages::everyBlock);
     const Content workshop = on(SamplePages::workshop);
-    const Content empty = on([](WorkspaceStore &store) { return store.newPage(PageKind::page); });
+    const Content empty =
+        on([](WorkspaceStore &store) { return PageOperations::create(store, PageKind::page); });
     const Content many = on(SamplePages::manyBlocks);
     const Content longTitle = on([](WorkspaceStore &store) {
-        const QUuid id = store.newPage(PageKind::note);
-        store.renamePage(id, QStringLiteral("A title that goes on and on ").repeated(8).left(200));
+        const QUuid id = PageOperations::create(store, PageKind::note);
+        PageOperations::rename(store, id,
+                               QStringLiteral("A title that goes on and on ").repeated(8).left(200));
         return id;
     });
     const QSize tall(1240, 1600);

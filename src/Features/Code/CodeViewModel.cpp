@@ -21,7 +21,7 @@ void CodeViewModel::setStore(WorkspaceStore *store)
         m_store->disconnect(this);
     m_store = store;
     if (m_store)
-        connect(m_store, &WorkspaceStore::codeDocumentsChanged, this, &CodeViewModel::documentChanged);
+        connect(m_store, &WorkspaceStore::changed, this, &CodeViewModel::follow);
     emit storeChanged();
     m_layoutNeeded = true;
     m_refresh.request();
@@ -180,12 +180,13 @@ void CodeViewModel::change(const QUuid &id, Edit edit)
     });
 }
 
-void CodeViewModel::documentChanged(const RecordChange &change)
+void CodeViewModel::follow(const ChangeSet &changes)
 {
-    if (change.kind == RecordChange::Kind::replaced)
-        m_changedDocuments.insert(change.id);
-    else
-        m_layoutNeeded = true;
+    const RecordChanges &documents = changes.of<CodeDocument>();
+    if (documents.isEmpty())
+        return;
+    m_changedDocuments += documents.replaced;
+    m_layoutNeeded |= !documents.isReplacedOnly();
     m_refresh.request();
 }
 

@@ -125,7 +125,7 @@ signals:
 private:
     template <typename Edit>
     void change(const QUuid &id, Edit edit);
-    void documentChanged(const RecordChange &change);
+    void follow(const ChangeSet &changes);
     void refresh();
     /// Takes a query back that does not find the document.
     void showInList(const CodeDocument &document);

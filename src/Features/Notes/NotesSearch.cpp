@@ -1,5 +1,6 @@
 #include "Features/Notes/NotesSearch.h"
 
+#include "Store/PageOperations.h"
 #include "Store/Questions.h"
 #include "Store/SearchSignatures.h"
 
@@ -9,7 +10,7 @@ QList<const Page *> NotesSearch::filtered(const QString &query) const
 {
     const QString folded = query.trimmed().toLower();
     if (folded.isEmpty())
-        return m_store.notes();
+        return PageOperations::notes(m_store);
     const SignatureQuery signatureQuery(folded);
     SearchedTexts texts;
     const auto isFound = [&](const Page &page) {

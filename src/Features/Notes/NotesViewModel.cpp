@@ -21,7 +21,10 @@ void NotesViewModel::setStore(WorkspaceStore *store)
         return;
     m_store = store;
     m_search.emplace(*store);
-    connect(store, &WorkspaceStore::pagesChanged, &m_refresh, &CoalescedCall::request);
+    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+        if (changes.touches<Page>())
+            m_refresh.request();
+    });
     connect(&store->clock(), &Clock::dayChanged, &m_refresh, &CoalescedCall::request);
     emit storeChanged();
     refresh();

@@ -12,7 +12,10 @@ void OnboardingViewModel::setStore(WorkspaceStore *store)
         m_store->disconnect(this);
     m_store = store;
     if (m_store)
-        connect(m_store, &WorkspaceStore::settingsChanged, this, &OnboardingViewModel::appearancesChanged);
+        connect(m_store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+            if (changes.settings)
+                emit appearancesChanged();
+        });
     emit storeChanged();
     emit appearancesChanged();
 }

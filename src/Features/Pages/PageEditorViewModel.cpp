@@ -33,7 +33,7 @@ void PageEditorViewModel::setStore(WorkspaceStore *store)
         m_store->disconnect(this);
     m_store = store;
     if (m_store)
-        connect(m_store, &WorkspaceStore::pagesChanged, this, &PageEditorViewModel::pageChanged);
+        connect(m_store, &WorkspaceStore::changed, this, &PageEditorViewModel::follow);
     emit storeChanged();
     refresh();
 }
@@ -212,9 +212,9 @@ void PageEditorViewModel::copyOutput(const QUuid &blockID)
     QGuiApplication::clipboard()->setText(codeRun(blockID)->output());
 }
 
-void PageEditorViewModel::pageChanged(const RecordChange &change)
+void PageEditorViewModel::follow(const ChangeSet &changes)
 {
-    if (change.id == m_pageID || change.id.isNull())
+    if (changes.of<Page>().contains(m_pageID))
         m_refresh.request();
 }
 

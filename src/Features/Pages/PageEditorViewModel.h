@@ -94,7 +94,7 @@ signals:
     void focusRequested(int row, int caret);
 
 private:
-    void pageChanged(const RecordChange &change);
+    void follow(const ChangeSet &changes);
     void refresh();
     void showBlocks(const QList<Block> &blocks);
     void dropRuns();

@@ -1,6 +1,7 @@
 #include "Features/Pages/PageHeaderViewModel.h"
 
 #include "Foundation/LineText.h"
+#include "Store/PageOperations.h"
 #include "Support/OVDate.h"
 #include "Support/PageText.h"
 
@@ -19,7 +20,7 @@ void PageHeaderViewModel::setStore(WorkspaceStore *store)
     if (m_store == store)
         return;
     m_store = store;
-    connect(store, &WorkspaceStore::pagesChanged, this, &PageHeaderViewModel::pageChanged);
+    connect(store, &WorkspaceStore::changed, this, &PageHeaderViewModel::follow);
     connect(&store->clock(), &Clock::dayChanged, this, &PageHeaderViewModel::showEdited);
     emit storeChanged();
     showAll();
@@ -36,13 +37,13 @@ void PageHeaderViewModel::setPageID(const QUuid &pageID)
 
 QString PageHeaderViewModel::setTitle(const QString &title)
 {
-    m_store->renamePage(m_pageID, LineText::singleLine(title));
+    PageOperations::rename(*m_store, m_pageID, LineText::singleLine(title));
     return m_face.title;
 }
 
 void PageHeaderViewModel::setIcon(const QString &icon)
 {
-    m_store->setPageIcon(m_pageID, icon);
+    PageOperations::setIcon(*m_store, m_pageID, icon);
 }
 
 QList<QString> PageHeaderViewModel::icons() const
@@ -55,7 +56,7 @@ QList<QString> PageHeaderViewModel::icons() const
 
 void PageHeaderViewModel::toggleFavorite()
 {
-    m_store->toggleFavorite(m_pageID);
+    PageOperations::toggleFavorite(*m_store, m_pageID);
 }
 
 QString PageHeaderViewModel::convertText() const
@@ -65,7 +66,7 @@ QString PageHeaderViewModel::convertText() const
 
 void PageHeaderViewModel::convert()
 {
-    m_store->convertPage(m_pageID);
+    PageOperations::convert(*m_store, m_pageID);
 }
 
 QString PageHeaderViewModel::wordsText() const
@@ -91,14 +92,14 @@ void PageHeaderViewModel::goBack()
 void PageHeaderViewModel::deletePage()
 {
     goBack();
-    m_store->erase<Page>(m_pageID);
+    PageOperations::remove(*m_store, m_pageID);
 }
 
-void PageHeaderViewModel::pageChanged(const RecordChange &change)
+void PageHeaderViewModel::follow(const ChangeSet &changes)
 {
-    if (change.kind == RecordChange::Kind::reloaded)
+    if (changes.of<Page>().isReloaded)
         return showAll();
-    if (change.id != m_pageID || !page())
+    if (!changes.of<Page>().contains(m_pageID) || !page())
         return;
     showFace();
     showEdited();

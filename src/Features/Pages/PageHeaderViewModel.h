@@ -84,7 +84,7 @@ private:
     };
 
     const Page *page() const { return m_store ? m_store->pages().first(m_pageID) : nullptr; }
-    void pageChanged(const RecordChange &change);
+    void follow(const ChangeSet &changes);
     void showAll();
     void showFace();
     void showEdited();

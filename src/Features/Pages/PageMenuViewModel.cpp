@@ -1,6 +1,7 @@
 #include "Features/Pages/PageMenuViewModel.h"
 
 #include "Session/PageActions.h"
+#include "Store/PageOperations.h"
 
 QString PageMenuViewModel::favoriteTitle() const
 {
@@ -20,7 +21,7 @@ void PageMenuViewModel::open(const QUuid &pageID)
         return;
     m_isFavorite = page->isFavorite;
     QList<FolderChoice> choices{{{}, m_noFolderTitle, !page->folderID}};
-    for (const Folder *folder : m_store->orderedFolders())
+    for (const Folder *folder : FolderOperations::ordered(*m_store))
         choices.append({folder->id, folder->name, page->folderID == folder->id});
     m_folders.setRows(choices);
     emit opened();
@@ -28,17 +29,17 @@ void PageMenuViewModel::open(const QUuid &pageID)
 
 void PageMenuViewModel::toggleFavorite()
 {
-    m_store->toggleFavorite(m_pageID);
+    PageOperations::toggleFavorite(*m_store, m_pageID);
 }
 
 void PageMenuViewModel::duplicate()
 {
-    m_store->duplicatePage(m_pageID);
+    PageOperations::duplicate(*m_store, m_pageID);
 }
 
 void PageMenuViewModel::moveTo(const QUuid &folderID)
 {
-    m_store->movePage(m_pageID, folderID.isNull() ? std::nullopt : std::optional(folderID));
+    PageOperations::move(*m_store, m_pageID, folderID.isNull() ? std::nullopt : std::optional(folderID));
 }
 
 void PageMenuViewModel::remove()

@@ -31,10 +31,7 @@ void DetailViewModel::setStore(WorkspaceStore *store)
     if (m_store == store)
         return;
     m_store = store;
-    connect(store, &WorkspaceStore::pagesChanged, this,
-            [this](const RecordChange &change) { recordsChanged(Kind::page, change); });
-    connect(store, &WorkspaceStore::projectsChanged, this,
-            [this](const RecordChange &change) { recordsChanged(Kind::project, change); });
+    connect(store, &WorkspaceStore::changed, this, &DetailViewModel::follow);
     m_route.request();
     emit storeChanged();
 }
@@ -58,11 +55,15 @@ void DetailViewModel::setThemeRevision(int revision)
     emit themeRevisionChanged();
 }
 
-void DetailViewModel::recordsChanged(Kind kind, const RecordChange &change)
+void DetailViewModel::follow(const ChangeSet &changes)
 {
     const Destination &place = m_ui->selection();
-    const bool comesOrGoes = change.kind != RecordChange::Kind::replaced;
-    if (comesOrGoes && place.kind == kind && (change.id == place.id || change.id.isNull()))
+    const auto comesOrGoes = [&](const RecordChanges &records) {
+        return records.isReloaded || records.inserted.contains(place.id) ||
+               records.removed.contains(place.id);
+    };
+    if ((place.kind == Kind::page && comesOrGoes(changes.of<Page>())) ||
+        (place.kind == Kind::project && comesOrGoes(changes.of<Project>())))
         m_route.request();
 }
 

@@ -57,7 +57,7 @@ private:
         bool operator==(const Screen &) const = default;
     };
 
-    void recordsChanged(Destination::Kind kind, const RecordChange &change);
+    void follow(const ChangeSet &changes);
     void route();
     Screen screen() const;
     void showPlace(Screen &screen) const;

@@ -20,7 +20,10 @@ void NavigationViewModel::setStore(WorkspaceStore *store)
     if (m_store == store)
         return;
     m_store = store;
-    connect(store, &WorkspaceStore::settingsChanged, &m_followSettings, &CoalescedCall::request);
+    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+        if (changes.settings)
+            m_followSettings.request();
+    });
     followSettings();
     emit storeChanged();
 }

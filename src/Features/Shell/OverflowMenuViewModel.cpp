@@ -1,6 +1,7 @@
 #include "Features/Shell/OverflowMenuViewModel.h"
 
 #include "Features/Shell/SidebarRows.h"
+#include "Store/PageOperations.h"
 #include "Support/OrvelNavigation.h"
 #include "Support/RecordIcon.h"
 
@@ -20,7 +21,7 @@ void addModules(QList<OverflowRow> &rows, const AppSettings &settings)
                      .destination = OrvelNavigation::destination(module).text()});
 }
 
-void addPages(QList<OverflowRow> &rows, const QString &heading, const WorkspaceStore::Found<Page> &pages,
+void addPages(QList<OverflowRow> &rows, const QString &heading, const PageOperations::Pages &pages,
               QUuid (*idOf)(const QUuid &pageID))
 {
     if (pages.isEmpty())
@@ -42,8 +43,10 @@ void OverflowMenuViewModel::setStore(WorkspaceStore *store)
     if (m_store == store)
         return;
     m_store = store;
-    connect(store, &WorkspaceStore::settingsChanged, &m_rebuild, &CoalescedCall::request);
-    connect(store, &WorkspaceStore::pagesChanged, &m_rebuild, &CoalescedCall::request);
+    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+        if (changes.settings || changes.touches<Page>())
+            m_rebuild.request();
+    });
     emit storeChanged();
 }
 
@@ -88,8 +91,10 @@ void OverflowMenuViewModel::rebuild()
     QList<OverflowRow> rows;
     if (m_listsModules)
         addModules(rows, m_store->settings());
-    addPages(rows, QStringLiteral("Favourites"), m_store->pinnedPages(), &SidebarRows::favoriteRowID);
-    addPages(rows, QStringLiteral("Pages"), m_store->loosePages(), [](const QUuid &id) { return id; });
+    addPages(rows, QStringLiteral("Favourites"), PageOperations::pinned(*m_store),
+             &SidebarRows::favoriteRowID);
+    addPages(rows, QStringLiteral("Pages"), PageOperations::loose(*m_store),
+             [](const QUuid &id) { return id; });
     if (rows.isEmpty())
         rows.append({.id = namedRowID(QStringLiteral("empty")),
                      .title = QStringLiteral("No pages yet. Create your first one.")});

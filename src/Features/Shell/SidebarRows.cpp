@@ -1,8 +1,8 @@
 #include "Features/Shell/SidebarRows.h"
 
 #include "DesignSystem/KeyText.h"
+#include "Store/PageOperations.h"
 #include "Store/Questions.h"
-#include "Store/WorkspaceStore.h"
 #include "Support/OVShortcuts.h"
 #include "Support/OrvelNavigation.h"
 #include "Support/RecordIcon.h"
@@ -129,7 +129,7 @@ void addLoosePages(QList<SidebarRow> &rows, const Pages &pages, const State &sta
 void addFolders(QList<SidebarRow> &rows, const WorkspaceStore &store, const Pages &pages, const State &state)
 {
     bool isFirst = true;
-    for (const Folder *folder : store.orderedFolders()) {
+    for (const Folder *folder : FolderOperations::ordered(store)) {
         const RecordIcon icon = RecordIcon::of(*folder);
         const bool isCollapsed = state.collapsedFolders.contains(folder->id);
         rows.append({.id = folder->id,

@@ -1,6 +1,7 @@
 #include "Features/Shell/SidebarViewModel.h"
 
 #include "Session/PageActions.h"
+#include "Store/PageOperations.h"
 
 SidebarViewModel::PageFace::PageFace(const Page &page)
     : title(page.title),
@@ -25,10 +26,7 @@ void SidebarViewModel::setStore(WorkspaceStore *store)
     if (m_store == store)
         return;
     m_store = store;
-    connect(store, &WorkspaceStore::settingsChanged, this, &SidebarViewModel::followSettings);
-    connect(store, &WorkspaceStore::foldersChanged, &m_rebuild, &CoalescedCall::request);
-    connect(store, &WorkspaceStore::pagesChanged, this, &SidebarViewModel::pageChanged);
-    connect(store, &WorkspaceStore::tasksChanged, &m_countTasks, &CoalescedCall::request);
+    connect(store, &WorkspaceStore::changed, this, &SidebarViewModel::follow);
     followSettings();
     rebuild();
     emit storeChanged();
@@ -109,7 +107,7 @@ void SidebarViewModel::remove(int row)
     if (found->kind == SidebarRow::Kind::page)
         PageActions::erase(*m_store, *m_ui, id);
     else if (found->kind == SidebarRow::Kind::folder)
-        m_store->deleteFolder(id);
+        FolderOperations::remove(*m_store, id);
 }
 
 void SidebarViewModel::newPage()
@@ -199,7 +197,7 @@ void SidebarViewModel::commitRename()
 {
     const QString name = m_renameText.trimmed();
     if (!name.isEmpty())
-        m_store->renameFolder(m_state.renamingFolderID, name);
+        FolderOperations::rename(*m_store, m_state.renamingFolderID, name);
     cancelRename();
 }
 
@@ -220,7 +218,7 @@ void SidebarViewModel::commitFolder()
 {
     const QString name = m_folderName.trimmed();
     if (!name.isEmpty())
-        m_store->newFolder(name, QStringLiteral("📁"));
+        FolderOperations::create(*m_store, name, QStringLiteral("📁"));
     cancelFolder();
 }
 
@@ -237,13 +235,29 @@ void SidebarViewModel::endNaming()
     m_rebuild.request();
 }
 
-void SidebarViewModel::pageChanged(const RecordChange &change)
+void SidebarViewModel::follow(const ChangeSet &changes)
 {
-    if (change.kind != RecordChange::Kind::replaced || !m_isShown)
+    if (changes.settings)
+        followSettings();
+    if (changes.touches<Folder>())
+        m_rebuild.request();
+    if (changes.touches<TaskItem>())
+        m_countTasks.request();
+    followPages(changes.of<Page>());
+}
+
+void SidebarViewModel::followPages(const RecordChanges &changes)
+{
+    if (!changes.isReplacedOnly() || (!m_isShown && !changes.isEmpty()))
         return m_rebuild.request();
-    const Page &page = *m_store->pages().first(change.id);
+    for (const QUuid &id : changes.replaced)
+        followPage(*m_store->pages().first(id));
+}
+
+void SidebarViewModel::followPage(const Page &page)
+{
     const PageFace next(page);
-    const auto shown = m_faces.find(change.id);
+    const auto shown = m_faces.find(page.id);
     if (shown == m_faces.end())
         return m_rebuild.request();
     if (*shown == next)

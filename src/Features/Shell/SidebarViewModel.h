@@ -99,7 +99,9 @@ private:
     void setFolded(const SidebarRow &row, bool folded);
     void endNaming();
 
-    void pageChanged(const RecordChange &change);
+    void follow(const ChangeSet &changes);
+    void followPages(const RecordChanges &changes);
+    void followPage(const Page &page);
     void followSettings();
     void followSelection();
     void rebuild();

@@ -2,6 +2,7 @@
 
 #include "Foundation/EnumChoices.h"
 #include "Foundation/LineText.h"
+#include "Store/TaskOperations.h"
 
 #include <utility>
 
@@ -17,7 +18,7 @@ void TasksViewModel::setStore(WorkspaceStore *store)
     }
     m_store = store;
     if (m_store) {
-        connect(m_store, &WorkspaceStore::tasksChanged, this, &TasksViewModel::taskChanged);
+        connect(m_store, &WorkspaceStore::changed, this, &TasksViewModel::follow);
         connect(&m_store->clock(), &Clock::dayChanged, this, &TasksViewModel::requestLayout);
         connect(&m_store->clock(), &Clock::ticked, this, &TasksViewModel::timePassed);
         m_due = toDateTime(m_store->clock().now(), m_store->clock().timeZone());
@@ -55,7 +56,7 @@ void TasksViewModel::addTask()
     if (!m_store || !canAdd())
         return;
     const auto due = m_dueEnabled ? std::optional(toTimestamp(m_due)) : std::nullopt;
-    m_store->newTask(LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
+    TaskOperations::create(*m_store, LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
     setTitle({});
     if (std::exchange(m_dueEnabled, false))
         emit dueEnabledChanged();
@@ -106,47 +107,48 @@ QStringList TasksViewModel::priorityTexts() const
 
 void TasksViewModel::renameTask(const QUuid &taskID, const QString &title)
 {
-    m_store->renameTask(taskID, LineText::singleLine(title));
+    TaskOperations::rename(*m_store, taskID, LineText::singleLine(title));
 }
 
 void TasksViewModel::cycleTaskStatus(const QUuid &taskID)
 {
-    m_store->cycleTaskStatus(taskID);
+    TaskOperations::cycleStatus(*m_store, taskID);
 }
 
 void TasksViewModel::setTaskStatus(const QUuid &taskID, int status)
 {
     if (EnumChoices::isCase<TaskStatus>(status))
-        m_store->setTaskStatus(taskID, TaskStatus(status));
+        TaskOperations::setStatus(*m_store, taskID, TaskStatus(status));
 }
 
 void TasksViewModel::cycleTaskPriority(const QUuid &taskID)
 {
-    m_store->cycleTaskPriority(taskID);
+    TaskOperations::cyclePriority(*m_store, taskID);
 }
 
 void TasksViewModel::setTaskPriority(const QUuid &taskID, int priority)
 {
     if (EnumChoices::isCase<TaskPriority>(priority))
-        m_store->setTaskPriority(taskID, TaskPriority(priority));
+        TaskOperations::setPriority(*m_store, taskID, TaskPriority(priority));
 }
 
 void TasksViewModel::setTaskDue(const QUuid &taskID, const QDateTime &due)
 {
-    m_store->setTaskDue(taskID, due.isValid() ? std::optional(toTimestamp(due)) : std::nullopt);
+    TaskOperations::setDue(*m_store, taskID, due.isValid() ? std::optional(toTimestamp(due)) : std::nullopt);
 }
 
 void TasksViewModel::deleteTask(const QUuid &taskID)
 {
-    m_store->erase<TaskItem>(taskID);
+    TaskOperations::remove(*m_store, taskID);
 }
 
-void TasksViewModel::taskChanged(const RecordChange &change)
+void TasksViewModel::follow(const ChangeSet &changes)
 {
-    if (change.kind == RecordChange::Kind::replaced)
-        m_changedTasks.insert(change.id);
-    else
-        m_layoutNeeded = true;
+    const RecordChanges &tasks = changes.of<TaskItem>();
+    if (tasks.isEmpty())
+        return;
+    m_changedTasks += tasks.replaced;
+    m_layoutNeeded |= !tasks.isReplacedOnly();
     m_refresh.request();
 }
 

@@ -84,7 +84,7 @@ signals:
     void filteredChanged();
 
 private:
-    void taskChanged(const RecordChange &change);
+    void follow(const ChangeSet &changes);
     void timePassed();
     /// Has every row laid out anew at the end of the turn.
     void requestLayout();

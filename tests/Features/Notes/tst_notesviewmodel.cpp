@@ -127,7 +127,7 @@ void NotesViewModelTest::lastEditedStandsFirst()
     add(QStringLiteral("c"));
     QCOMPARE(shown(), QStringLiteral("c b a"));
     m_workspace.advanceHours(1);
-    m_workspace.store().renamePage(QUuid(first), QStringLiteral("A"));
+    PageOperations::rename(m_workspace.store(), QUuid(first), QStringLiteral("A"));
     finishTurn();
     QCOMPARE(shown(), QStringLiteral("A c b"));
 }
@@ -199,11 +199,11 @@ void NotesViewModelTest::emptyStatesHaveTheirWords()
 void NotesViewModelTest::convertedPagesComeAndGo()
 {
     const QUuid id(m_workspace.addPage(QStringLiteral("Plan")));
-    m_workspace.store().convertPage(id);
+    PageOperations::convert(m_workspace.store(), id);
     finishTurn();
     QCOMPARE(shown(), QStringLiteral("Plan"));
     QVERIFY(m_workspace.store().recentPages().isEmpty());
-    m_workspace.store().convertPage(id);
+    PageOperations::convert(m_workspace.store(), id);
     finishTurn();
     QCOMPARE(shown(), QString());
 }
@@ -264,4 +264,5 @@ void NotesViewModelTest::standsStillWhileHidden()
 }
 
 QTEST_MAIN(NotesViewModelTest)
+#include "Store/PageOperations.h"
 #include "tst_notesviewmodel.moc"

@@ -155,9 +155,9 @@ void PageHeaderViewModelTest::listensToItsPageAlone()
     show(m_workspace.addPage(QStringLiteral("Plan")));
     const QUuid other(m_workspace.addPage(QStringLiteral("Other")));
     QSignalSpy titles(m_header.get(), &PageHeaderViewModel::titleChanged);
-    m_workspace.store().renamePage(other, QStringLiteral("Another"));
+    PageOperations::rename(m_workspace.store(), other, QStringLiteral("Another"));
     QCOMPARE(titles.count(), 0);
-    m_workspace.store().renamePage(m_header->pageID(), QStringLiteral("Plans"));
+    PageOperations::rename(m_workspace.store(), m_header->pageID(), QStringLiteral("Plans"));
     QCOMPARE(titles.count(), 1);
 
     m_workspace.store().erase<Page>(m_header->pageID());
@@ -184,4 +184,5 @@ void PageHeaderViewModelTest::offersFolders()
 }
 
 QTEST_MAIN(PageHeaderViewModelTest)
+#include "Store/PageOperations.h"
 #include "tst_pageheaderviewmodel.moc"

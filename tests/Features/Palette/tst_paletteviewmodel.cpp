@@ -67,7 +67,7 @@ private slots:
             m_workspace.addPage(i == 6 ? u"  "_s : u"P%1"_s.arg(i));
             m_workspace.clock().advance(std::chrono::minutes(1));
         }
-        store().newPage(PageKind::note);
+        PageOperations::create(store(), PageKind::note);
         const QUuid oldest = store().pages().all().first().id;
         store().change<Page>(oldest, [this](Page &page) { page.updatedDate = m_workspace.clock().now(); });
         m_workspace.hideModule(u"dashboard"_s);
@@ -87,9 +87,9 @@ private slots:
 
     void resultsAreGroupedByKind()
     {
-        store().newPage(PageKind::note);
+        PageOperations::create(store(), PageKind::note);
         m_workspace.addPage(u"Untitled plan"_s);
-        store().newPage(PageKind::note);
+        PageOperations::create(store(), PageKind::note);
         m_workspace.addTask(u"untitled"_s, u"done"_s);
         addProject(u"The untitled"_s, u"🎯"_s);
         ask(u"UNTITLED "_s);
@@ -181,4 +181,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(PaletteViewModelTest)
+#include "Store/PageOperations.h"
 #include "tst_paletteviewmodel.moc"

@@ -88,11 +88,12 @@ void SidebarViewModelTest::laysOutTheWholeColumn()
     const QString later = m_workspace->addFolder(QStringLiteral("Travel"));
     m_workspace->addPage(QStringLiteral("Loose"));
     m_workspace->addPage(QStringLiteral("Pinned"), true, later);
-    m_workspace->store().change<Page>(m_workspace->store().newPage(PageKind::note), [](Page &note) {
-        note.title = QStringLiteral("Note");
-        note.isFavorite = true;
-        note.sortOrder = 0;
-    });
+    m_workspace->store().change<Page>(PageOperations::create(m_workspace->store(), PageKind::note),
+                                      [](Page &note) {
+                                          note.title = QStringLiteral("Note");
+                                          note.isFavorite = true;
+                                          note.sortOrder = 0;
+                                      });
     m_workspace->addPage(QStringLiteral("Lost"), false, QUuid::createUuid().toString());
     const QStringList full{"Dashboard", "Workspaces", "Tasks",  "Favorites", "Note",      "Pinned",
                            "Pages",     "Loose",      "Travel", "  Pinned",  "New folder"};
@@ -171,7 +172,7 @@ void SidebarViewModelTest::typingElsewhereChangesNoRow()
         typed.content[0].text = QStringLiteral("One more word");
         typed.updatedDate += std::chrono::seconds(1);
     });
-    m_workspace->store().renameTask(task, QStringLiteral("Write it"));
+    TaskOperations::rename(m_workspace->store(), task, QStringLiteral("Write it"));
     shown();
     QVERIFY(changed.isEmpty() && laidOut.isEmpty());
 }
@@ -182,7 +183,7 @@ void SidebarViewModelTest::countsOpenTasks()
     m_workspace->addTask(QStringLiteral("Read"), QStringLiteral("inProgress"));
     m_workspace->addTask(QStringLiteral("Rest"), QStringLiteral("done"));
     QVERIFY(shown().contains(QStringLiteral("Tasks|2")));
-    m_workspace->store().toggleTaskDone(task);
+    TaskOperations::toggleDone(m_workspace->store(), task);
     QVERIFY(shown().contains(QStringLiteral("Tasks|1")));
 }
 
@@ -266,7 +267,7 @@ void SidebarViewModelTest::offersWhatCanBeDoneWithAPage()
     QCOMPARE(menu.favoriteTitle(), QStringLiteral("Remove from favorites"));
     QVERIFY(menu.folderList().at(1).isCurrent);
     menu.moveTo({});
-    QCOMPARE(store.loosePages().size(), 1);
+    QCOMPARE(PageOperations::loose(store).size(), 1);
     menu.duplicate();
     QCOMPARE(store.pages().all().last().title, QStringLiteral("Plan copy"));
     m_workspace->ui().selectPage(page);
@@ -290,4 +291,6 @@ void SidebarViewModelTest::followsNothingWhileHidden()
 }
 
 QTEST_MAIN(SidebarViewModelTest)
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 #include "tst_sidebarviewmodel.moc"

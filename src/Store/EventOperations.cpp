@@ -1,0 +1,16 @@
+#include "Store/EventOperations.h"
+
+#include "Store/Questions.h"
+
+void EventOperations::remove(WorkspaceStore &store, const QUuid &eventID)
+{
+    const Action action(store, ActionText::tr("Delete Event"));
+    action.setMessage(ActionText::tr("Event deleted"));
+    store.erase<CalendarEvent>(eventID);
+}
+
+QList<const CalendarEvent *> EventOperations::onDay(const WorkspaceStore &store, QDate day)
+{
+    return Questions::ascending(store.groups().eventsByDay.of(store.list<CalendarEvent>(), day),
+                                [](const CalendarEvent &event) { return event.timeMinutes.value_or(-1); });
+}

@@ -1,0 +1,161 @@
+#include "Store/ProjectOperations.h"
+
+#include "Store/Questions.h"
+#include "Store/TaskOperations.h"
+
+namespace
+{
+const QString statusKind = QStringLiteral("status");
+const QString noteKind = QStringLiteral("note");
+
+QUuid addProject(WorkspaceStore &store, Project project, const QString &activity)
+{
+    project.id = store.makeId();
+    project.createdDate = project.updatedDate = store.now();
+    for (Milestone &milestone : project.milestones) {
+        milestone.id = store.makeId();
+        milestone.done = false;
+    }
+    store.add(project);
+    ProjectOperations::logActivity(store, project.id, activity, statusKind);
+    return project.id;
+}
+
+/// An edit that finds nothing to change leaves the project as it is, its date included.
+void changeMilestones(WorkspaceStore &store, const QUuid &projectID,
+                      const std::function<void(QList<Milestone> &)> &edit)
+{
+    store.change<Project>(projectID, [&](Project &project) {
+        const QList<Milestone> before = project.milestones;
+        edit(project.milestones);
+        if (project.milestones != before)
+            project.updatedDate = store.now();
+    });
+}
+} // namespace
+
+QUuid ProjectOperations::create(WorkspaceStore &store, const ProjectTemplate &from)
+{
+    const Action action(store, ActionText::tr("New Project"));
+    Project project{.name = from.name, .icon = from.icon, .details = from.details, .status = from.status};
+    for (const QString &title : from.milestones)
+        project.milestones.append({.title = title});
+    const QUuid id = addProject(
+        store, project, QStringLiteral("Created from the ") + from.name + QStringLiteral(" template"));
+    for (const QString &title : from.tasks)
+        addTask(store, id, title);
+    return id;
+}
+
+std::optional<QUuid> ProjectOperations::createBlank(WorkspaceStore &store, const QString &name)
+{
+    const QString trimmed = name.trimmed();
+    if (trimmed.isEmpty())
+        return std::nullopt;
+    const Action action(store, ActionText::tr("New Project"));
+    return addProject(store, {.name = trimmed, .icon = QStringLiteral("🚀")},
+                      QStringLiteral("Project created"));
+}
+
+std::optional<QUuid> ProjectOperations::createFrom(WorkspaceStore &store, const QUuid &templateProjectID)
+{
+    const Project *const original = store.projects().first(templateProjectID);
+    if (!original)
+        return std::nullopt;
+    const Action action(store, ActionText::tr("New Project"));
+    return addProject(store,
+                      {.name = original->name + QStringLiteral(" copy"),
+                       .icon = original->icon,
+                       .details = original->details,
+                       .status = original->status,
+                       .milestones = original->milestones},
+                      QStringLiteral("Created from a template"));
+}
+
+void ProjectOperations::setStatus(WorkspaceStore &store, const QUuid &projectID, ProjectStatus status)
+{
+    const Action action(store, ActionText::tr("Change Status"));
+    store.change<Project>(projectID, [&](Project &project) {
+        project.status = status;
+        project.updatedDate = store.now();
+    });
+    logActivity(store, projectID, QStringLiteral("Status changed to ") + enumLabel(status), statusKind);
+}
+
+void ProjectOperations::addMilestone(WorkspaceStore &store, const QUuid &projectID, const QString &title)
+{
+    const QString trimmed = title.trimmed();
+    if (trimmed.isEmpty())
+        return;
+    const Action action(store, ActionText::tr("Add Milestone"));
+    changeMilestones(store, projectID, [&](QList<Milestone> &milestones) {
+        milestones.append({store.makeId(), trimmed, false});
+    });
+    logActivity(store, projectID, QStringLiteral("Added milestone “%1”").arg(trimmed), noteKind);
+}
+
+void ProjectOperations::toggleMilestone(WorkspaceStore &store, const QUuid &projectID,
+                                        const QUuid &milestoneID)
+{
+    const Action action(store, ActionText::tr("Change Milestone"));
+    changeMilestones(store, projectID, [&](QList<Milestone> &milestones) {
+        for (Milestone &milestone : milestones)
+            if (milestone.id == milestoneID)
+                milestone.done = !milestone.done;
+    });
+}
+
+void ProjectOperations::removeMilestone(WorkspaceStore &store, const QUuid &projectID,
+                                        const QUuid &milestoneID)
+{
+    const Action action(store, ActionText::tr("Delete Milestone"));
+    action.setMessage(ActionText::tr("Milestone deleted"));
+    changeMilestones(store, projectID, [&](QList<Milestone> &milestones) {
+        milestones.removeIf([&](const Milestone &milestone) { return milestone.id == milestoneID; });
+    });
+}
+
+void ProjectOperations::addTask(WorkspaceStore &store, const QUuid &projectID, const QString &title)
+{
+    const QString trimmed = title.trimmed();
+    if (trimmed.isEmpty() || !store.projects().contains(projectID))
+        return;
+    const Action action(store, ActionText::tr("New Task"));
+    const QUuid taskID = TaskOperations::create(store, trimmed);
+    store.change<TaskItem>(taskID, [&](TaskItem &task) { task.projectID = projectID; });
+}
+
+void ProjectOperations::logActivity(WorkspaceStore &store, const QUuid &projectID, const QString &text,
+                                    const QString &kind)
+{
+    if (!store.projects().contains(projectID))
+        return;
+    const Action action(store, ActionText::tr("Log Activity"));
+    store.add(Activity{store.makeId(), projectID, text, kind, store.now()});
+}
+
+void ProjectOperations::remove(WorkspaceStore &store, const QUuid &projectID)
+{
+    if (!store.projects().contains(projectID))
+        return;
+    const Action action(store, ActionText::tr("Delete Project"));
+    action.setMessage(ActionText::tr("Project deleted"));
+    for (const TaskItem *const task : TaskOperations::ofProject(store, projectID)) {
+        const QUuid taskID = task->id;
+        store.change<TaskItem>(taskID, [&](TaskItem &changed) {
+            changed.projectID.reset();
+            changed.updatedDate = store.now();
+        });
+    }
+    QSet<QUuid> activityIDs;
+    for (const Activity *const activity : activities(store, projectID))
+        activityIDs.insert(activity->id);
+    store.erase<Activity>(activityIDs);
+    store.erase<Project>(projectID);
+}
+
+QList<const Activity *> ProjectOperations::activities(const WorkspaceStore &store, const QUuid &projectID)
+{
+    return Questions::newestFirst(store.groups().activitiesByProject.of(store.list<Activity>(), projectID),
+                                  &Activity::date);
+}

@@ -103,11 +103,11 @@ int main(int argc, char *argv[])
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     Snapshot workspace = WorkspaceGenerator::ofFileSize(10'000'000);
-    workspace.codeDocuments.prepend({.id = QUuid::createUuid(),
+    workspace.list<CodeDocument>().prepend({.id = QUuid::createUuid(),
                                      .title = QStringLiteral("Long"),
                                      .language = CodeLanguage::swift,
                                      .source = SourceText::ofSize(100'000)});
-    const CodeDocument document = workspace.codeDocuments.first();
+    const CodeDocument document = workspace.list<CodeDocument>().first();
     Desk desk(workspace);
     desk.ui.setCodeDocumentID(document.id);
     QQmlEngine engine;

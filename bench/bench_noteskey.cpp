@@ -31,7 +31,7 @@ Snapshot notes(int count)
         note.content.append({.id = QUuid::createUuid(), .text = text.repeated(1 + i % 8)});
         note.content.append(
             {.id = QUuid::createUuid(), .text = QStringLiteral("Seen from the harbour %1").arg(i % 10)});
-        workspace.pages.append(note);
+        workspace.list<Page>().append(note);
     }
     return workspace;
 }

@@ -144,7 +144,7 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     const Page page = longPage();
     Snapshot workspace = WorkspaceGenerator::ofFileSize(10'000'000);
-    workspace.pages.append(page);
+    workspace.list<Page>().append(page);
     Desk desk(workspace);
     QQmlEngine engine;
     desk.provideTo(engine);

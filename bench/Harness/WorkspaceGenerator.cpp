@@ -28,24 +28,24 @@ public:
     /// One record of most kinds, in the proportions of a workspace in use.
     void addUnit(Snapshot &to)
     {
-        to.pages.append(page(PageKind::page, 12));
-        to.pages.append(page(PageKind::note, 2));
+        to.list<Page>().append(page(PageKind::page, 12));
+        to.list<Page>().append(page(PageKind::note, 2));
         for (int i = 0; i < 6; ++i)
-            to.tasks.append(task());
-        if (to.databases.isEmpty())
-            to.databases.append(table());
+            to.list<TaskItem>().append(task());
+        if (to.list<DatabaseTable>().isEmpty())
+            to.list<DatabaseTable>().append(table());
         for (int i = 0; i < 8; ++i)
-            to.rows.append(row(to.databases.first()));
-        to.events.append({id(), text(4), moment(), below(1440), EventKind::event, text(8), moment()});
-        to.activities.append({id(), id(), text(6), QStringLiteral("note"), moment()});
-        to.codeDocuments.append(
+            to.list<DBRow>().append(row(to.list<DatabaseTable>().first()));
+        to.list<CalendarEvent>().append({id(), text(4), moment(), below(1440), EventKind::event, text(8), moment()});
+        to.list<Activity>().append({id(), id(), text(6), QStringLiteral("note"), moment()});
+        to.list<CodeDocument>().append(
             {id(), text(1), CodeLanguage::python, code(), false, order(), moment(), moment()});
         if (below(4) == 0)
-            to.decks.append(deck());
+            to.list<Deck>().append(deck());
         if (below(8) == 0)
-            to.folders.append({id(), text(2), QStringLiteral("📁"), order(), moment(), moment()});
+            to.list<Folder>().append({id(), text(2), QStringLiteral("📁"), order(), moment(), moment()});
         if (below(8) == 0)
-            to.projects.append({id(),
+            to.list<Project>().append({id(),
                                 text(3),
                                 QStringLiteral("🎯"),
                                 text(20),
@@ -57,7 +57,7 @@ public:
                                 moment(),
                                 moment()});
         if (below(20) == 0)
-            to.habits.append(habit());
+            to.list<Habit>().append(habit());
     }
 
     Page page(PageKind kind, int blocks)
@@ -186,9 +186,9 @@ Snapshot WorkspaceGenerator::ofTasksAndPages(int tasks, int pages)
     Generator generator;
     Snapshot workspace;
     for (int i = 0; i < tasks; ++i)
-        workspace.tasks.append(generator.task());
+        workspace.list<TaskItem>().append(generator.task());
     for (int i = 0; i < pages; ++i)
-        workspace.pages.append(generator.page(i % 3 == 0 ? PageKind::note : PageKind::page, 6));
+        workspace.list<Page>().append(generator.page(i % 3 == 0 ? PageKind::note : PageKind::page, 6));
     return workspace;
 }
 

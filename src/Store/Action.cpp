@@ -33,7 +33,7 @@ Action::~Action()
 
 void Action::setMessage(const QString &message) const
 {
-    if (m_isOutermost)
+    if (m_isOutermost || m_store.m_action.step.message.isEmpty())
         m_store.m_action.step.message = message;
 }
 

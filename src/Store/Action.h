@@ -21,7 +21,8 @@ struct ActionText {
 };
 
 /// One thing that the user does. All changes of the store while it exists become one change set, one signal,
-/// one undo step and one request to save. Of actions within actions the outermost counts.
+/// one undo step and one request to save. Of actions within actions the outermost counts; one without a name
+/// takes that of the first within it.
 class [[nodiscard]] Action
 {
 public:
@@ -36,7 +37,7 @@ public:
     Q_DISABLE_COPY_MOVE(Action)
 
     /// What the window tells once the action is done, with a way to undo it, such as "Task deleted". That of
-    /// an outer action counts.
+    /// an outer action comes first.
     void setMessage(const QString &message) const;
     /// Puts off what can't be undone, such as deleting a file, until the step is forgotten.
     void whenForgotten(std::function<void()> call) const;

@@ -133,6 +133,8 @@ public:
     {
         if (m_isIndexed && !m_index.contains(record.id))
             m_index.insert(record.id, m_records.size());
+        else if (m_maxShift > 0)
+            forgetIndex();
         m_records.append(std::move(record));
     }
 

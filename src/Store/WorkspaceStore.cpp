@@ -85,11 +85,12 @@ void WorkspaceStore::changeSettings(const std::function<void(AppSettings &)> &ed
 
 bool WorkspaceStore::begin(const std::function<void(UndoStep &)> &describe)
 {
-    if (m_action.depth++ > 0)
-        return false;
-    m_action.step.place = m_place();
-    describe(m_action.step);
-    return true;
+    const bool isOutermost = m_action.depth++ == 0;
+    if (isOutermost)
+        m_action.step.place = m_place();
+    if (isOutermost || (m_action.step.name.isEmpty() && !m_action.step.isBackground))
+        describe(m_action.step);
+    return isOutermost;
 }
 
 void WorkspaceStore::end()

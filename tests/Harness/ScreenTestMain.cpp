@@ -19,8 +19,10 @@ public slots:
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         m_session.provideTo(*engine);
         const WorkspaceStore &store = m_workspace.store();
-        connect(&store, &WorkspaceStore::settingsChanged, this,
-                [&store] { OVTheme::apply(store.settings()); });
+        connect(&store, &WorkspaceStore::changed, this, [&store](const ChangeSet &changes) {
+            if (changes.settings)
+                OVTheme::apply(store.settings());
+        });
         m_workspace.reset();
     }
 

@@ -50,49 +50,50 @@ inline Snapshot make()
     sample.settings.theme.preset = ThemePreset::ember;
     sample.settings.relaxLinks = {
         {id(1), QStringLiteral("Rain"), QStringLiteral("https://example.org/rain")}};
-    sample.folders = {{id(2), QStringLiteral("Work"), QStringLiteral("📁"), 1.5, moment(1), moment(2)}};
-    sample.pages = {{id(3),
-                     QStringLiteral("Tabs\tand \"quotes\" \\ /"),
-                     QStringLiteral("📄"),
-                     PageKind::note,
-                     {{id(4), BlockType::checklist, QStringLiteral("Line\nbreak"), true, CalloutTone::tip,
-                       QStringLiteral("python")}},
-                     true,
-                     id(2),
-                     1772357400.25,
-                     moment(3),
-                     moment(4)}};
-    sample.tasks = {
+    sample.list<Folder>() = {
+        {id(2), QStringLiteral("Work"), QStringLiteral("📁"), 1.5, moment(1), moment(2)}};
+    sample.list<Page>() = {{id(3),
+                            QStringLiteral("Tabs\tand \"quotes\" \\ /"),
+                            QStringLiteral("📄"),
+                            PageKind::note,
+                            {{id(4), BlockType::checklist, QStringLiteral("Line\nbreak"), true,
+                              CalloutTone::tip, QStringLiteral("python")}},
+                            true,
+                            id(2),
+                            1772357400.25,
+                            moment(3),
+                            moment(4)}};
+    sample.list<TaskItem>() = {
         {id(5), QStringLiteral("Letter"), TaskStatus::done, TaskPriority::high, moment(5), id(7),
          QStringLiteral("n"), moment(1), moment(2), moment(3)},
         {.id = id(6), .title = QStringLiteral("Bare"), .createdDate = moment(1), .updatedDate = moment(1)}};
-    sample.events = {
+    sample.list<CalendarEvent>() = {
         {id(8), QStringLiteral("Call"), moment(6), 570, EventKind::reminder, QStringLiteral("x"), moment(1)}};
-    sample.projects = {{id(7),
-                        QStringLiteral("Book"),
-                        QStringLiteral("🎯"),
-                        QStringLiteral("d"),
-                        ProjectStatus::onHold,
-                        moment(9),
-                        true,
-                        QStringLiteral("dawn"),
-                        {{id(9), QStringLiteral("Draft"), true}},
-                        moment(1),
-                        moment(2)}};
-    sample.activities = {{id(10), id(7), QStringLiteral("Began"), QStringLiteral("status"), moment(2)}};
-    sample.databases = {table()};
-    sample.rows = {
+    sample.list<Project>() = {{id(7),
+                               QStringLiteral("Book"),
+                               QStringLiteral("🎯"),
+                               QStringLiteral("d"),
+                               ProjectStatus::onHold,
+                               moment(9),
+                               true,
+                               QStringLiteral("dawn"),
+                               {{id(9), QStringLiteral("Draft"), true}},
+                               moment(1),
+                               moment(2)}};
+    sample.list<Activity>() = {{id(10), id(7), QStringLiteral("Began"), QStringLiteral("status"), moment(2)}};
+    sample.list<DatabaseTable>() = {table()};
+    sample.list<DBRow>() = {
         {id(25), id(20), {{DBRow::valueKey(id(21)), QStringLiteral("Done")}}, 2, moment(1), moment(2)}};
-    sample.habits = {{id(11),
-                      QStringLiteral("Read"),
-                      QStringLiteral("📚"),
-                      AccentPalette::teal,
-                      5,
-                      {QStringLiteral("2026-03-01"), QStringLiteral("2026-03-02")},
-                      3,
-                      moment(1)}};
-    sample.codeDocuments = {{id(12), QStringLiteral("hello"), CodeLanguage::python,
-                             QStringLiteral("print(1)\n"), true, 4, moment(1), moment(2)}};
+    sample.list<Habit>() = {{id(11),
+                             QStringLiteral("Read"),
+                             QStringLiteral("📚"),
+                             AccentPalette::teal,
+                             5,
+                             {QStringLiteral("2026-03-01"), QStringLiteral("2026-03-02")},
+                             3,
+                             moment(1)}};
+    sample.list<CodeDocument>() = {{id(12), QStringLiteral("hello"), CodeLanguage::python,
+                                    QStringLiteral("print(1)\n"), true, 4, moment(1), moment(2)}};
     Deck deck = Deck::fresh(moment(1), id(13));
     deck.theme = SlideTheme::catalog().at(3);
     Slide slide = Slide::fresh(id(14));
@@ -100,18 +101,18 @@ inline Snapshot make()
     slide.body = QStringLiteral("72 | Rate");
     deck.slides = {slide};
     deck.showNumbers = false;
-    sample.decks = {deck};
-    sample.books = {{id(15),
-                     1342,
-                     QStringLiteral("P & P"),
-                     QStringLiteral("Austen, Jane"),
-                     QStringLiteral("en"),
-                     {QStringLiteral("Fiction")},
-                     QStringLiteral("https://example.org/1342.txt"),
-                     0.5,
-                     12,
-                     moment(1),
-                     moment(2)}};
+    sample.list<Deck>() = {deck};
+    sample.list<Book>() = {{id(15),
+                            1342,
+                            QStringLiteral("P & P"),
+                            QStringLiteral("Austen, Jane"),
+                            QStringLiteral("en"),
+                            {QStringLiteral("Fiction")},
+                            QStringLiteral("https://example.org/1342.txt"),
+                            0.5,
+                            12,
+                            moment(1),
+                            moment(2)}};
     return sample;
 }
 } // namespace SampleSnapshot

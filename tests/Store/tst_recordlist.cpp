@@ -52,7 +52,8 @@ void TestRecordList::doesAsAPlainListDoes()
             taken.clear();
         } else if (action < 5) {
             for (const qsizetype position : list.positionsOf({chosen}))
-                QCOMPARE(list.exchange(position, {chosen, step}), std::exchange(plain[position], {chosen, step}));
+                QCOMPARE(list.exchange(position, {chosen, step}),
+                         std::exchange(plain[position], {chosen, step}));
         } else if (action < 6 && !taken.isEmpty()) {
             for (qsizetype i = 0; i < taken.size(); ++i)
                 plain.insert(takenPositions.at(i), taken.at(i));

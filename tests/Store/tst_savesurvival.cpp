@@ -213,11 +213,11 @@ private slots:
         QSKIP("needs several times its memory under the sanitizers");
 #endif
         Snapshot large = SampleSnapshot::make();
-        Page page = large.pages.first();
+        Page page = large.list<Page>().first();
         page.content.first().text = u"A line of plain text, Zoë's \"own\".\n"_s.repeated(2'900);
         for (int i = 0; i < 2'000; ++i) {
             page.id = SampleSnapshot::id(1000 + i);
-            large.pages.append(page);
+            large.list<Page>().append(page);
         }
         const QByteArray bytes = SnapshotCodec::encode(large);
         QVERIFY2(bytes.size() > 200'000'000, qPrintable(QString::number(bytes.size())));

@@ -75,7 +75,7 @@ private slots:
     void losesFractionsOfASecondOnly()
     {
         Snapshot sample = SampleSnapshot::make();
-        sample.tasks[0].createdDate += std::chrono::milliseconds(987);
+        sample.list<TaskItem>()[0].createdDate += std::chrono::milliseconds(987);
         QCOMPARE(decoded(SnapshotCodec::encode(sample)), SampleSnapshot::make());
     }
 
@@ -202,7 +202,7 @@ private slots:
     void decksAlwaysRead()
     {
         const auto deckFrom = [](const QByteArray &json) {
-            return decoded("{\"decks\":[" + json + "]}").decks.value(0);
+            return decoded("{\"decks\":[" + json + "]}").list<Deck>().value(0);
         };
         const Deck fresh = Deck::fresh(now, freshId());
         QCOMPARE(deckFrom("{}"), fresh);
@@ -226,7 +226,7 @@ private slots:
     void oddTextSurvives()
     {
         const auto titleFrom = [](const QByteArray &text) {
-            return decoded("{\"decks\":[{\"title\":\"" + text + "\"}]}").decks.value(0).title;
+            return decoded("{\"decks\":[{\"title\":\"" + text + "\"}]}").list<Deck>().value(0).title;
         };
         QCOMPARE(titleFrom(R"(a\u0000b)"), QString(u"a\0b"_s));
         QCOMPARE(titleFrom(R"(\ud83d\ude00)"), u"😀"_s);
@@ -235,11 +235,11 @@ private slots:
         QCOMPARE(titleFrom(R"(\ud83d\ud83d\ude00)"), u"\ufffd😀"_s);
 
         Snapshot sample = SampleSnapshot::make();
-        sample.tasks[0].title = u"half "_s + QChar(0xd83d);
-        sample.tasks[1].title = u"nul "_s + QChar(0) + u" \u2028 end"_s;
+        sample.list<TaskItem>()[0].title = u"half "_s + QChar(0xd83d);
+        sample.list<TaskItem>()[1].title = u"nul "_s + QChar(0) + u" \u2028 end"_s;
         const Snapshot back = decoded(SnapshotCodec::encode(sample));
-        QCOMPARE(back.tasks[0].title, u"half \ufffd"_s);
-        QCOMPARE(back.tasks[1].title, sample.tasks[1].title);
+        QCOMPARE(back.list<TaskItem>()[0].title, u"half \ufffd"_s);
+        QCOMPARE(back.list<TaskItem>()[1].title, sample.list<TaskItem>()[1].title);
     }
 
     void ofAKeyGivenTwiceTheLastCounts()

@@ -32,7 +32,10 @@ QByteArray encoded(const WorkspaceStore &store)
 class Walk
 {
 public:
-    Walk(WorkspaceStore &store, ManualClock &clock, unsigned seed) : m_store(store), m_clock(clock), m_random(seed) {}
+    Walk(WorkspaceStore &store, ManualClock &clock, unsigned seed)
+        : m_store(store), m_clock(clock), m_random(seed)
+    {
+    }
 
     int below(qsizetype count) { return count < 1 ? 0 : int(m_random() % unsigned(count)); }
 
@@ -40,10 +43,9 @@ public:
     {
         m_clock.advance(std::chrono::milliseconds(below(5'000)));
         using Operation = void (Walk::*)();
-        static constexpr auto operations =
-            std::to_array<Operation>({&Walk::actOnTasks, &Walk::actOnTasks, &Walk::actOnPages, &Walk::actOnPages,
-                                      &Walk::type, &Walk::type, &Walk::actOnProjects, &Walk::actOnDatabases,
-                                      &Walk::actOnRest, &Walk::actOnMany});
+        static constexpr auto operations = std::to_array<Operation>(
+            {&Walk::actOnTasks, &Walk::actOnTasks, &Walk::actOnPages, &Walk::actOnPages, &Walk::type,
+             &Walk::type, &Walk::actOnProjects, &Walk::actOnDatabases, &Walk::actOnRest, &Walk::actOnMany});
         (this->*operations[std::size_t(below(operations.size()))])();
     }
 
@@ -159,7 +161,8 @@ private:
         case 4:
             return DatabaseOperations::duplicateRow(m_store, row);
         case 5:
-            return below(4) ? DatabaseOperations::removeRow(m_store, row) : DatabaseOperations::remove(m_store, table);
+            return below(4) ? DatabaseOperations::removeRow(m_store, row)
+                            : DatabaseOperations::remove(m_store, table);
         }
     }
 
@@ -194,7 +197,8 @@ private:
     {
         switch (below(4)) {
         case 0:
-            return StarterContent::seed(m_store, {OrvelModule::tasks, OrvelModule::projects, OrvelModule::decks}, true);
+            return StarterContent::seed(
+                m_store, {OrvelModule::tasks, OrvelModule::projects, OrvelModule::decks}, true);
         case 1:
             return StarterContent::removeExampleContent(m_store);
         case 2: {
@@ -226,8 +230,11 @@ private:
 
     std::unique_ptr<WorkspaceStore> open(const QTemporaryDir &folder, UndoHistory::Limits limits = {})
     {
-        return std::make_unique<WorkspaceStore>(WorkspaceStore::Options{
-            .filePath = folder.filePath(u"workspace.json"_s), .clock = &m_clock, .saveDelay = 1h, .undoLimits = limits});
+        return std::make_unique<WorkspaceStore>(
+            WorkspaceStore::Options{.filePath = folder.filePath(u"workspace.json"_s),
+                                    .clock = &m_clock,
+                                    .saveDelay = 1h,
+                                    .undoLimits = limits});
     }
 
 private slots:
@@ -278,7 +285,8 @@ private slots:
             }
             if (i % 200 == 0) {
                 store->saveNow();
-                const auto reread = SnapshotCodec::decodeFile(store->filePath(), m_clock.now());
+                const auto reread =
+                    SnapshotCodec::decodeFile(store->filePath(), m_clock.now(), &QUuid::createUuid);
                 QCOMPARE(SnapshotCodec::encode(reread.value()), encoded(*store));
             }
         }
@@ -296,7 +304,8 @@ private slots:
         ProjectOperations::addTask(*store, project, u"Sail"_s);
         const QUuid task = store->tasks().at(0).id;
         QList<ChangeSet> told;
-        connect(store.get(), &WorkspaceStore::changed, this, [&](const ChangeSet &changes) { told.append(changes); });
+        connect(store.get(), &WorkspaceStore::changed, this,
+                [&](const ChangeSet &changes) { told.append(changes); });
 
         ProjectOperations::remove(*store, project);
         QCOMPARE(told.size(), 1);
@@ -332,7 +341,8 @@ private slots:
             TaskOperations::rename(*store, task, QString(20'000, QChar(u'a' + i)));
         QVERIFY(store->history().bytes() <= 100'000);
         QVERIFY(store->history().size() >= 1);
-        while (store->undo()) { }
+        while (store->undo()) {
+        }
         QVERIFY(store->history().bytes() <= 200'000);
     }
 
@@ -365,7 +375,8 @@ private slots:
         QTest::newRow("words") << u"one two  three"_s << QStringList{u"one two  "_s, u"one "_s, u""_s};
         QTest::newRow("line") << u"a\nb"_s << QStringList{u"a\n"_s, u"a"_s, u""_s};
         QTest::newRow("mistyped") << u"helo<lo"_s << QStringList{u"hel"_s, u"helo"_s, u""_s};
-        QTest::newRow("deleted") << u"one two<<<<<"_s << QStringList{u"one "_s, u"one two"_s, u"one "_s, u""_s};
+        QTest::newRow("deleted") << u"one two<<<<<"_s
+                                 << QStringList{u"one"_s, u"one two"_s, u"one "_s, u""_s};
         QTest::newRow("elsewhere") << u"on|ly"_s << QStringList{u"on"_s, u""_s};
         QTest::newRow("repeated") << u"aaa"_s << QStringList{u""_s};
     }

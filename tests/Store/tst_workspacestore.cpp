@@ -87,7 +87,8 @@ private slots:
         QCOMPARE(fileBytes(), "not json"_ba);
         PageOperations::create(*store, PageKind::page);
         store->saveNow();
-        QCOMPARE(SnapshotCodec::decode(fileBytes(), m_clock.now(), &QUuid::createUuid)->pages.size(), 1);
+        QCOMPARE(SnapshotCodec::decode(fileBytes(), m_clock.now(), &QUuid::createUuid)->list<Page>().size(),
+                 1);
     }
 
     void manyRequestsMakeOneDelayedSave()
@@ -106,36 +107,36 @@ private slots:
     void tellsOnlyRealChanges()
     {
         const auto store = openSample();
-        QSignalSpy tasks(store.get(), &WorkspaceStore::tasksChanged);
-        QSignalSpy pages(store.get(), &WorkspaceStore::pagesChanged);
-        QSignalSpy settings(store.get(), &WorkspaceStore::settingsChanged);
-        store->replace(store->tasks().all().first());
-        store->setSettings(store->settings());
+        QList<ChangeSet> told;
+        connect(store.get(), &WorkspaceStore::changed, this,
+                [&](const ChangeSet &changes) { told.append(changes); });
+        store->change<TaskItem>(id(5), [](TaskItem &) {});
+        store->changeSettings([](AppSettings &) {});
         TaskOperations::rename(*store, id(777), u"nobody"_s);
-        QCOMPARE(tasks.count() + pages.count() + settings.count(), 0);
+        QVERIFY(told.isEmpty());
 
         TaskOperations::rename(*store, id(5), u"New"_s);
         const QUuid added = TaskOperations::create(*store, u"Another"_s, TaskPriority::high, m_clock.now());
-        store->erase<TaskItem>(id(6));
-        QList<RecordChange> changes;
-        for (const auto &call : tasks)
-            changes.append(call.first().value<RecordChange>());
-        QCOMPARE(changes, (QList<RecordChange>{{RecordChange::Kind::replaced, id(5)},
-                                               {RecordChange::Kind::inserted, added},
-                                               {RecordChange::Kind::removed, id(6)}}));
-        QCOMPARE(pages.count(), 0);
+        TaskOperations::remove(*store, id(6));
+        store->changeSettings([](AppSettings &settings) { settings.inkMode = true; });
+        QCOMPARE(told.size(), 4);
+        QCOMPARE(told[0].of<TaskItem>().replaced, QSet{id(5)});
+        QCOMPARE(told[1].of<TaskItem>().inserted, QSet{added});
+        QCOMPARE(told[2].of<TaskItem>().removed, QSet{id(6)});
+        QVERIFY(!told[2].settings && told[3].settings);
+        QVERIFY(!told[0].touches<Page>());
     }
 
     void recordsWithOneIdAreReachedTogether()
     {
         Snapshot sample = SampleSnapshot::make();
-        sample.tasks[1].id = id(5);
+        sample.list<TaskItem>()[1].id = id(5);
         writeFile(SnapshotCodec::encode(sample));
         const auto store = open();
         QCOMPARE(store->tasks().first(id(5))->title, u"Letter"_s);
-        TaskItem task = sample.tasks[0];
+        TaskItem task = sample.list<TaskItem>()[0];
         task.title = u"Both"_s;
-        store->replace(task);
+        store->change<TaskItem>(id(5), [&](TaskItem &changed) { changed = task; });
         QCOMPARE(store->tasks().all(), (QList<TaskItem>{task, task}));
         store->erase<TaskItem>(id(5));
         QVERIFY(store->tasks().isEmpty());
@@ -159,7 +160,7 @@ private slots:
     void pagesAreCopiedMovedAndStarred()
     {
         const auto store = openSample();
-        const Page original = SampleSnapshot::make().pages.first();
+        const Page original = SampleSnapshot::make().list<Page>().first();
         const Timestamp now = m_clock.now();
         PageOperations::duplicate(*store, original.id);
         Page copy = original;
@@ -362,14 +363,18 @@ private slots:
     {
         QFETCH(bool, keep);
         const auto store = openSample();
-        QSignalSpy pages(store.get(), &WorkspaceStore::pagesChanged);
+        QList<ChangeSet> told;
+        connect(store.get(), &WorkspaceStore::changed, this,
+                [&](const ChangeSet &changes) { told.append(changes); });
+        TaskOperations::create(*store, u"Gone soon"_s);
         store->resetEverything(keep);
         Snapshot expected;
         expected.settings.hasCompletedOnboarding = keep;
         QCOMPARE(store->snapshot(), expected);
         QCOMPARE(fileBytes(), SnapshotCodec::encode(expected));
-        QCOMPARE(pages.count(), 1);
-        QCOMPARE(pages[0][0].value<RecordChange>(), RecordChange());
+        QCOMPARE(told.size(), 2);
+        QVERIFY(told[1].of<Page>().isReloaded && told[1].settings);
+        QVERIFY(!store->undo());
     }
 
     void liesInThePersonsDataFolder()

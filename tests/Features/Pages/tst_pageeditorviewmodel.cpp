@@ -224,7 +224,7 @@ void PageEditorViewModelTest::breaksPastedLines()
 {
     openBlocks({QVariantMap{{u"text"_s, u"ab"_s}, {u"type"_s, u"quote"_s}},
                 QVariantMap{{u"text"_s, u"x"_s}, {u"type"_s, u"code"_s}}});
-    QSignalSpy changes(&m_workspace.store(), &WorkspaceStore::pagesChanged);
+    QSignalSpy changes(&m_workspace.store(), &WorkspaceStore::changed);
     QCOMPARE(m_model->setText(id(0), u"a1\n2b"_s), u"a1"_s);
     QCOMPARE(changes.count(), 1);
     QCOMPARE(texts(), u"a1|2b|x"_s);

@@ -241,7 +241,7 @@ void SidebarViewModelTest::deletesPagesAndFolders()
     QVERIFY(shown().contains(QStringLiteral("Inside")));
 
     // Whoever hears of the deletion already finds the window elsewhere.
-    QObject::connect(&m_workspace->store(), &WorkspaceStore::pagesChanged, this,
+    QObject::connect(&m_workspace->store(), &WorkspaceStore::changed, this,
                      [this] { QCOMPARE(m_workspace->ui().selection(), Destination()); });
     m_sidebar->remove(rowOf(QStringLiteral("Inside")));
     QVERIFY(m_workspace->store().pages().isEmpty());

@@ -21,7 +21,8 @@ public:
     Desk(const QString &path, const Snapshot &workspace) : m_store(openStore(path, workspace))
     {
         m_task = TaskOperations::create(*m_store, QStringLiteral("A task"), TaskPriority::medium, {});
-        m_tasks.setStore(m_store.get());
+        m_session.emplace(m_store.get(), &m_ui);
+        m_tasks.setSession(&*m_session);
         m_sidebar.setUi(&m_ui);
         m_sidebar.setStore(m_store.get());
         QCoreApplication::processEvents();
@@ -54,6 +55,7 @@ private:
     SystemClock m_clock;
     UIState m_ui;
     std::unique_ptr<WorkspaceStore> m_store;
+    std::optional<OrvelSession> m_session;
     TasksViewModel m_tasks;
     SidebarViewModel m_sidebar;
     QUuid m_task;

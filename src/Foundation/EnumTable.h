@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Foundation/BadgeTone.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -17,6 +19,7 @@ struct EnumCase {
     /// Name of the product's own symbol set; the design system maps it to an icon.
     std::string_view symbol = {};
     std::string_view filledSymbol = {};
+    BadgeTone tone = BadgeTone::neutral;
 };
 
 /// The one table of an enumeration. Specialise it beside the enumeration with

@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-/// Works out how one list becomes another with the fewest removals, moves and insertions, and tracks which row
-/// stands where while the steps are carried out one by one.
+/// Works out how one list becomes another with the fewest removals, moves and insertions, and tracks which
+/// row stands where while the steps are carried out one by one.
 ///
 /// Steps are asked for in the order removals, moves, insertions; `apply` carries out the one asked for last.
 /// All of it together costs O(n log n).

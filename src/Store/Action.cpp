@@ -10,7 +10,7 @@ Action::Action(WorkspaceStore &store, const QString &name) : m_store(store)
 Action::Action(WorkspaceStore &store, const Typing &typing) : m_store(store)
 {
     m_isOutermost = store.begin([&](UndoStep &step) {
-        step.name = ActionText::tr("Typing");
+        step.name = typing.name.isEmpty() ? ActionText::tr("Typing") : typing.name;
         step.text = typing.text;
         step.typed = TypedText::between(typing.before, typing.after, typing.caret);
     });

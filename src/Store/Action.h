@@ -13,6 +13,8 @@ struct Typing {
     QStringView after;
     /// Where the caret stands now; -1 if that is not known.
     qsizetype caret = -1;
+    /// How the Edit menu calls it; "Typing" if empty.
+    QString name = {};
 };
 
 /// The names of actions and what is told of them, for translation: `ActionText::tr("Delete Task")`.

@@ -37,7 +37,14 @@ QUuid PageOperations::create(WorkspaceStore &store, PageKind kind)
 
 void PageOperations::rename(WorkspaceStore &store, const QUuid &pageID, const QString &title)
 {
-    changePage(store, pageID, ActionText::tr("Rename Page"), [&](Page &page) { page.title = title; });
+    const Page *const page = store.pages().first(pageID);
+    if (!page || page->title == title)
+        return;
+    const Action action(store, Typing{.text = {pageID, QStringLiteral("title")},
+                                      .before = page->title,
+                                      .after = title,
+                                      .name = ActionText::tr("Rename Page")});
+    changePage(store, pageID, {}, [&](Page &changed) { changed.title = title; });
 }
 
 void PageOperations::setIcon(WorkspaceStore &store, const QUuid &pageID, const QString &icon)

@@ -6,6 +6,7 @@
 namespace PageOperations
 {
 QUuid create(WorkspaceStore &store, PageKind kind);
+/// Takes what was typed over, key by key or at once.
 void rename(WorkspaceStore &store, const QUuid &pageID, const QString &title);
 void setIcon(WorkspaceStore &store, const QUuid &pageID, const QString &icon);
 /// Makes a note of a page and a page of a note.

@@ -140,13 +140,14 @@ void ProjectOperations::remove(WorkspaceStore &store, const QUuid &projectID)
         return;
     const Action action(store, ActionText::tr("Delete Project"));
     action.setMessage(ActionText::tr("Project deleted"));
-    for (const TaskItem *const task : TaskOperations::ofProject(store, projectID)) {
-        const QUuid taskID = task->id;
-        store.change<TaskItem>(taskID, [&](TaskItem &changed) {
-            changed.projectID.reset();
-            changed.updatedDate = store.now();
+    QList<QUuid> taskIDs;
+    for (const TaskItem *const task : TaskOperations::ofProject(store, projectID))
+        taskIDs.append(task->id);
+    for (const QUuid &taskID : std::as_const(taskIDs))
+        store.change<TaskItem>(taskID, [&](TaskItem &task) {
+            task.projectID.reset();
+            task.updatedDate = store.now();
         });
-    }
     QSet<QUuid> activityIDs;
     for (const Activity *const activity : activities(store, projectID))
         activityIDs.insert(activity->id);

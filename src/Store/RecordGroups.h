@@ -42,6 +42,18 @@ public:
         m_isMade = false;
     }
 
+    /// A record came (no `before`), went (no `after`) or was replaced.
+    void update(const Record *before, const Record *after)
+    {
+        if (!m_isMade)
+            return;
+        if (before)
+            take(before->id);
+        if (after)
+            put(*after);
+    }
+
+    /// The same for many at once, where what they were is not known.
     void follow(const RecordList<Record> &list, const RecordChanges &changes)
     {
         if (!m_isMade || changes.isEmpty())

@@ -34,7 +34,13 @@ QUuid TaskOperations::create(WorkspaceStore &store, const QString &title, TaskPr
 
 void TaskOperations::rename(WorkspaceStore &store, const QUuid &taskID, const QString &title)
 {
-    const Action action(store, ActionText::tr("Rename Task"));
+    const TaskItem *const task = store.tasks().first(taskID);
+    if (!task || task->title == title)
+        return;
+    const Action action(store, Typing{.text = {taskID, QStringLiteral("title")},
+                                      .before = task->title,
+                                      .after = title,
+                                      .name = ActionText::tr("Rename Task")});
     store.change<TaskItem>(taskID, [&](TaskItem &task) {
         task.title = title;
         task.updatedDate = store.now();

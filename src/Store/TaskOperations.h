@@ -7,6 +7,7 @@ namespace TaskOperations
 {
 QUuid create(WorkspaceStore &store, const QString &title, TaskPriority priority = TaskPriority::medium,
              std::optional<Timestamp> dueDate = std::nullopt);
+/// Takes what was typed over, key by key or at once.
 void rename(WorkspaceStore &store, const QUuid &taskID, const QString &title);
 void toggleDone(WorkspaceStore &store, const QUuid &taskID);
 void cycleStatus(WorkspaceStore &store, const QUuid &taskID);

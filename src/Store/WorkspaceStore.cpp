@@ -19,6 +19,14 @@ WorkspaceStore::Groups::Groups(const Clock &clock)
 {
 }
 
+void WorkspaceStore::Groups::follow(const WorkspaceStore &store, const ChangeSet &changes)
+{
+    tasksByProject.follow(store.list<TaskItem>(), changes.of<TaskItem>());
+    activitiesByProject.follow(store.list<Activity>(), changes.of<Activity>());
+    rowsByTable.follow(store.list<DBRow>(), changes.of<DBRow>());
+    eventsByDay.follow(store.list<CalendarEvent>(), changes.of<CalendarEvent>());
+}
+
 WorkspaceStore::WorkspaceStore(Options options, QObject *parent)
     : QObject(parent),
       m_options(std::move(options)),
@@ -108,10 +116,6 @@ void WorkspaceStore::end()
 
 void WorkspaceStore::announce(const ChangeSet &changes)
 {
-    m_groups.tasksByProject.follow(list<TaskItem>(), changes.of<TaskItem>());
-    m_groups.activitiesByProject.follow(list<Activity>(), changes.of<Activity>());
-    m_groups.rowsByTable.follow(list<DBRow>(), changes.of<DBRow>());
-    m_groups.eventsByDay.follow(list<CalendarEvent>(), changes.of<CalendarEvent>());
     scheduleSave();
     emit changed(changes);
 }
@@ -122,8 +126,10 @@ const UndoStep *WorkspaceStore::undo()
         return nullptr;
     ChangeSet changes;
     const UndoStep *const step = m_history.undo(m_lists, m_place(), changes);
-    if (step)
-        announce(changes);
+    if (!step)
+        return nullptr;
+    m_groups.follow(*this, changes);
+    announce(changes);
     return step;
 }
 
@@ -133,8 +139,10 @@ const UndoStep *WorkspaceStore::redo()
         return nullptr;
     ChangeSet changes;
     const UndoStep *const step = m_history.redo(m_lists, changes);
-    if (step)
-        announce(changes);
+    if (!step)
+        return nullptr;
+    m_groups.follow(*this, changes);
+    announce(changes);
     return step;
 }
 
@@ -160,6 +168,7 @@ void WorkspaceStore::resetEverything(bool keepOnboarding)
     m_history.clear();
     adopt(std::move(empty));
     bookLibrary().deleteAll();
+    m_groups.follow(*this, ChangeSet::reloaded());
     announce(ChangeSet::reloaded());
     saveNow();
 }

@@ -95,6 +95,23 @@ public:
     struct Groups {
         explicit Groups(const Clock &clock);
 
+        void update(const TaskItem *before, const TaskItem *after) { tasksByProject.update(before, after); }
+        void update(const Activity *before, const Activity *after)
+        {
+            activitiesByProject.update(before, after);
+        }
+        void update(const DBRow *before, const DBRow *after) { rowsByTable.update(before, after); }
+        void update(const CalendarEvent *before, const CalendarEvent *after)
+        {
+            eventsByDay.update(before, after);
+        }
+        template <typename Record>
+        void update(const Record *, const Record *)
+        {
+        }
+        /// After steps were undone or done again, or everything is new.
+        void follow(const WorkspaceStore &store, const ChangeSet &changes);
+
         RecordGroups<TaskItem, QUuid> tasksByProject;
         RecordGroups<Activity, QUuid> activitiesByProject;
         RecordGroups<DBRow, QUuid> rowsByTable;
@@ -148,6 +165,7 @@ void WorkspaceStore::add(const Record &record)
     list.append(record);
     touch<Record>(record.id).inserted(list.size() - 1);
     m_action.changes.of<Record>().insert(record.id);
+    m_groups.update(static_cast<const Record *>(nullptr), &record);
 }
 
 template <typename Record, typename Edit>
@@ -162,6 +180,7 @@ void WorkspaceStore::change(const QUuid &id, Edit edit)
             continue;
         touch<Record>(id).replaced(position, list.exchange(position, std::move(record)));
         m_action.changes.of<Record>().replace(id);
+        m_groups.update(&list.at(position), &list.at(position));
     }
 }
 
@@ -174,7 +193,9 @@ void WorkspaceStore::erase(const QSet<QUuid> &ids)
     if (positions.isEmpty())
         return;
     QList<Record> removed = list.take(positions);
-    for (const Record &record : std::as_const(removed))
+    for (const Record &record : std::as_const(removed)) {
         m_action.changes.of<Record>().remove(record.id);
+        m_groups.update(&record, static_cast<const Record *>(nullptr));
+    }
     touch<Record>(*ids.begin()).removed(positions, std::move(removed));
 }

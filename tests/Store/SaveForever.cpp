@@ -13,20 +13,19 @@ constexpr int records = 40;
 void makeGeneration(WorkspaceStore &store, qint64 generation)
 {
     const QString name = QString::number(generation);
-    AppSettings settings = store.settings();
-    settings.userName = name;
-    store.setSettings(settings);
     const QString text = name.leftJustified(name.size() + generation * 977 % 4001, u'.');
-    for (TaskItem task : store.tasks().all()) {
-        task.title = name;
-        task.notes = text;
-        store.replace(task);
-    }
-    for (Page page : store.pages().all()) {
-        page.title = name;
-        page.content.first().text = text;
-        store.replace(page);
-    }
+    const Action action(store, QString());
+    store.changeSettings([&](AppSettings &settings) { settings.userName = name; });
+    for (const TaskItem &task : QList(store.tasks().all()))
+        store.change<TaskItem>(task.id, [&](TaskItem &changed) {
+            changed.title = name;
+            changed.notes = text;
+        });
+    for (const Page &page : QList(store.pages().all()))
+        store.change<Page>(page.id, [&](Page &changed) {
+            changed.title = name;
+            changed.content.first().text = text;
+        });
 }
 } // namespace
 
@@ -38,8 +37,8 @@ int main(int argc, char *argv[])
     const ManualClock clock;
     WorkspaceStore store({.filePath = application.arguments().at(1), .clock = &clock});
     for (qsizetype i = store.tasks().size(); i < records; ++i) {
-        store.append(TaskItem{.id = QUuid::createUuid()});
-        store.append(Page{.id = QUuid::createUuid(), .content = {Block{.id = QUuid::createUuid()}}});
+        store.add(TaskItem{.id = QUuid::createUuid()});
+        store.add(Page{.id = QUuid::createUuid(), .content = {Block{.id = QUuid::createUuid()}}});
     }
     for (qint64 generation = store.settings().userName.toLongLong() + 1;; ++generation) {
         makeGeneration(store, generation);

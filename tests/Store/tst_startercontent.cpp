@@ -79,7 +79,7 @@ private slots:
         StarterContent::seed(*whole, {OrvelModule::habits}, true);
         QCOMPARE(counts(whole->snapshot()), (QList<qsizetype>{1, 3, 0, 0, 0, 0, 0, 0, 3, 0, 0, 0}));
         QCOMPARE(whole->pages().all().first().title, u"Welcome to Orvel"_s);
-        QCOMPARE(whole->habits().all().first().completions,
+        QCOMPARE(whole->list<Habit>().all().first().completions,
                  (std::set<QString>{u"2026-03-12"_s, u"2026-03-11"_s, u"2026-03-10"_s, u"2026-03-08"_s,
                                     u"2026-03-07"_s}));
     }

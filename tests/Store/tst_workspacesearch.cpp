@@ -1,5 +1,7 @@
 #include "Harness/ManualClock.h"
+#include "Store/DatabaseOperations.h"
 #include "Store/PreparedSearch.h"
+#include "Store/TaskOperations.h"
 
 #include <QtTest>
 
@@ -215,6 +217,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(WorkspaceSearchTest)
-#include "Store/DatabaseOperations.h"
-#include "Store/TaskOperations.h"
 #include "tst_workspacesearch.moc"

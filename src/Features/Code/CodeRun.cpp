@@ -1,6 +1,6 @@
 #include "Features/Code/CodeRun.h"
 
-#include "DesignSystem/BadgeTone.h"
+#include "Foundation/BadgeTone.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

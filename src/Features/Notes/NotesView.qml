@@ -12,8 +12,7 @@ FocusScope {
     NotesViewModel {
         id: notes
         active: root.visible
-        store: Orvel.store
-        ui: Orvel.ui
+        session: Orvel
     }
 
     // As many lines as a full card has, in the font at hand: its title, four of its text, and its date.

@@ -9,34 +9,17 @@ constexpr std::chrono::milliseconds prepareInterval(20);
 constexpr std::chrono::milliseconds prepareBudget(4);
 } // namespace
 
-NotesViewModel::NotesViewModel(QObject *parent) : QObject(parent), m_refresh([this] { refresh(); })
+NotesViewModel::NotesViewModel(QObject *parent) : ViewModel(parent)
 {
+    follow<Page>();
+    followDays();
     m_prepareTimer.setInterval(prepareInterval);
     connect(&m_prepareTimer, &QTimer::timeout, this, &NotesViewModel::prepareSearch);
 }
 
-void NotesViewModel::setStore(WorkspaceStore *store)
+void NotesViewModel::start()
 {
-    if (m_store == store)
-        return;
-    m_store = store;
-    m_search.emplace(*store);
-    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
-        if (changes.touches<Page>())
-            m_refresh.request();
-    });
-    connect(&store->clock(), &Clock::dayChanged, &m_refresh, &CoalescedCall::request);
-    emit storeChanged();
-    refresh();
-}
-
-void NotesViewModel::setActive(bool active)
-{
-    if (m_active == active)
-        return;
-    m_active = active;
-    emit activeChanged();
-    refresh();
+    m_search.emplace(store());
 }
 
 void NotesViewModel::setQuery(const QString &query)
@@ -45,40 +28,38 @@ void NotesViewModel::setQuery(const QString &query)
         return;
     m_query = query;
     emit queryChanged();
-    m_refresh.request();
+    requestRefresh();
 }
 
 QString NotesViewModel::emptyTitle() const
 {
-    return m_isSearch ? QStringLiteral("No matches") : QStringLiteral("No notes yet");
+    return m_isSearch ? tr("No matches") : tr("No notes yet");
 }
 
 QString NotesViewModel::emptyAction() const
 {
-    return m_isSearch ? QString() : QStringLiteral("New note");
+    return m_isSearch ? QString() : tr("New note");
 }
 
 void NotesViewModel::newNote()
 {
-    PageActions::create(*m_store, *m_ui, PageKind::note);
+    PageActions::create(store(), ui(), PageKind::note);
 }
 
 void NotesViewModel::openNote(const QUuid &noteID)
 {
-    m_ui->selectPage(noteID);
+    ui().selectPage(noteID);
 }
 
 void NotesViewModel::deleteNote(const QUuid &noteID)
 {
-    PageActions::erase(*m_store, *m_ui, noteID, Destination::Kind::notes);
+    PageActions::erase(store(), ui(), noteID, Destination::Kind::notes);
 }
 
-void NotesViewModel::refresh()
+void NotesViewModel::refresh(const ChangeSet &)
 {
-    if (!m_active || !m_store)
-        return;
-    const QDate today = m_store->clock().today();
-    const QTimeZone zone = m_store->clock().timeZone();
+    const QDate today = clock().today();
+    const QTimeZone zone = clock().timeZone();
     QList<NoteRow> rows;
     for (const Page *note : m_search->filtered(m_query))
         rows.append(NoteRow::of(*note, today, zone));
@@ -88,8 +69,17 @@ void NotesViewModel::refresh()
     m_prepareTimer.start();
 }
 
+bool NotesViewModel::reveal(const UndoPlace &place)
+{
+    const auto row = std::ranges::find(m_rows.rows(), place.record, &NoteRow::id);
+    if (row == m_rows.rows().end())
+        return false;
+    emit revealed(int(row - m_rows.rows().begin()));
+    return true;
+}
+
 void NotesViewModel::prepareSearch()
 {
-    if (!m_active || m_search->prepare(prepareBudget))
+    if (!isActive() || m_search->prepare(prepareBudget))
         m_prepareTimer.stop();
 }

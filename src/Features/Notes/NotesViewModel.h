@@ -2,23 +2,16 @@
 
 #include "Features/Notes/NoteRow.h"
 #include "Features/Notes/NotesSearch.h"
-#include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
-#include "Session/SessionTypes.h"
+#include "Session/ViewModel.h"
 
 #include <QTimer>
-#include <QtQml/qqmlregistration.h>
 
 /// What the screen of all notes shows and does.
-class NotesViewModel : public QObject
+class NotesViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
-    /// Whether the screen is shown; the cards stand still while it is not.
-    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
-
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
     /// `NoteRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
@@ -29,11 +22,6 @@ class NotesViewModel : public QObject
 
 public:
     explicit NotesViewModel(QObject *parent = nullptr);
-
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
-    bool isActive() const { return m_active; }
-    void setActive(bool active);
 
     const QString &query() const { return m_query; }
     void setQuery(const QString &query);
@@ -49,24 +37,24 @@ public:
     Q_INVOKABLE void deleteNote(const QUuid &noteID);
 
 signals:
-    void storeChanged();
-    void activeChanged();
     void queryChanged();
     /// The cards were found anew.
     void shownChanged();
+    /// The card with this index is where a step was undone.
+    void revealed(int card);
+
+protected:
+    void start() override;
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
 
 private:
-    void refresh();
     void prepareSearch();
 
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
-    bool m_active = true;
     QString m_query;
     /// Whether the cards are those of a search.
     bool m_isSearch = false;
     std::optional<NotesSearch> m_search;
     KeyedListModel<NoteRow> m_rows;
-    CoalescedCall m_refresh;
     QTimer m_prepareTimer;
 };

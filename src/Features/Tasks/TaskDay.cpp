@@ -13,5 +13,8 @@ TaskDay::TaskDay(const Clock &clock)
 
 QString TaskDay::label(Timestamp due) const
 {
-    return isToday(due) ? QStringLiteral("Today") : OVDate::medium(OVDate::day(due, m_zone));
+    QString &label = m_labels[due.time_since_epoch().count()];
+    if (label.isEmpty())
+        label = isToday(due) ? tr("Today") : OVDate::medium(OVDate::day(due, m_zone));
+    return label;
 }

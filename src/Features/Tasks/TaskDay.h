@@ -2,10 +2,15 @@
 
 #include "Foundation/Clock.h"
 
+#include <QCoreApplication>
+#include <QHash>
+
 /// The present as due dates are judged by it: its moments are worked out once for a whole list, since asking
 /// a time zone costs far more than comparing.
 class TaskDay
 {
+    Q_DECLARE_TR_FUNCTIONS(TaskDay)
+
 public:
     explicit TaskDay(const Clock &clock);
 
@@ -15,6 +20,8 @@ public:
     bool isUpcoming(Timestamp due) const { return due > m_now && due <= m_inAWeek; }
     /// "Today", or the day without its year.
     QString label(Timestamp due) const;
+    /// The moment from which on `isUpcoming` is judged, which moves on within the day.
+    void setNow(Timestamp now) { m_now = now; }
 
 private:
     QTimeZone m_zone;
@@ -22,4 +29,6 @@ private:
     Timestamp m_today;
     Timestamp m_tomorrow;
     Timestamp m_inAWeek;
+    /// Working out a label costs far more than finding it again, and many tasks are due together.
+    mutable QHash<qint64, QString> m_labels;
 };

@@ -1,7 +1,7 @@
 #include "Features/Tasks/TaskRow.h"
 
-#include "DesignSystem/BadgeTone.h"
 #include "Features/Tasks/TaskFilters.h"
+#include "Foundation/BadgeTone.h"
 
 TaskRow TaskRow::ofTask(const TaskItem &task, const TaskDay &day)
 {

@@ -13,7 +13,8 @@ FocusScope {
     TasksViewModel {
         id: tasks
         active: root.visible
-        store: Orvel.store
+        session: Orvel
+        onRevealed: row => list.focusRow(row, Qt.TabFocusReason)
     }
 
     ScreenList {

@@ -6,36 +6,17 @@
 
 #include <utility>
 
-TasksViewModel::TasksViewModel(QObject *parent) : QObject(parent), m_refresh([this] { refresh(); }) {}
-
-void TasksViewModel::setStore(WorkspaceStore *store)
+TasksViewModel::TasksViewModel(QObject *parent) : ViewModel(parent)
 {
-    if (m_store == store)
-        return;
-    if (m_store) {
-        m_store->disconnect(this);
-        m_store->clock().disconnect(this);
-    }
-    m_store = store;
-    if (m_store) {
-        connect(m_store, &WorkspaceStore::changed, this, &TasksViewModel::follow);
-        connect(&m_store->clock(), &Clock::dayChanged, this, &TasksViewModel::requestLayout);
-        connect(&m_store->clock(), &Clock::ticked, this, &TasksViewModel::timePassed);
-        m_due = toDateTime(m_store->clock().now(), m_store->clock().timeZone());
-        emit dueChanged();
-    }
-    emit storeChanged();
-    m_layoutNeeded = true;
-    refresh();
+    follow<TaskItem>();
+    followDays();
 }
 
-void TasksViewModel::setActive(bool active)
+void TasksViewModel::start()
 {
-    if (m_active == active)
-        return;
-    m_active = active;
-    emit activeChanged();
-    refresh();
+    connect(&clock(), &Clock::ticked, this, &TasksViewModel::timePassed);
+    m_due = toDateTime(clock().now(), clock().timeZone());
+    emit dueChanged();
 }
 
 void TasksViewModel::setTitle(const QString &title)
@@ -53,15 +34,17 @@ bool TasksViewModel::canAdd() const
 
 void TasksViewModel::addTask()
 {
-    if (!m_store || !canAdd())
+    if (!canAdd())
         return;
     const auto due = m_dueEnabled ? std::optional(toTimestamp(m_due)) : std::nullopt;
-    TaskOperations::create(*m_store, LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
+    TaskOperations::create(store(), LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
     setTitle({});
     if (std::exchange(m_dueEnabled, false))
         emit dueEnabledChanged();
-    if (std::exchange(m_priority, int(TaskPriority::medium)) != m_priority)
+    if (m_priority != int(TaskPriority::medium)) {
+        m_priority = int(TaskPriority::medium);
         emit priorityChanged();
+    }
 }
 
 void TasksViewModel::setFilter(int filter)
@@ -70,7 +53,7 @@ void TasksViewModel::setFilter(int filter)
         return;
     m_filter = TaskFilter(filter);
     emit filterChanged();
-    requestLayout();
+    requestWholeRefresh();
 }
 
 void TasksViewModel::setShowDone(bool showDone)
@@ -79,7 +62,7 @@ void TasksViewModel::setShowDone(bool showDone)
         return;
     m_showDone = showDone;
     emit showDoneChanged();
-    requestLayout();
+    requestWholeRefresh();
 }
 
 QString TasksViewModel::countText() const
@@ -107,81 +90,64 @@ QStringList TasksViewModel::priorityTexts() const
 
 void TasksViewModel::renameTask(const QUuid &taskID, const QString &title)
 {
-    TaskOperations::rename(*m_store, taskID, LineText::singleLine(title));
+    TaskOperations::rename(store(), taskID, LineText::singleLine(title));
 }
 
 void TasksViewModel::cycleTaskStatus(const QUuid &taskID)
 {
-    TaskOperations::cycleStatus(*m_store, taskID);
+    TaskOperations::cycleStatus(store(), taskID);
 }
 
 void TasksViewModel::setTaskStatus(const QUuid &taskID, int status)
 {
     if (EnumChoices::isCase<TaskStatus>(status))
-        TaskOperations::setStatus(*m_store, taskID, TaskStatus(status));
+        TaskOperations::setStatus(store(), taskID, TaskStatus(status));
 }
 
 void TasksViewModel::cycleTaskPriority(const QUuid &taskID)
 {
-    TaskOperations::cyclePriority(*m_store, taskID);
+    TaskOperations::cyclePriority(store(), taskID);
 }
 
 void TasksViewModel::setTaskPriority(const QUuid &taskID, int priority)
 {
     if (EnumChoices::isCase<TaskPriority>(priority))
-        TaskOperations::setPriority(*m_store, taskID, TaskPriority(priority));
+        TaskOperations::setPriority(store(), taskID, TaskPriority(priority));
 }
 
 void TasksViewModel::setTaskDue(const QUuid &taskID, const QDateTime &due)
 {
-    TaskOperations::setDue(*m_store, taskID, due.isValid() ? std::optional(toTimestamp(due)) : std::nullopt);
+    TaskOperations::setDue(store(), taskID, due.isValid() ? std::optional(toTimestamp(due)) : std::nullopt);
 }
 
 void TasksViewModel::deleteTask(const QUuid &taskID)
 {
-    TaskOperations::remove(*m_store, taskID);
-}
-
-void TasksViewModel::follow(const ChangeSet &changes)
-{
-    const RecordChanges &tasks = changes.of<TaskItem>();
-    if (tasks.isEmpty())
-        return;
-    m_changedTasks += tasks.replaced;
-    m_layoutNeeded |= !tasks.isReplacedOnly();
-    m_refresh.request();
+    TaskOperations::remove(store(), taskID);
 }
 
 void TasksViewModel::timePassed()
 {
     // A task leaves `upcoming` when its moment comes; nothing else here depends on less than a day.
     if (m_filter == TaskFilter::upcoming)
-        requestLayout();
+        requestWholeRefresh();
 }
 
-void TasksViewModel::requestLayout()
+void TasksViewModel::refresh(const ChangeSet &changes)
 {
-    m_layoutNeeded = true;
-    m_refresh.request();
-}
-
-void TasksViewModel::refresh()
-{
-    if (!m_active || !m_store)
-        return;
-    if (m_layoutNeeded || !updateRows())
+    const RecordChanges &tasks = changes.of<TaskItem>();
+    if (!m_day || tasks.isReloaded)
+        m_day.emplace(clock());
+    m_day->setNow(clock().now());
+    if (!tasks.isReplacedOnly() || !updateRows(tasks.replaced))
         layOut();
-    m_layoutNeeded = false;
-    m_changedTasks.clear();
 }
 
-bool TasksViewModel::updateRows()
+bool TasksViewModel::updateRows(const QSet<QUuid> &changed)
 {
-    const TaskDay day(m_store->clock());
-    for (const QUuid &id : std::as_const(m_changedTasks)) {
-        const TaskItem *task = m_store->tasks().first(id);
+    for (const QUuid &id : changed) {
+        const TaskItem *task = store().tasks().first(id);
         const TaskRow *row = m_rows.find(id);
-        const auto next = task && row ? TaskRows::updated(*row, *task, m_filter, day) : std::nullopt;
+        const auto next = task && row ? TaskRows::updated(*row, *task, m_filter, *m_day) : std::nullopt;
         if (!next)
             return false;
         m_rows.updateRow(*next);
@@ -191,8 +157,19 @@ bool TasksViewModel::updateRows()
 
 void TasksViewModel::layOut()
 {
-    auto list = TaskRows::build(m_store->tasks().all(), m_filter, m_showDone, TaskDay(m_store->clock()));
+    auto list = TaskRows::build(store().tasks().all(), m_filter, m_showDone, *m_day);
     m_rows.setRows(std::move(list.rows));
-    if (std::exchange(m_filtered, list.filtered) != m_filtered)
-        emit filteredChanged();
+    if (m_filtered == list.filtered)
+        return;
+    m_filtered = list.filtered;
+    emit filteredChanged();
+}
+
+bool TasksViewModel::reveal(const UndoPlace &place)
+{
+    const auto row = std::ranges::find(m_rows.rows(), place.record, &TaskRow::id);
+    if (row == m_rows.rows().end())
+        return false;
+    emit revealed(int(row - m_rows.rows().begin()));
+    return true;
 }

@@ -1,22 +1,15 @@
 #pragma once
 
 #include "Features/Tasks/TaskRows.h"
-#include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
-#include "Store/WorkspaceStore.h"
-
-#include <QtQml/qqmlregistration.h>
+#include "Session/ViewModel.h"
 
 /// What the Tasks screen shows and does. Positions stand for the cases of the tables of filter, status and
 /// priority, in their order.
-class TasksViewModel : public QObject
+class TasksViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    /// Whether the screen is shown; the rows stand still while it is not.
-    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
-
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool dueEnabled MEMBER m_dueEnabled NOTIFY dueEnabledChanged FINAL)
     Q_PROPERTY(QDateTime due MEMBER m_due NOTIFY dueChanged FINAL)
@@ -38,11 +31,6 @@ class TasksViewModel : public QObject
 
 public:
     explicit TasksViewModel(QObject *parent = nullptr);
-
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
-    bool isActive() const { return m_active; }
-    void setActive(bool active);
 
     const QString &title() const { return m_title; }
     void setTitle(const QString &title);
@@ -73,8 +61,6 @@ public:
     Q_INVOKABLE void deleteTask(const QUuid &taskID);
 
 signals:
-    void storeChanged();
-    void activeChanged();
     void titleChanged();
     void dueEnabledChanged();
     void dueChanged();
@@ -83,18 +69,19 @@ signals:
     void showDoneChanged();
     void filteredChanged();
 
-private:
-    void follow(const ChangeSet &changes);
-    void timePassed();
-    /// Has every row laid out anew at the end of the turn.
-    void requestLayout();
-    void refresh();
-    /// Shows the changed tasks in their rows; false if a row has to come, go or move for that.
-    bool updateRows();
-    void layOut();
+    /// The row with this index is where a step was undone.
+    void revealed(int row);
 
-    WorkspaceStore *m_store = nullptr;
-    bool m_active = true;
+protected:
+    void start() override;
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
+
+private:
+    void timePassed();
+    /// Shows the changed tasks in their rows; false if a row has to come, go or move for that.
+    bool updateRows(const QSet<QUuid> &changed);
+    void layOut();
 
     QString m_title;
     bool m_dueEnabled = false;
@@ -105,8 +92,5 @@ private:
     bool m_showDone = false;
     KeyedListModel<TaskRow> m_rows;
     qsizetype m_filtered = 0;
-
-    CoalescedCall m_refresh;
-    bool m_layoutNeeded = true;
-    QSet<QUuid> m_changedTasks;
+    std::optional<TaskDay> m_day;
 };

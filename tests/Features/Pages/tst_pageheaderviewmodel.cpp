@@ -1,3 +1,4 @@
+#include "Store/PageOperations.h"
 #include "Features/Pages/PageHeaderViewModel.h"
 #include "Features/Pages/PageMenuViewModel.h"
 #include "Harness/TestWorkspace.h"
@@ -184,5 +185,4 @@ void PageHeaderViewModelTest::offersFolders()
 }
 
 QTEST_MAIN(PageHeaderViewModelTest)
-#include "Store/PageOperations.h"
 #include "tst_pageheaderviewmodel.moc"

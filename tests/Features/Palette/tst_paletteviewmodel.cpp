@@ -1,3 +1,4 @@
+#include "Store/PageOperations.h"
 #include "Features/Palette/PaletteViewModel.h"
 #include "Harness/TestWorkspace.h"
 
@@ -181,5 +182,4 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(PaletteViewModelTest)
-#include "Store/PageOperations.h"
 #include "tst_paletteviewmodel.moc"

@@ -1,3 +1,5 @@
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 #include "Features/Pages/PageMenuViewModel.h"
 #include "Features/Shell/SidebarViewModel.h"
 #include "Harness/TestWorkspace.h"
@@ -291,6 +293,4 @@ void SidebarViewModelTest::followsNothingWhileHidden()
 }
 
 QTEST_MAIN(SidebarViewModelTest)
-#include "Store/PageOperations.h"
-#include "Store/TaskOperations.h"
 #include "tst_sidebarviewmodel.moc"

@@ -67,6 +67,7 @@ private:
     }
 
     TestWorkspace m_workspace;
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
     std::unique_ptr<TasksViewModel> m_model;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };
@@ -75,7 +76,7 @@ void TasksViewModelTest::init()
 {
     m_workspace.reset();
     m_model = std::make_unique<TasksViewModel>();
-    m_model->setStore(&m_workspace.store());
+    m_model->setSession(&m_session);
     m_tester = std::make_unique<QAbstractItemModelTester>(m_model->rows());
 }
 

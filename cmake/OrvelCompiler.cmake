@@ -2,13 +2,20 @@
 set(CMAKE_CXX_STANDARD 23)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(QT_QML_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml")
 
 find_program(ORVEL_CCACHE ccache)
 if(ORVEL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_C_COMPILER_LAUNCHER "${ORVEL_CCACHE}")
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVEL_CCACHE}")
+    # Without these ccache never takes a source that starts from a precompiled header.
+    set(launcher "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        "${ORVEL_CCACHE}")
+    set(CMAKE_C_COMPILER_LAUNCHER "${launcher}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${launcher}")
+endif()
+
+find_program(ORVEL_MOLD mold)
+if(ORVEL_MOLD)
+    add_link_options(-fuse-ld=mold)
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual)

@@ -22,6 +22,15 @@ function(_orvel_check_tier target tier builds_on)
     endforeach()
 endfunction()
 
+# Headers of the store serve only targets of tiers that are built on it.
+function(_orvel_precompile_tier tier)
+    if(tier MATCHES "^(Store|Session|Feature|App)$")
+        orvel_precompile(store ${ARGN})
+    else()
+        orvel_precompile(toolkit ${ARGN})
+    endif()
+endfunction()
+
 # orvel_add_library(NAME TIER SOURCES... LINKS... [BUILDS_ON...]): a library without QML.
 function(orvel_add_library name)
     cmake_parse_arguments(ARG "" "TIER" "SOURCES;LINKS;BUILDS_ON" ${ARGN})
@@ -31,6 +40,20 @@ function(orvel_add_library name)
     # QML modules above may make the objects of this library known to QML.
     qt_extract_metatypes(${name})
     _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
+    _orvel_precompile_tier("${ARG_TIER}" ${name})
+endfunction()
+
+# Compiles the sources that were made of QML files twenty at a time: each is small beside the headers that it reads.
+function(_orvel_join_compiled_qml target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    set(count 0)
+    foreach(source IN LISTS sources)
+        math(EXPR group "${count} / 20")
+        math(EXPR count "${count} + 1")
+        set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "qml${group}")
+    endforeach()
 endfunction()
 
 # orvel_add_qml_module(NAME TIER URI SOURCES... QML... [SINGLETONS...] LINKS... [IMPORTS...] [BUILDS_ON...]):
@@ -64,8 +87,10 @@ function(orvel_add_qml_module name)
         IMPORTS ${ARG_IMPORTS}
         DEPENDENCIES ${dependencies}
         ${cachegen})
+    _orvel_join_compiled_qml(${name})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_LINKS} ${ARG_BUILDS_ON})
     target_link_libraries(${name} INTERFACE ${name}plugin)
     _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
+    _orvel_precompile_tier("${ARG_TIER}" ${name} ${name}plugin)
 endfunction()

@@ -1,7 +1,7 @@
 # Installs with apt what the scripts need and the machine lacks. Sourced after common.sh.
 
 packages_build=(
-    ca-certificates ccache cmake g++ git ninja-build
+    ca-certificates ccache cmake g++ git mold ninja-build
     libarchive-dev libgl-dev libsimdjson-dev libssl-dev zlib1g-dev
     qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
     qml6-module-qt-labs-qmlmodels qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript

@@ -60,9 +60,9 @@ void arrangeFiles(const Child &child)
     sigset_t childSignal;
     sigemptyset(&childSignal);
     sigaddset(&childSignal, SIGCHLD);
-    const int signals = signalfd(-1, &childSignal, SFD_NONBLOCK | SFD_CLOEXEC);
-    if (signals != childSignals)
-        dup3(signals, childSignals, O_CLOEXEC);
+    const int descriptor = signalfd(-1, &childSignal, SFD_NONBLOCK | SFD_CLOEXEC);
+    if (descriptor != childSignals)
+        dup3(descriptor, childSignals, O_CLOEXEC);
     closeFrom(firstUnused);
 }
 

@@ -104,9 +104,9 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     Snapshot workspace = WorkspaceGenerator::ofFileSize(10'000'000);
     workspace.list<CodeDocument>().prepend({.id = QUuid::createUuid(),
-                                     .title = QStringLiteral("Long"),
-                                     .language = CodeLanguage::swift,
-                                     .source = SourceText::ofSize(100'000)});
+                                            .title = QStringLiteral("Long"),
+                                            .language = CodeLanguage::swift,
+                                            .source = SourceText::ofSize(100'000)});
     const CodeDocument document = workspace.list<CodeDocument>().first();
     Desk desk(workspace);
     desk.ui.setCodeDocumentID(document.id);

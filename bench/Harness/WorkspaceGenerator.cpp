@@ -36,7 +36,8 @@ public:
             to.list<DatabaseTable>().append(table());
         for (int i = 0; i < 8; ++i)
             to.list<DBRow>().append(row(to.list<DatabaseTable>().first()));
-        to.list<CalendarEvent>().append({id(), text(4), moment(), below(1440), EventKind::event, text(8), moment()});
+        to.list<CalendarEvent>().append(
+            {id(), text(4), moment(), below(1440), EventKind::event, text(8), moment()});
         to.list<Activity>().append({id(), id(), text(6), QStringLiteral("note"), moment()});
         to.list<CodeDocument>().append(
             {id(), text(1), CodeLanguage::python, code(), false, order(), moment(), moment()});
@@ -46,16 +47,16 @@ public:
             to.list<Folder>().append({id(), text(2), QStringLiteral("📁"), order(), moment(), moment()});
         if (below(8) == 0)
             to.list<Project>().append({id(),
-                                text(3),
-                                QStringLiteral("🎯"),
-                                text(20),
-                                ProjectStatus::inProgress,
-                                {},
-                                false,
-                                {},
-                                {{id(), text(3), false}, {id(), text(3), true}},
-                                moment(),
-                                moment()});
+                                       text(3),
+                                       QStringLiteral("🎯"),
+                                       text(20),
+                                       ProjectStatus::inProgress,
+                                       {},
+                                       false,
+                                       {},
+                                       {{id(), text(3), false}, {id(), text(3), true}},
+                                       moment(),
+                                       moment()});
         if (below(20) == 0)
             to.list<Habit>().append(habit());
     }

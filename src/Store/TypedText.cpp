@@ -30,34 +30,49 @@ TypedText TypedText::between(QStringView before, QStringView after, qsizetype ca
         back = commonBack(common - front);
     TypedText typed;
     typed.m_position = front;
-    typed.m_removed = before.mid(front, before.size() - front - back).toString();
-    typed.m_inserted = after.mid(front, after.size() - front - back).toString();
+    typed.m_removed = Piece::of(before.mid(front, before.size() - front - back));
+    typed.m_inserted = Piece::of(after.mid(front, after.size() - front - back));
     return typed;
+}
+
+TypedText::Piece TypedText::Piece::of(QStringView text)
+{
+    if (text.isEmpty())
+        return {};
+    return {text.size(), text.front(), text.back(), text.contains(u'\n')};
+}
+
+void TypedText::Piece::append(const Piece &next)
+{
+    length += next.length;
+    last = next.last;
 }
 
 bool TypedText::continueWith(const TypedText &next)
 {
-    const bool isBreak = m_inserted.contains(u'\n') || next.m_inserted.contains(u'\n');
-    if (isBreak)
+    if (m_inserted.hasLineBreak || next.m_inserted.hasLineBreak)
         return false;
-    if (m_removed.isEmpty() && next.m_removed.isEmpty() && !m_inserted.isEmpty() &&
-        !next.m_inserted.isEmpty()) {
-        if (next.m_position != endAfter() || beginsWord(m_inserted.back(), next.m_inserted.front()))
+    const bool inserts = m_removed.length == 0 && m_inserted.length > 0;
+    const bool nextInserts = next.m_removed.length == 0 && next.m_inserted.length > 0;
+    if (inserts && nextInserts) {
+        if (next.m_position != endAfter() || beginsWord(m_inserted.last, next.m_inserted.first))
             return false;
-        m_inserted += next.m_inserted;
+        m_inserted.append(next.m_inserted);
         return true;
     }
-    if (!m_inserted.isEmpty() || !next.m_inserted.isEmpty() || m_removed.isEmpty() ||
-        next.m_removed.isEmpty())
+    if (m_inserted.length > 0 || next.m_inserted.length > 0 || m_removed.length == 0 ||
+        next.m_removed.length == 0)
         return false;
-    if (next.m_position + next.m_removed.size() == m_position &&
-        !beginsWord(m_removed.front(), next.m_removed.back())) {
-        m_removed.prepend(next.m_removed);
+    if (next.m_position + next.m_removed.length == m_position &&
+        !beginsWord(m_removed.first, next.m_removed.last)) {
+        Piece removed = next.m_removed;
+        removed.append(m_removed);
+        m_removed = removed;
         m_position = next.m_position;
         return true;
     }
-    if (next.m_position == m_position && !beginsWord(m_removed.back(), next.m_removed.front())) {
-        m_removed += next.m_removed;
+    if (next.m_position == m_position && !beginsWord(m_removed.last, next.m_removed.first)) {
+        m_removed.append(next.m_removed);
         return true;
     }
     return false;

@@ -15,13 +15,23 @@ public:
     /// nothing changes and it tells false.
     bool continueWith(const TypedText &next);
 
-    qint64 bytes() const { return (m_removed.size() + m_inserted.size()) * qint64(sizeof(QChar)); }
     /// Where the caret stood before and after.
-    qsizetype startBefore() const { return m_position + m_removed.size(); }
-    qsizetype endAfter() const { return m_position + m_inserted.size(); }
+    qsizetype startBefore() const { return m_position + m_removed.length; }
+    qsizetype endAfter() const { return m_position + m_inserted.length; }
 
 private:
+    /// What has to be known of a piece of text to tell whether typing goes on in it.
+    struct Piece {
+        qsizetype length = 0;
+        QChar first;
+        QChar last;
+        bool hasLineBreak = false;
+
+        static Piece of(QStringView text);
+        void append(const Piece &next);
+    };
+
     qsizetype m_position = 0;
-    QString m_removed;
-    QString m_inserted;
+    Piece m_removed;
+    Piece m_inserted;
 };

@@ -69,7 +69,7 @@ void UndoHistory::toggle(UndoStep &step, Lists &lists, bool undo, ChangeSet &cha
 
 void UndoHistory::measure(UndoStep &step, const Lists &lists)
 {
-    qint64 bytes = qint64(sizeof step) + (step.typed ? step.typed->bytes() : 0);
+    qint64 bytes = qint64(sizeof step);
     RecordKinds::forEach([&]<typename Record>() {
         bytes += std::get<RecordEdits<Record>>(step.edits).bytes(std::get<RecordList<Record>>(lists));
     });

@@ -75,7 +75,8 @@ public:
     /// Whether what was done last was not the user's own doing.
     bool lastIsBackground() const { return m_done > 0 && m_steps[m_done - 1].isBackground; }
     qint64 bytes() const { return m_bytes; }
-    std::size_t size() const { return m_steps.size(); }
+    /// How many steps are done, and not undone.
+    std::size_t size() const { return m_done; }
 
 private:
     bool merge(UndoStep &step, const Lists &lists);

@@ -259,21 +259,15 @@ private slots:
         for (int i = 0; i < 1'500; ++i) {
             const auto choice = random() % 10;
             if (choice < 6) {
-                const std::size_t steps = store->history().size() - std::size_t(undone.size());
+                const std::size_t steps = store->history().size();
                 walk.act();
-                const QByteArray now = encoded(*store);
-                if (now == done.last())
-                    continue;
-                undone.clear();
+                if (!store->history().redoStep())
+                    undone.clear();
                 // Typing that goes on and what happens in the background become part of the step before.
-                const UndoStep *const last = store->history().undoStep();
-                const bool isMerged = store->history().size() == steps;
-                const bool isBackground = !isMerged && store->history().size() > 0 && choice < 6 && last &&
-                                          store->history().lastIsBackground();
-                if (isMerged || isBackground)
-                    done.last() = now;
+                if (store->history().size() > steps && !store->history().lastIsBackground())
+                    done.append(encoded(*store));
                 else
-                    done.append(now);
+                    done.last() = encoded(*store);
             } else if (choice < 9 && done.size() > 1) {
                 QVERIFY(store->undo());
                 undone.append(done.takeLast());

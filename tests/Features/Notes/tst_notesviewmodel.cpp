@@ -1,6 +1,6 @@
-#include "Store/PageOperations.h"
 #include "Features/Notes/NotesViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Store/PageOperations.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

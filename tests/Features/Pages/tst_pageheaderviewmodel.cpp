@@ -1,7 +1,7 @@
-#include "Store/PageOperations.h"
 #include "Features/Pages/PageHeaderViewModel.h"
 #include "Features/Pages/PageMenuViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Store/PageOperations.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,6 +1,6 @@
-#include "Store/PageOperations.h"
 #include "Features/Palette/PaletteViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Store/PageOperations.h"
 
 #include <QAbstractItemModelTester>
 #include <QtTest>

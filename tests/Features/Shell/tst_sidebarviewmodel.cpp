@@ -1,8 +1,8 @@
-#include "Store/PageOperations.h"
-#include "Store/TaskOperations.h"
 #include "Features/Pages/PageMenuViewModel.h"
 #include "Features/Shell/SidebarViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Store/PageOperations.h"
+#include "Store/TaskOperations.h"
 
 #include <QAbstractItemModelTester>
 #include <QtTest>

@@ -10,6 +10,8 @@ Loader {
     /// The file of what the layer shows, and the properties that it is made with.
     required property url page
     property var pageProperties: ({})
+    /// Nothing is loaded while this is set.
+    property bool held: false
     /// Whether its files are still being read or its items made.
     readonly property bool loading: status === Loader.Loading
 
@@ -20,7 +22,7 @@ Loader {
             source = ""
     }
 
-    active: shown || opacity > 0
+    active: !held && (shown || opacity > 0)
     enabled: shown
     focus: shown
     opacity: shown ? 1 : 0

@@ -13,6 +13,8 @@ Window {
     required property string placementPath
     /// Whether something of the window is still on its way.
     readonly property alias loading: rootView.loading
+    /// Until the workspace, or what comes before it, is there for the first time.
+    readonly property alias starting: rootView.starting
     property int visibilityBeforeFullScreen: Window.Windowed
 
     function toggleFullScreen() {
@@ -57,6 +59,7 @@ Window {
     }
 
     CommandKeys {
+        active: rootView.isDrawn
         commands: commands
     }
 

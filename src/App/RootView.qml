@@ -13,8 +13,10 @@ FocusScope {
     required property RootViewModel model
     /// Once a launch, and not where motion is unwanted.
     property bool showIntro: Theme.motionEnabled
-    /// The first frame need not wait for the layer below the intro, and the intro runs on while it is built. Later a
-    /// layer is there at once, to take the place of the other one.
+    /// Whether the first frame is drawn. What it does not show is made after it.
+    property bool isDrawn: false
+    /// The intro runs on while the layer below it is built. Later a layer is there at once, to take the place of the
+    /// other one.
     property bool starting: true
     /// Whether a layer is still on its way.
     readonly property bool loading: workspace.loading || onboarding.loading
@@ -23,6 +25,16 @@ FocusScope {
 
     // From here on the choice of motion has no say in it.
     Component.onCompleted: showIntro = showIntro
+
+    Connections {
+        enabled: !root.isDrawn
+        target: root.Window.window
+
+        function onFrameSwapped() {
+            root.isDrawn = true;
+            Orvel.updates.checkRegularly(root);
+        }
+    }
 
     OVBackground {
         anchors.fill: parent
@@ -35,6 +47,7 @@ FocusScope {
 
         anchors.fill: parent
         asynchronous: root.starting
+        held: !root.isDrawn
         page: "WorkspaceLayer.qml"
         pageProperties: ({ "commands": root.commands })
         shown: root.model.hasCompletedOnboarding
@@ -46,6 +59,7 @@ FocusScope {
 
         anchors.fill: parent
         asynchronous: root.starting
+        held: !root.isDrawn
         page: "OnboardingLayer.qml"
         shown: !root.model.hasCompletedOnboarding
         onLoaded: root.starting = false
@@ -55,8 +69,6 @@ FocusScope {
         anchors.fill: parent
         enabled: !root.showIntro
         updates: Orvel.updates
-
-        Component.onCompleted: updates.checkRegularly(this)
     }
 
     FadingLayer {

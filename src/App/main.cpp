@@ -21,10 +21,30 @@
 
 namespace
 {
-// Says when the first frame stands: QT_LOGGING_RULES="orvel.start.info=true".
+// Says when the first frame stands, and when the first one with the workspace or the onboarding does:
+// QT_LOGGING_RULES="orvel.start.info=true".
 Q_LOGGING_CATEGORY(startLog, "orvel.start", QtWarningMsg)
 
 constexpr char activationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
+
+void watchStart(QQuickWindow &window)
+{
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window, [] { qCInfo(startLog, "first frame"); },
+        Qt::ConnectionType(Qt::DirectConnection | Qt::SingleShotConnection));
+    // The plugin that reads the icon takes longer than the window's own first frame.
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window,
+        [] { QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/orvel/icon.svg"))); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    auto *const untilShown = new QObject(&window);
+    QObject::connect(&window, &QQuickWindow::frameSwapped, untilShown, [&window, untilShown] {
+        if (window.property("starting").toBool())
+            return;
+        qCInfo(startLog, "workspace shown");
+        untilShown->deleteLater();
+    });
+}
 
 /// The engine of this Qt version crashes if it is taken down while it reads files in the background.
 void finishLoading(const QQuickWindow &window)
@@ -58,7 +78,6 @@ int main(int argc, char *argv[])
     application.setApplicationName(QStringLiteral("Orvel"));
     application.setOrganizationName(QStringLiteral("Orvel"));
     application.setDesktopFileName(QStringLiteral("com.orvel.workspace"));
-    application.setWindowIcon(QIcon(QStringLiteral(":/orvel/icon.svg")));
     // Something that lives on without a window, such as an icon in the status bar, changes this.
     application.setQuitOnLastWindowClosed(true);
 
@@ -79,7 +98,8 @@ int main(int argc, char *argv[])
     SystemClock clock;
     WorkspaceStore store({.filePath = filePath, .clock = &clock});
     SavePoints savePoints(&store, &clock, &application);
-    const SystemAppearance desktop(QDBusConnection::sessionBus());
+    SystemAppearance desktop;
+    desktop.followPortal(&QDBusConnection::sessionBus);
     const ThemeSync theme(&store, &desktop);
     UIState ui;
     AppUpdates updates(application.applicationVersion(), QStringLiteral(ORVEL_BUILD),
@@ -98,9 +118,7 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
 
     auto *const window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
-    QObject::connect(
-        window, &QQuickWindow::frameSwapped, window, [] { qCInfo(startLog, "first frame"); },
-        Qt::ConnectionType(Qt::DirectConnection | Qt::SingleShotConnection));
+    watchStart(*window);
     QObject::connect(&instance, &SingleInstance::raiseRequested, window,
                      [window](const QByteArray &activationToken) { bringToFront(*window, activationToken); });
     const int code = application.exec();

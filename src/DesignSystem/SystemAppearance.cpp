@@ -1,6 +1,5 @@
 #include "DesignSystem/SystemAppearance.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -33,12 +32,24 @@ uint number(QVariant value)
 
 } // namespace
 
-SystemAppearance::SystemAppearance(const QDBusConnection &bus, QObject *parent)
-    : QObject(parent), m_dark(paletteIsDark())
+SystemAppearance::SystemAppearance(QObject *parent) : QObject(parent), m_dark(paletteIsDark())
 {
     qApp->installEventFilter(this);
-    if (bus.isConnected())
-        askPortal(bus);
+}
+
+void SystemAppearance::followPortal(const std::function<QDBusConnection()> &bus)
+{
+    // The connection finds the slot only once the type of its argument is known by name.
+    qRegisterMetaType<QDBusVariant>();
+    m_background.start([this, bus] {
+        QDBusConnection connection = bus();
+        if (!connection.isConnected())
+            return;
+        // This asks the bus who the portal is, and waits for the answer.
+        connection.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+                           SLOT(portalSettingChanged(QString, QString, QDBusVariant)));
+        QMetaObject::invokeMethod(this, [this, connection] { askPortal(connection); }, Qt::QueuedConnection);
+    });
 }
 
 std::optional<bool> SystemAppearance::preference(uint colorScheme)
@@ -52,14 +63,9 @@ std::optional<bool> SystemAppearance::preference(uint colorScheme)
 
 void SystemAppearance::askPortal(const QDBusConnection &bus)
 {
-    QDBusConnection connection = bus;
-    // The connection finds the slot only once the type of its argument is known by name.
-    qRegisterMetaType<QDBusVariant>();
-    connection.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                       SLOT(portalSettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
     question.setArguments({appearanceGroup, colorSchemeKey});
-    auto *answer = new QDBusPendingCallWatcher(connection.asyncCall(question), this);
+    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;

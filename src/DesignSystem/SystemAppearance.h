@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusVariant>
 #include <QObject>
+#include <QThreadPool>
 
+#include <functional>
 #include <optional>
-
-class QDBusConnection;
 
 /// Whether the desktop prefers dark windows: what its settings portal says, else how light the palette is.
 class SystemAppearance : public QObject
@@ -13,9 +14,11 @@ class SystemAppearance : public QObject
     Q_OBJECT
 
 public:
-    /// Asks the portal on this bus without waiting for the answer; until then, and without a bus, the palette
-    /// counts.
-    explicit SystemAppearance(const QDBusConnection &bus, QObject *parent = nullptr);
+    explicit SystemAppearance(QObject *parent = nullptr);
+
+    /// Asks the portal on this bus and listens to it from then on; until it answers the palette counts.
+    /// @param bus called on another thread, since connecting to a bus waits for it
+    void followPortal(const std::function<QDBusConnection()> &bus);
 
     bool isDark() const { return m_dark; }
 
@@ -36,4 +39,6 @@ private:
 
     std::optional<bool> m_portal;
     bool m_dark = false;
+    // Last, so that it is gone before anything that it uses.
+    QThreadPool m_background;
 };

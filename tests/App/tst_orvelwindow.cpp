@@ -4,7 +4,6 @@
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
 
-#include <QDBusConnection>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickItem>
@@ -21,7 +20,7 @@ class OrvelWindowTest : public QObject
 
 private:
     TestWorkspace m_workspace;
-    SystemAppearance m_desktop{QDBusConnection(QString())};
+    SystemAppearance m_desktop;
     ThemeSync m_theme{&m_workspace.store(), &m_desktop};
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates()};
     std::unique_ptr<QQmlApplicationEngine> m_engine;
@@ -35,6 +34,15 @@ private:
     /// Opens the window and waits for the layer that it begins with.
     void open(const QByteArray &layer)
     {
+        load();
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        // The layer follows the first frame.
+        QTRY_VERIFY(item(layer));
+        QTRY_COMPARE(item(layer)->parentItem()->property("status").toInt(), 1);
+    }
+    void load()
+    {
         m_engine = std::make_unique<QQmlApplicationEngine>();
         m_engine->addImportPath(u":/qt/qml"_s);
         m_session.provideTo(*m_engine);
@@ -42,11 +50,6 @@ private:
         m_engine->load(QUrl(u"qrc:/qt/qml/Orvel/App/OrvelWindow.qml"_s));
         QVERIFY(!m_engine->rootObjects().isEmpty());
         m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().constFirst());
-        m_window->requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
-        // The layer follows the first frame.
-        QTRY_VERIFY(item(layer));
-        QTRY_COMPARE(item(layer)->parentItem()->property("status").toInt(), 1);
     }
     QQuickItem *root() const { return m_window->contentItem()->childItems().constFirst(); }
     template <typename Found>
@@ -110,6 +113,22 @@ private:
     }
 
 private slots:
+    /// Whatever is made before it keeps the first frame waiting: it shows the ground and the mark, nothing
+    /// else.
+    void theFirstFrameWaitsForNothingThatItDoesNotShow()
+    {
+        edit([](AppSettings &settings) { settings.reducedMotion = false; });
+        load();
+        std::optional<qsizetype> objects;
+        connect(m_window, &QQuickWindow::afterAnimating, m_engine.get(), [&] {
+            if (!objects)
+                objects = m_window->findChildren<QObject *>().size();
+        });
+        QTRY_VERIFY(objects);
+        QVERIFY2(*objects <= 100, qPrintable(u"%1 objects"_s.arg(*objects)));
+        QTRY_VERIFY(item("WorkspaceLayer"));
+    }
+
     void init()
     {
         m_workspace.reset();
@@ -120,11 +139,13 @@ private slots:
     void beginsWithTheIntroOnceALaunch()
     {
         edit([](AppSettings &settings) { settings.reducedMotion = false; });
-        open();
+        load();
         QVERIFY(item("OrvelIntroView"));
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
         QTest::keyClick(m_window, Qt::Key_Space);
         QTRY_VERIFY(!item("OrvelIntroView"));
-        QVERIFY(item("WorkspaceLayer")->hasActiveFocus());
+        QTRY_VERIFY(item("WorkspaceLayer") && item("WorkspaceLayer")->hasActiveFocus());
         edit([](AppSettings &settings) { settings.theme.accent = AccentPalette::teal; });
         QTest::qWait(0);
         QVERIFY(!item("OrvelIntroView"));

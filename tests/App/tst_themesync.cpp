@@ -3,7 +3,6 @@
 #include "DesignSystem/ThemeRevision.h"
 #include "Harness/ManualClock.h"
 
-#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTemporaryDir>
@@ -23,7 +22,7 @@ private slots:
         const ManualClock clock;
         WorkspaceStore store({folder.filePath(u"workspace.json"_s), &clock, 1h});
         store.changeSettings([](AppSettings &settings) { settings.theme.accent = AccentPalette::teal; });
-        const SystemAppearance desktop{QDBusConnection(QString())};
+        const SystemAppearance desktop;
         const ThemeSync sync(&store, &desktop);
         QCOMPARE(OVTheme::current().accent, AccentPalette::teal);
         QVERIFY(!OVTheme::current().dark);

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QProcess>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -56,7 +57,8 @@ void TestSystemAppearance::cleanupTestCase()
 
 void TestSystemAppearance::withoutABusThePaletteCounts()
 {
-    SystemAppearance appearance(QDBusConnection(QStringLiteral("none")));
+    SystemAppearance appearance;
+    appearance.followPortal([] { return QDBusConnection(QStringLiteral("none")); });
     QVERIFY(!appearance.isDark());
     QSignalSpy changes(&appearance, &SystemAppearance::changed);
 
@@ -79,9 +81,17 @@ void TestSystemAppearance::thePortalIsAskedAndListenedTo()
     QVERIFY(portalBus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
     QVERIFY(portalBus.registerObject(path, &portal, QDBusConnection::ExportAllSlots));
 
-    SystemAppearance appearance(QDBusConnection::connectToBus(m_address, QStringLiteral("program")));
+    SystemAppearance appearance;
+    QSemaphore isFollowing;
+    bool hasWaited = false;
+    appearance.followPortal([&] {
+        hasWaited = isFollowing.tryAcquire(1, 5000);
+        return QDBusConnection::connectToBus(m_address, QStringLiteral("program"));
+    });
+    isFollowing.release();
     QVERIFY(!appearance.isDark());
     QTRY_VERIFY(appearance.isDark());
+    QVERIFY2(hasWaited, "the program waited for the bus");
 
     const auto tell = [&](const QString &key, uint value) {
         QDBusMessage signal = QDBusMessage::createSignal(

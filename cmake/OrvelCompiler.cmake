@@ -18,7 +18,9 @@ if(ORVEL_MOLD)
     add_link_options(-fuse-ld=mold)
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual)
+# Other compilers warn of other things; who packs Orvel with one turns this off.
+option(ORVEL_WERROR "Treat warnings as errors" ON)
+add_compile_options(-Wall -Wextra -Wpedantic $<$<BOOL:${ORVEL_WERROR}>:-Werror> -Wnon-virtual-dtor -Woverloaded-virtual)
 # Records are made with designated initializers, which leave out what keeps its default.
 add_compile_options(-Wno-missing-field-initializers)
 add_compile_definitions(

@@ -3,7 +3,10 @@ include(GNUInstallDirs)
 
 install(TARGETS orvel RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES data/com.orvel.workspace.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
-install(FILES data/com.orvel.workspace.metainfo.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+# The version stands in CMakeLists.txt alone; a release dates from its build, or from SOURCE_DATE_EPOCH.
+string(TIMESTAMP ORVEL_RELEASE_DATE "%Y-%m-%d" UTC)
+configure_file(data/com.orvel.workspace.metainfo.xml.in com.orvel.workspace.metainfo.xml @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/com.orvel.workspace.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES data/com.orvel.workspace.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 # The icons are part of the program, and their licence goes with them.

@@ -25,7 +25,6 @@ QString installed(QStringView key, const QString &builtAs)
 
 AppUpdates::AppUpdates(const QString &version, const QString &build, const QString &site)
     : m_installer({
-          .network = &m_network,
           .wait = systemWait(),
           .bundle = runningBundle(),
           .temporaryFolder = QDir::tempPath(),
@@ -35,7 +34,6 @@ AppUpdates::AppUpdates(const QString &version, const QString &build, const QStri
           .exitNow = [] { std::_Exit(EXIT_SUCCESS); },
       }),
       m_service({
-          .network = &m_network,
           .installer = &m_installer,
           .origin = UpdateService::origin(qEnvironmentVariable("ORVEL_UPDATE_BASE"), site),
           .version = installed(u"CFBundleShortVersionString", version),

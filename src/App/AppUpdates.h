@@ -3,10 +3,7 @@
 #include "Support/Updates/PackageInstaller.h"
 #include "Support/Updates/UpdateService.h"
 
-#include <QNetworkAccessManager>
-
-/// The update service of the running program, with what it needs: the network, and this copy of the program,
-/// which it may replace if it is a bundle.
+/// The update service of the running program, with the copy of the program that it may replace.
 class AppUpdates
 {
 public:
@@ -16,7 +13,6 @@ public:
     UpdateService *service() { return &m_service; }
 
 private:
-    QNetworkAccessManager m_network;
     PackageInstaller m_installer;
     UpdateService m_service;
 };

@@ -1,4 +1,4 @@
-#include "HttpTestServer.h"
+#include "Harness/HttpTestServer.h"
 
 #include <QFile>
 #include <QProcess>
@@ -29,6 +29,15 @@ TestCertificate TestCertificate::make()
     return {QSslCertificate(&certificate), QSslKey(&key, QSsl::Rsa)};
 }
 
+void TestCertificate::trust() const
+{
+    static const QTemporaryDir folder;
+    QFile file(folder.filePath(u"trusted.pem"_s));
+    if (!file.open(QIODevice::WriteOnly) || file.write(certificate.toPem()) < 0)
+        qFatal("The certificate can't be written");
+    qputenv("SSL_CERT_FILE", QFile::encodeName(file.fileName()));
+}
+
 HttpTestServer::HttpTestServer(const TestCertificate &certificate, QObject *parent)
     : QObject(parent), m_isSecure(!certificate.isNull())
 {
@@ -43,6 +52,8 @@ HttpTestServer::HttpTestServer(const TestCertificate &certificate, QObject *pare
     } else {
         m_server = std::make_unique<QTcpServer>();
     }
+    // A proxy of the machine is not asked for this server.
+    qputenv("NO_PROXY", "127.0.0.1");
     connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, this, &HttpTestServer::accept);
     if (!m_server->listen(QHostAddress::LocalHost))
         qFatal("The test server can't listen: %s", qPrintable(m_server->errorString()));
@@ -105,7 +116,7 @@ void HttpTestServer::respond(QTcpSocket *socket, const QString &path)
     missing.body = "<html><body>There is nothing here.</body></html>";
     Answer answer = m_answers.value(path, missing);
     if (m_requests.last().method == "HEAD") {
-        answer.toldLength = answer.toldLength.value_or(answer.body.size());
+        answer.contentLength = answer.contentLength.value_or(answer.body.size());
         answer.body.clear();
     }
     if (answer.pace == Pace::onRelease)
@@ -141,8 +152,8 @@ void HttpTestServer::send(QTcpSocket *socket, const Answer &answer)
     header("Content-Encoding", answer.contentEncoding);
     header("Location", answer.location);
     if (hasLength)
-        header("Content-Length", QByteArray::number(answer.toldLength.value_or(answer.body.size())));
-    socket->write(head + "\r\n" + answer.body);
+        header("Content-Length", QByteArray::number(answer.contentLength.value_or(answer.body.size())));
+    socket->write(answer.raw.isEmpty() ? head + "\r\n" + answer.body : answer.raw);
 
     if (answer.pace == Pace::dripping) {
         auto *const timer = new QTimer(socket);
@@ -150,11 +161,14 @@ void HttpTestServer::send(QTcpSocket *socket, const Answer &answer)
         timer->start(5);
     } else if (answer.pace == Pace::endless) {
         auto *const timer = new QTimer(socket);
-        connect(timer, &QTimer::timeout, socket, [socket, secure = qobject_cast<QSslSocket *>(socket)] {
-            const qint64 waiting = socket->bytesToWrite() + (secure ? secure->encryptedBytesToWrite() : 0);
-            if (waiting < 64 * 1024)
-                socket->write(QByteArray(64 * 1024, '.'));
-        });
+        const QByteArray filler = answer.filler.repeated(1 + 64 * 1024 / answer.filler.size());
+        connect(timer, &QTimer::timeout, socket,
+                [filler, socket, secure = qobject_cast<QSslSocket *>(socket)] {
+                    const qint64 waiting =
+                        socket->bytesToWrite() + (secure ? secure->encryptedBytesToWrite() : 0);
+                    if (waiting < 64 * 1024)
+                        socket->write(filler);
+                });
         timer->start(0);
     } else if (answer.pace != Pace::stalling) {
         socket->disconnectFromHost();

@@ -20,6 +20,8 @@ struct TestCertificate {
     /// Null if the machine can't make one.
     static TestCertificate make();
     bool isNull() const { return certificate.isNull() || key.isNull(); }
+    /// From now on the requests of this program trust it, and no other.
+    void trust() const;
 };
 
 /// A web server of the test's own, on this machine, that answers each path as well or as badly as it is told.
@@ -40,7 +42,7 @@ public:
         stalling,
         /// Headers, then a byte of the body now and then, for ever.
         dripping,
-        /// Headers, then bytes without end as fast as they are taken.
+        /// Headers, then the filler again and again, as fast as it is taken.
         endless,
         /// The end of the connection in place of an answer.
         hangingUp,
@@ -52,9 +54,12 @@ public:
         QByteArray body;
         /// Where a redirect leads; an address or a path.
         QByteArray location;
-        /// Told in place of the true length.
-        std::optional<qint64> toldLength;
+        /// Sent in place of the true length.
+        std::optional<qint64> contentLength;
         QByteArray contentEncoding;
+        /// Sent as it is in place of headers and body.
+        QByteArray raw;
+        QByteArray filler = QByteArray(1024, '.');
         Pace pace = Pace::atOnce;
     };
 

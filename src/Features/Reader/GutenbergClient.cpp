@@ -3,8 +3,6 @@
 #include "Features/Reader/GutenbergText.h"
 #include "Foundation/RecordDecoder.h"
 
-#include <QNetworkRequest>
-
 using namespace Qt::StringLiterals;
 
 namespace
@@ -22,7 +20,8 @@ std::optional<GutendexResponse> decodeResponse(const QByteArray &body)
 
 std::expected<QString, QString> bookText(const HttpResult &result)
 {
-    if (result && result->isSuccess() && !result->contentType.startsWith("text/html")) {
+    // Any other success has no body, or a part of it.
+    if (result && result->status == 200 && !result->contentType.startsWith("text/html")) {
         const QString text = GutenbergText::decode(result->body);
         if (!GutenbergText::isWebPage(text))
             return GutenbergClient::stripBoilerplate(text);
@@ -61,24 +60,22 @@ void GutenbergClient::search(const QString &query)
         setPhase(Phase::failed, u"That search couldn't be built."_s);
         return;
     }
-    Http::get(*m_options.network, QNetworkRequest(*url), m_options.searchLimits, this,
-              [this](const HttpResult &result) {
-                  const auto response = result ? decodeResponse(result->body) : std::nullopt;
-                  if (!response) {
-                      setPhase(Phase::failed,
-                               u"Couldn't reach the library. Check your connection and try again."_s);
-                      return;
-                  }
-                  setResults(response->results);
-                  setPhase(Phase::loaded);
-              });
+    Http::get({.url = *url}, m_options.searchLimits, this, [this](const HttpResult &result) {
+        const auto response = result ? decodeResponse(result->body) : std::nullopt;
+        if (!response) {
+            setPhase(Phase::failed, u"Couldn't reach the library. Check your connection and try again."_s);
+            return;
+        }
+        setResults(response->results);
+        setPhase(Phase::loaded);
+    });
 }
 
 void GutenbergClient::download(const GutenbergBook &book, Downloaded done)
 {
     // A book without a text has an address that can't be asked, and so fails like any other.
     const QUrl url = book.plainTextURL().value_or(QUrl());
-    Http::get(*m_options.network, QNetworkRequest(url), m_options.downloadLimits, this,
+    Http::get({.url = url}, m_options.downloadLimits, this,
               [done = std::move(done)](const HttpResult &result) { done(bookText(result)); });
 }
 

@@ -5,8 +5,6 @@
 
 #include <QObject>
 
-class QNetworkAccessManager;
-
 /// Searches the catalogue of Project Gutenberg and downloads the texts of its books.
 class GutenbergClient : public QObject
 {
@@ -14,8 +12,6 @@ class GutenbergClient : public QObject
 
 public:
     struct Options {
-        /// Lives longer than the client.
-        QNetworkAccessManager *network = nullptr;
         /// The catalogue is asked at the path "/books" below this address.
         QUrl catalogue = QUrl(QStringLiteral("https://gutendex.com"));
         /// A page of the catalogue holds 32 books and a fraction of a megabyte.

@@ -3,7 +3,6 @@
 #include "Foundation/Http.h"
 
 #include <QFileInfo>
-#include <QNetworkRequest>
 #include <QTimer>
 #include <QUrlQuery>
 
@@ -133,20 +132,21 @@ RelaxVideoSource RelaxVideoResolver::resolve(const QUrl &url)
     return isMediaFile(url) ? RelaxVideoSource::media(url) : RelaxVideoSource::embed(url);
 }
 
-void RelaxVideoResolver::refine(const RelaxVideoSource &source, QNetworkAccessManager &network,
-                                QObject *owner, std::function<void(std::optional<RelaxVideoSource>)> done,
+void RelaxVideoResolver::refine(const RelaxVideoSource &source, QObject *owner,
+                                std::function<void(std::optional<RelaxVideoSource>)> done,
                                 std::chrono::milliseconds patience)
 {
     if (source.kind != RelaxVideoSource::Kind::embed || isKnownPlayer(source.url)) {
         QTimer::singleShot(0, owner, [done = std::move(done)] { done(std::nullopt); });
         return;
     }
-    QNetworkRequest request(source.url);
-    request.setHeader(QNetworkRequest::UserAgentHeader, u"Mozilla/5.0 (Macintosh; Intel Mac OS X) Orvel"_s);
-    Http::head(network, request, HttpLimits{patience, patience, 0}, owner,
+    const HttpRequest request{source.url, "Mozilla/5.0 (Macintosh; Intel Mac OS X) Orvel"};
+    Http::head(request, HttpLimits{patience, patience, 0}, owner,
                [done = std::move(done), url = source.url](const HttpResult &result) {
-                   const bool isMedia = result && (result->contentType.startsWith("video/") ||
-                                                   result->contentType.startsWith("audio/"));
+                   const bool isRefusedRedirect = result && result->status / 100 == 3;
+                   const bool isMedia =
+                       result && !isRefusedRedirect &&
+                       (result->contentType.startsWith("video/") || result->contentType.startsWith("audio/"));
                    done(isMedia ? std::optional(RelaxVideoSource::media(url)) : std::nullopt);
                });
 }

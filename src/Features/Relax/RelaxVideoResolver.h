@@ -6,7 +6,6 @@
 #include <functional>
 #include <optional>
 
-class QNetworkAccessManager;
 class QObject;
 
 /// Decides what a pasted link is and how it plays.
@@ -22,7 +21,7 @@ RelaxVideoSource resolve(const QUrl &url);
 /// or nothing if the given one stands; it is called once, after the call has returned, unless `owner` dies
 /// first.
 /// @param patience for the whole answer
-void refine(const RelaxVideoSource &source, QNetworkAccessManager &network, QObject *owner,
+void refine(const RelaxVideoSource &source, QObject *owner,
             std::function<void(std::optional<RelaxVideoSource>)> done,
             std::chrono::milliseconds patience = std::chrono::seconds(8));
 } // namespace RelaxVideoResolver

@@ -4,9 +4,9 @@ using namespace std::chrono_literals;
 
 namespace
 {
-QString replied(int status)
+ManifestRequest::Failure replied(int status)
 {
-    return QStringLiteral("The site replied %1 for the update check.").arg(status);
+    return {ManifestRequest::tr("The site replied %1 for the update check.").arg(status)};
 }
 
 /// Whether the server says that it is to blame, or nobody: then asking again may help.
@@ -16,22 +16,22 @@ bool mayPass(int status)
 }
 
 /// Nothing for what is no manifest.
-std::optional<VersionFile> manifest(const HttpAnswer &answer)
+std::optional<VersionFile> manifest(const HttpResponse &response)
 {
-    const QByteArray &type = answer.contentType;
+    const QByteArray &type = response.contentType;
     if (!type.isEmpty() && !type.contains("json") && !type.contains("text"))
         return std::nullopt;
-    return VersionFile::read(answer.body);
+    return VersionFile::read(response.body);
 }
 } // namespace
 
-ManifestRequest::ManifestRequest(QNetworkAccessManager &network, Wait wait, const HttpLimits &limits,
-                                 std::function<void(Result)> done, QObject *owner)
-    : QObject(owner), m_network(network), m_wait(std::move(wait)), m_limits(limits), m_done(std::move(done))
+ManifestRequest::ManifestRequest(Wait wait, const HttpLimits &limits, std::function<void(Result)> done,
+                                 QObject *owner)
+    : QObject(owner), m_wait(std::move(wait)), m_limits(limits), m_done(std::move(done))
 {
 }
 
-void ManifestRequest::start(const QNetworkRequest &request)
+void ManifestRequest::start(const HttpRequest &request)
 {
     m_request = request;
     attempt();
@@ -40,17 +40,17 @@ void ManifestRequest::start(const QNetworkRequest &request)
 void ManifestRequest::attempt()
 {
     ++m_attempt;
-    Http::get(m_network, m_request, m_limits, this, [this](const HttpResult &result) { answered(result); });
+    Http::get(m_request, m_limits, this, [this](const HttpResult &result) { responded(result); });
 }
 
-void ManifestRequest::answered(const HttpResult &result)
+void ManifestRequest::responded(const HttpResult &result)
 {
     if (result && !mayPass(result->status)) {
         end(result->isSuccess() ? Result(manifest(*result)) : std::unexpected(replied(result->status)));
     } else if (m_attempt < attempts) {
         m_wait(m_attempt * 2s, this, [this] { attempt(); });
     } else {
-        end(std::unexpected(result ? replied(result->status) : result.error()));
+        end(std::unexpected(result ? replied(result->status) : Failure{result.error(), true}));
     }
 }
 

@@ -6,7 +6,6 @@
 #include "Support/Updates/PathExchange.h"
 #include "Support/Updates/StagingFolder.h"
 #include "Support/Updates/UpdateLog.h"
-#include "Support/Updates/UpdateRequest.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -24,6 +23,8 @@ using Done = std::function<void(Result)>;
 /// One install under way; deletes itself when it has ended.
 class Installation : public QObject
 {
+    Q_DECLARE_TR_FUNCTIONS(Installation)
+
 public:
     Installation(const PackageInstaller::Surroundings &surroundings, const AvailableUpdate &update,
                  std::function<void(double)> progress, Done done, QObject *owner)
@@ -44,9 +45,9 @@ public:
         }
         m_folder = std::move(*folder);
         auto *const download = new PackageDownload(
-            *m_surroundings.network, m_surroundings.wait, m_surroundings.limits, m_progress,
+            m_surroundings.wait, m_surroundings.limits, m_progress,
             [this](const std::expected<QByteArray, QString> &hash) { downloaded(hash); }, this);
-        download->start(UpdateRequest::to(m_update.downloadURL, m_surroundings.userAgent), archivePath());
+        download->start({m_update.downloadURL, m_surroundings.userAgent}, archivePath());
     }
 
 private:
@@ -62,10 +63,10 @@ private:
         m_progress(1.0);
         const QByteArray published = m_update.sha256.trimmed().toLower().toUtf8();
         if (!published.isEmpty() && published != *hash) {
-            end(std::unexpected(u"The update download didn't match its published checksum."_s));
+            end(std::unexpected(tr("The update download didn't match its published checksum.")));
             return;
         }
-        // Beside the event loop, so that the prompt stays alive.
+        // On a worker, so that the prompt stays alive.
         m_worker = std::jthread([this](const std::stop_token &stop) {
             const Result unpacked = PackageArchive::unpack(archivePath(), m_folder->path(), stop);
             QMetaObject::invokeMethod(this, [this, unpacked] { this->unpacked(unpacked); });
@@ -76,19 +77,19 @@ private:
     {
         if (!result) {
             qCWarning(updateLog, "unpacking: %s", qUtf8Printable(result.error()));
-            end(std::unexpected(u"The update couldn't be unpacked."_s));
+            end(std::unexpected(tr("The update couldn't be unpacked.")));
             return;
         }
         if (!AppBundle::hasProgram(stagedPath())) {
-            end(std::unexpected(u"The update download was missing the app."_s));
+            end(std::unexpected(tr("The update download was missing the app.")));
             return;
         }
         QString version = AppBundle::version(stagedPath());
         if (version.isEmpty())
-            version = u"unknown"_s;
+            version = tr("unknown");
         if (version != m_update.version) {
             end(std::unexpected(
-                u"The site says %1, but the downloaded app is %2."_s.arg(m_update.version, version)));
+                tr("The site says %1, but the downloaded app is %2.").arg(m_update.version, version)));
             return;
         }
         swap();
@@ -109,8 +110,15 @@ private:
 
     void end(const Result &result)
     {
-        // Before the person reads of the failure, nothing of it is left.
-        m_folder.reset();
+        // Before the user reads of the failure, nothing of it is left. Many files take a while to remove.
+        m_worker = std::jthread([this, result] {
+            m_folder.reset();
+            QMetaObject::invokeMethod(this, [this, result] { finish(result); });
+        });
+    }
+
+    void finish(const Result &result)
+    {
         deleteLater();
         // Whoever is called may delete the owner, and this with it.
         if (const Done done = std::exchange(m_done, nullptr))

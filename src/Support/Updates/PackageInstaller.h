@@ -12,7 +12,6 @@ class PackageInstaller final : public UpdateInstaller
 {
 public:
     struct Surroundings {
-        QNetworkAccessManager *network = nullptr;
         Wait wait;
         /// The bundle that is replaced; empty if the running copy is none.
         QString bundle;

@@ -1,7 +1,6 @@
 #include "Support/Updates/UpdateService.h"
 
 #include "Support/Updates/UpdateLog.h"
-#include "Support/Updates/UpdateRequest.h"
 
 #include <QPointer>
 
@@ -68,7 +67,8 @@ bool UpdateService::isNewer(const QString &version, const QString &build, const 
 
 QString UpdateService::progressText() const
 {
-    return u"%1% — this can take a moment on a slow connection."_s.arg(qRound(installProgressOrZero() * 100));
+    return tr("%1% — this can take a moment on a slow connection.")
+        .arg(qRound(installProgressOrZero() * 100));
 }
 
 void UpdateService::check(bool manual)
@@ -78,16 +78,20 @@ void UpdateService::check(bool manual)
     setPhase({Kind::checking});
     const QUrl address(m_options.origin + u"/version.json"_s, QUrl::StrictMode);
     if (!Http::isWebAddress(address)) {
-        checked(std::unexpected(u"Bad update address."_s), manual);
+        checked(std::unexpected(ManifestRequest::Failure{tr("Bad update address.")}), manual);
         return;
     }
     const auto done = [this, manual](const ManifestRequest::Result &result) { checked(result, manual); };
-    (new ManifestRequest(*m_options.network, m_options.wait, m_options.limits, done, this))
-        ->start(UpdateRequest::to(address, userAgent(m_options.version)));
+    m_request = new ManifestRequest(m_options.wait, m_options.limits, done, this);
+    m_request->start({address, userAgent(m_options.version)});
 }
 
 void UpdateService::checked(const ManifestRequest::Result &result, bool manual)
 {
+    const bool isUnanswered = !result && result.error().isUnanswered;
+    m_unansweredChecks = isUnanswered ? m_unansweredChecks + 1 : 0;
+    if (isUnanswered && !manual)
+        checkAgainLater();
     if (result && *result && isNewer(**result))
         offer((*result)->offer(QUrl(m_options.origin)));
     else if (manual)
@@ -96,12 +100,25 @@ void UpdateService::checked(const ManifestRequest::Result &result, bool manual)
         setPhase({});
 }
 
+void UpdateService::checkAgainLater()
+{
+    if (std::exchange(m_isWaitingToCheck, true))
+        return;
+    const int doublings = std::min(m_unansweredChecks - 1, 16);
+    const auto delay = std::min(firstRetryDelay * (1 << doublings), longestRetryDelay);
+    m_options.wait(delay, this, [this] {
+        m_isWaitingToCheck = false;
+        if (m_unansweredChecks > 0)
+            check(false);
+    });
+}
+
 QString UpdateService::verdict(const ManifestRequest::Result &result) const
 {
     if (!result)
-        return result.error();
-    return *result ? u"Orvel %1 is the latest version."_s.arg(m_options.version)
-                   : u"The update check couldn't read %1."_s.arg(siteName(m_options.origin));
+        return result.error().message;
+    return *result ? tr("Orvel %1 is the latest version.").arg(m_options.version)
+                   : tr("The update check couldn't read %1.").arg(siteName(m_options.origin));
 }
 
 bool UpdateService::isNewer(const VersionFile &file) const
@@ -136,6 +153,7 @@ void UpdateService::install()
         openDownloadPage();
         return;
     }
+    delete m_request;
     setPhase({Kind::installing});
     setInstallProgress(0);
     m_options.installer->install(

@@ -4,6 +4,7 @@
 #include "Support/Updates/UpdateInstaller.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QUrl>
 
 /// Finds out whether a newer build has been published, offers it, and has it installed. A check never
@@ -32,7 +33,6 @@ public:
     };
 
     struct Options {
-        QNetworkAccessManager *network = nullptr;
         /// Lives longer than the service; null for a copy that never replaces itself.
         UpdateInstaller *installer = nullptr;
         /// The base address of the update site, without a slash at its end.
@@ -49,6 +49,9 @@ public:
 
     /// The time between two checks nobody asked for.
     static constexpr std::chrono::hours checkInterval{6};
+    /// Before the next check after one that nothing answered; doubles each time up to the longest.
+    static constexpr std::chrono::seconds firstRetryDelay{10};
+    static constexpr std::chrono::seconds longestRetryDelay{20 * 60};
 
     explicit UpdateService(Options options, QObject *parent = nullptr);
 
@@ -80,9 +83,11 @@ public:
     /// Asks the site, unless it is being asked or an install is under way. A check nobody asked for says
     /// nothing but an offer, and does not disturb one that stands.
     Q_INVOKABLE void check(bool manual);
-    /// Checks now and every six hours, as long as the owner lives.
+    /// Checks now and every six hours, as long as the owner lives, and in between as long as nothing answers:
+    /// there may be no network yet, such as after a sleep.
     Q_INVOKABLE void checkRegularly(QObject *owner);
-    /// Installs what is on offer, or opens its page where this copy can't replace itself.
+    /// Installs what is on offer, or opens its page where this copy can't replace itself. Ends a check that
+    /// is under way.
     Q_INVOKABLE void install();
     Q_INVOKABLE void openDownloadPage();
     /// Takes the offer away until the next check.
@@ -97,6 +102,7 @@ signals:
 
 private:
     void checked(const ManifestRequest::Result &result, bool manual);
+    void checkAgainLater();
     /// What a check has to say, beside an offer.
     QString verdict(const ManifestRequest::Result &result) const;
     bool isNewer(const VersionFile &file) const;
@@ -112,4 +118,8 @@ private:
     std::optional<AvailableUpdate> m_available;
     QString m_notice;
     std::optional<double> m_installProgress;
+    QPointer<ManifestRequest> m_request;
+    /// In a row.
+    int m_unansweredChecks = 0;
+    bool m_isWaitingToCheck = false;
 };

@@ -5,9 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkAccessManager>
 #include <QSignalSpy>
-#include <QSslConfiguration>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -51,12 +49,8 @@ class GutenbergTest : public QObject
 private:
     HttpTestServer m_catalogue;
     std::unique_ptr<HttpTestServer> m_files;
-    QNetworkAccessManager m_network;
 
-    GutenbergClient::Options options(const QUrl &catalogue)
-    {
-        return {.network = &m_network, .catalogue = catalogue};
-    }
+    GutenbergClient::Options options(const QUrl &catalogue) { return {.catalogue = catalogue}; }
 
     GutenbergBook bookAt(const QUrl &url) const
     {
@@ -79,9 +73,7 @@ private slots:
     {
         const TestCertificate certificate = TestCertificate::make();
         QVERIFY(!certificate.isNull());
-        QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
-        trusting.setCaCertificates({certificate.certificate});
-        QSslConfiguration::setDefaultConfiguration(trusting);
+        certificate.trust();
         m_files = std::make_unique<HttpTestServer>(certificate);
     }
     void init()
@@ -137,11 +129,11 @@ private slots:
         QTest::newRow("book without formats") << without(u"formats"_s);
         QTest::newRow("book without languages") << without(u"languages"_s);
         QTest::newRow("truncated") << Answer{.body = responseJson({}),
-                                             .toldLength = responseJson({}).size() + 1};
-        QTest::newRow("told shorter") << Answer{.body = responseJson({}), .toldLength = 20};
+                                             .contentLength = responseJson({}).size() + 1};
+        QTest::newRow("told shorter") << Answer{.body = responseJson({}), .contentLength = 20};
         QTest::newRow("hanging up") << Answer{.pace = Pace::hangingUp};
         QTest::newRow("silent") << Answer{.pace = Pace::silent};
-        QTest::newRow("stalling") << Answer{.body = "{", .toldLength = 9, .pace = Pace::stalling};
+        QTest::newRow("stalling") << Answer{.body = "{", .contentLength = 9, .pace = Pace::stalling};
         QTest::newRow("dripping") << Answer{.body = "{", .pace = Pace::dripping};
         QTest::newRow("endless") << Answer{.pace = Pace::endless};
         QTest::newRow("redirect loop") << Answer{.status = 301, .location = "/books"};
@@ -353,7 +345,7 @@ private slots:
         QTest::newRow("page under 200")
             << Answer{.contentType = "text/html; charset=utf-8", .body = "<p>Log in"};
         QTest::newRow("page called text") << Answer{.body = "\n<!DOCTYPE HTML>\n<title>Log in</title>"};
-        QTest::newRow("truncated") << Answer{.body = "Emma", .toldLength = 5};
+        QTest::newRow("truncated") << Answer{.body = "Emma", .contentLength = 5};
         QTest::newRow("hanging up") << Answer{.pace = Pace::hangingUp};
         QTest::newRow("silent") << Answer{.pace = Pace::silent};
         QTest::newRow("dripping") << Answer{.pace = Pace::dripping};

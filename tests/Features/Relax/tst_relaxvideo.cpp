@@ -1,7 +1,6 @@
 #include "Features/Relax/RelaxVideoResolver.h"
 #include "Harness/HttpTestServer.h"
 
-#include <QNetworkAccessManager>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -15,15 +14,13 @@ class RelaxVideoTest : public QObject
 
 private:
     HttpTestServer m_server;
-    QNetworkAccessManager m_network;
 
     std::optional<RelaxVideoSource> refine(const RelaxVideoSource &source,
                                            std::chrono::milliseconds patience = 10min)
     {
         std::optional<std::optional<RelaxVideoSource>> refined;
         QObject owner;
-        RelaxVideoResolver::refine(
-            source, m_network, &owner, [&](const auto &given) { refined = given; }, patience);
+        RelaxVideoResolver::refine(source, &owner, [&](const auto &given) { refined = given; }, patience);
         if (refined || !QTest::qWaitFor([&] { return refined.has_value(); }, 60'000))
             qFatal("The probe answers at once, or not at all.");
         return *refined;
@@ -136,7 +133,7 @@ private slots:
         QTest::addColumn<Answer>("answer");
         QTest::addColumn<bool>("isMedia");
         QTest::newRow("a film") << Answer{.contentType = "Video/MP4"} << true;
-        QTest::newRow("a long film") << Answer{.contentType = "video/webm", .toldLength = 9'000'000'000}
+        QTest::newRow("a long film") << Answer{.contentType = "video/webm", .contentLength = 9'000'000'000}
                                      << true;
         QTest::newRow("a sound") << Answer{.contentType = "audio/mpeg; x=y"} << true;
         QTest::newRow("a page") << Answer{.contentType = "text/html"} << false;

@@ -3,7 +3,6 @@
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
 
-#include <QNetworkAccessManager>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -19,7 +18,6 @@ class UpdatesLayerTest : public QObject
 
 private:
     TestWorkspace m_workspace;
-    QNetworkAccessManager m_network;
     HttpTestServer m_site;
     FakeInstaller m_installer;
     std::unique_ptr<UpdateService> m_service;
@@ -66,8 +64,7 @@ private slots:
         m_workspace.reset();
         m_installer = {};
         m_service = std::make_unique<UpdateService>(
-            UpdateService::Options{.network = &m_network,
-                                   .installer = &m_installer,
+            UpdateService::Options{.installer = &m_installer,
                                    .origin = m_site.url().toString(QUrl::StripTrailingSlash),
                                    .version = u"1.4.2"_s});
         m_session = std::make_unique<OrvelSession>(&m_workspace.store(), &m_workspace.ui(), m_service.get());

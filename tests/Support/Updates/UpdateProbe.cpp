@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QNetworkAccessManager>
 #include <QTimer>
 
 #include <cstdlib>
@@ -31,17 +30,14 @@ int main(int argc, char *argv[])
     const Wait soon = [](std::chrono::milliseconds time, QObject *owner, std::function<void()> then) {
         QTimer::singleShot(time / 100, owner, std::move(then));
     };
-    QNetworkAccessManager network;
-    PackageInstaller installer({.network = &network,
-                                .wait = soon,
+    PackageInstaller installer({.wait = soon,
                                 .bundle = bundle,
                                 .temporaryFolder = QDir::tempPath(),
                                 .userAgent = UpdateService::userAgent(version),
                                 .processId = QCoreApplication::applicationPid(),
                                 .quit = [] { QCoreApplication::quit(); },
                                 .exitNow = [] { std::_Exit(3); }});
-    UpdateService service({.network = &network,
-                           .installer = &installer,
+    UpdateService service({.installer = &installer,
                            .origin = qEnvironmentVariable("PROBE_SITE"),
                            .version = version,
                            .installsByItself = true,

@@ -2,7 +2,6 @@
 #include "Harness/HttpTestServer.h"
 #include "Support/Updates/UpdateService.h"
 
-#include <QNetworkAccessManager>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -31,7 +30,6 @@ class UpdateServiceTest : public QObject
     Q_OBJECT
 
 private:
-    QNetworkAccessManager m_network;
     std::unique_ptr<HttpTestServer> m_site;
     FakeInstaller m_installer;
     QList<std::chrono::milliseconds> m_waits;
@@ -43,20 +41,19 @@ private:
     {
         const Wait wait = [this](std::chrono::milliseconds time, QObject *owner, std::function<void()> then) {
             m_waits.append(time);
-            if (time == UpdateService::checkInterval || time == 1s)
+            if (time == 1s || time >= UpdateService::firstRetryDelay)
                 m_waiting = std::move(then);
             else
                 QTimer::singleShot(0, owner, std::move(then));
         };
         return {
-            .network = &m_network,
             .installer = &m_installer,
             .origin = m_site->url().toString(QUrl::StripTrailingSlash),
             .version = u"1.4.2"_s,
             .build = u"5"_s,
             .wait = wait,
             .openPage = [this](const QUrl &page) { m_opened.append(page); },
-            .limits = {.whole = 30s, .silence = 30s, .bytes = 4096},
+            .limits = {.totalTimeout = 30s, .idleTimeout = 30s, .maxBytes = 4096},
         };
     }
 
@@ -216,15 +213,15 @@ private slots:
         QTest::newRow("not there") << Answer{.status = 404} << replied(404) << 1;
         QTest::newRow("server error") << Answer{.status = 500} << replied(500) << 3;
         QTest::newRow("redirected without end")
-            << Answer{.status = 302, .location = "/version.json"} << QString() << 3;
+            << Answer{.status = 302, .location = "/version.json"} << replied(302) << 3;
         QTest::newRow("silent") << Answer{.pace = Pace::silent} << QString() << 3;
-        QTest::newRow("stalling") << Answer{.body = old, .toldLength = 4000, .pace = Pace::stalling}
+        QTest::newRow("stalling") << Answer{.body = old, .contentLength = 4000, .pace = Pace::stalling}
                                   << QString() << 3;
         QTest::newRow("dripping") << Answer{.pace = Pace::dripping} << QString() << 3;
         QTest::newRow("endless") << Answer{.pace = Pace::endless} << QString() << 3;
         QTest::newRow("ended early") << Answer{.contentType = "application/json",
                                                .body = old,
-                                               .toldLength = 4000}
+                                               .contentLength = 4000}
                                      << QString() << 3;
         QTest::newRow("hanging up") << Answer{.pace = Pace::hangingUp} << QString() << 3;
     }
@@ -236,14 +233,13 @@ private slots:
         QFETCH(QString, notice);
         QFETCH(int, requests);
         m_site->answer(u"/version.json"_s, answer);
-        // Qt asks more often of its own accord in these two.
-        const bool isCountable = answer.status != 302 && answer.pace != Pace::hangingUp;
+        const int requestsEach = answer.status == 302 ? 11 : 1;
         for (const bool manual : {false, true}) {
             m_waits.clear();
             m_site->forgetRequests();
             auto told = options();
             if (notice.isEmpty())
-                told.limits = {.whole = 500ms, .silence = 250ms, .bytes = 4096};
+                told.limits = {.totalTimeout = 500ms, .idleTimeout = 250ms, .maxBytes = 4096};
             UpdateService service(std::move(told));
             check(service, manual);
 
@@ -255,10 +251,13 @@ private slots:
                 QVERIFY(!service.notice().isEmpty());
             else
                 QCOMPARE(service.notice(), notice.contains(u'%') ? notice.arg(siteName()) : notice);
-            const QList<std::chrono::milliseconds> waits{2s, 4s};
-            QVERIFY(m_waits == (requests == 1 ? QList<std::chrono::milliseconds>{} : waits));
-            if (isCountable)
-                QCOMPARE(m_site->requests().size(), requests);
+            QList<std::chrono::milliseconds> waits;
+            if (requests == 3)
+                waits = {2s, 4s};
+            if (!manual && notice.isEmpty())
+                waits.append(UpdateService::firstRetryDelay);
+            QVERIFY(m_waits == waits);
+            QCOMPARE(m_site->requests().size(), requests * requestsEach);
         }
     }
 
@@ -409,6 +408,43 @@ private slots:
         QVERIFY(m_waits.endsWith(1s));
         m_waiting();
         QCOMPARE(m_installer.installs.size(), 1);
+    }
+
+    void anInstallEndsACheckThatIsUnderWay()
+    {
+        Answer answer = json(quoted("{'version': '1.5', 'download': '/x.zip'}"));
+        m_site->answer(u"/version.json"_s, answer);
+        UpdateService service(options());
+        check(service, false);
+        answer.pace = Pace::onRelease;
+        m_site->answer(u"/version.json"_s, answer);
+        service.check(true);
+        QTRY_COMPARE(m_site->requests().size(), 2);
+        service.install();
+        QTRY_COMPARE(m_site->openConnections(), 0);
+        m_installer.done({});
+        m_site->release(u"/version.json"_s);
+        QTest::qWait(50);
+        QVERIFY(!service.available());
+        QVERIFY(service.isInstalling());
+    }
+
+    void aCheckThatNothingAnswersIsMadeAgain()
+    {
+        m_site->answer(u"/version.json"_s, {.pace = Pace::hangingUp});
+        UpdateService service(options());
+        service.checkRegularly(this);
+        m_waiting = nullptr;
+        const QList<std::chrono::seconds> delays{10s, 20s, 40s, 80s, 160s, 320s, 640s, 1200s, 1200s};
+        for (const auto &delay : delays) {
+            QTRY_VERIFY(!service.isChecking());
+            QVERIFY(m_waits.endsWith(delay));
+            if (&delay == &delays.last())
+                m_site->answer(u"/version.json"_s, json(quoted("{'version': '1.5'}")));
+            std::exchange(m_waiting, nullptr)();
+        }
+        QTRY_COMPARE(service.offeredVersion(), u"1.5"_s);
+        QVERIFY(!m_waiting);
     }
 
     void checksGoOnEverySixHours()

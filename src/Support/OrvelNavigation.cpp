@@ -1,5 +1,7 @@
 #include "Support/OrvelNavigation.h"
 
+#include "Foundation/LineText.h"
+
 #include <algorithm>
 
 namespace
@@ -59,5 +61,5 @@ OrvelNavigation::TabSplit OrvelNavigation::splitTabs(const QList<OrvelModule> &v
 QString OrvelNavigation::windowTitle(const AppSettings &settings)
 {
     const bool isBlank = settings.workspaceName.trimmed().isEmpty();
-    return isBlank ? QStringLiteral("Orvel") : settings.workspaceName;
+    return isBlank ? QStringLiteral("Orvel") : LineText::shown(settings.workspaceName);
 }

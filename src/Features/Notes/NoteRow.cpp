@@ -33,12 +33,12 @@ NoteRow NoteRow::of(const Page &note, QDate today, const QTimeZone &zone)
 
 QString NoteRow::titleText() const
 {
-    return title.trimmed().isEmpty() ? QStringLiteral("Untitled") : LineText::singleLine(title);
+    return LineText::shownTitle(title);
 }
 
 QString NoteRow::preview() const
 {
-    const QString text = LineText::singleLine(beginning(content).trimmed());
+    const QString text = LineText::shown(beginning(content).trimmed(), previewLength * 16);
     if (text.isEmpty())
         return QStringLiteral("Empty note");
     const QString shown = Graphemes::left(text, previewLength);

@@ -1,11 +1,6 @@
-#include "Harness/Comparison.h"
-#include "Harness/Desk.h"
+#include "Harness/Scene.h"
 
 #include <QGuiApplication>
-#include <QQmlComponent>
-#include <QQuickItem>
-#include <QQuickRenderControl>
-#include <QQuickWindow>
 
 #include <cstdio>
 
@@ -36,74 +31,29 @@ Snapshot notes(int count)
     return workspace;
 }
 
-/// The notes screen over a workspace, in a window that is never drawn.
-class Scene
+/// The notes screen over a workspace.
+class NotesScene : public Scene
 {
 public:
-    explicit Scene(const Snapshot &workspace) : m_desk(workspace)
+    explicit NotesScene(const Snapshot &workspace)
+        : Scene(workspace, "import Orvel.Notes\nNotesView { focus: true }")
     {
-        m_desk.provideTo(m_engine);
-        m_window.contentItem()->setSize({1240, 820});
-        m_window.resize(1240, 820);
-        QFocusEvent focus(QEvent::FocusIn);
-        QCoreApplication::sendEvent(&m_window, &focus);
     }
 
-    Comparison::Duration openNotes()
-    {
-        m_screen.reset();
-        return timed([this] {
-            QQmlComponent component(&m_engine);
-            component.setData("import Orvel.Notes\nNotesView { focus: true }", QUrl());
-            m_screen.reset(qobject_cast<QQuickItem *>(component.create()));
-            m_screen->setParentItem(m_window.contentItem());
-            m_screen->setSize({1240, 820});
-            settle();
-        });
-    }
-
-    /// To the moment when nothing is left to do but to draw.
     Comparison::Duration typeKey()
     {
         const QString text = QString::fromUtf16(typedText);
         if (m_typed == text.size()) {
-            press(Qt::Key_Escape, {});
-            settle();
+            press(Qt::Key_Escape);
             m_typed = 0;
         }
         const QChar letter = text[m_typed++];
-        return timed([&] {
-            press(letter.toUpper().unicode(), letter);
-            settle();
-        });
+        return press(letter.toUpper().unicode(), letter);
     }
 
-    QString query() const
-    {
-        const QQuickItem *const field = m_window.activeFocusItem();
-        return field ? field->property("text").toString() : QString();
-    }
+    QString query() const { return focusItem() ? focusItem()->property("text").toString() : QString(); }
 
 private:
-    void press(int key, const QString &text)
-    {
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier, text);
-            QCoreApplication::sendEvent(&m_window, &event);
-        }
-    }
-
-    void settle()
-    {
-        QCoreApplication::processEvents();
-        m_control.polishItems();
-    }
-
-    Desk m_desk;
-    QQmlEngine m_engine;
-    QQuickRenderControl m_control;
-    QQuickWindow m_window{&m_control};
-    std::unique_ptr<QQuickItem> m_screen;
     qsizetype m_typed = 0;
 };
 } // namespace
@@ -111,13 +61,12 @@ private:
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
-    Scene many(notes(noteCount));
-    Scene few(notes(fewNotes));
+    NotesScene many(notes(noteCount));
+    NotesScene few(notes(fewNotes));
     const auto milliseconds = [](double count) { return Comparison::Duration(count); };
 
     Comparison comparison;
-    const auto openings =
-        Comparison::alternate(20, [&] { return many.openNotes(); }, [&] { return few.openNotes(); });
+    const auto openings = Comparison::alternate(20, [&] { return many.open(); }, [&] { return few.open(); });
     comparison.timeUnder(QStringLiteral("open the notes screen, 10,000 notes against 10, half of the times"),
                          Comparison::quantile(openings.ours, 0.5),
                          Comparison::quantile(openings.baseline, 0.5), milliseconds(100));

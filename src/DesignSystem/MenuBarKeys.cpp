@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include <utility>
+
 void MenuBarKeys::setMenuBar(QQuickItem *menuBar)
 {
     if (menuBar == m_menuBar)
@@ -94,9 +96,14 @@ void MenuBarKeys::rememberOrigin()
     if (!active || active == m_window->contentItem())
         return;
     for (const QQuickItem *item = active; item; item = item->parentItem()) {
-        if (item == m_menuBar || item->inherits("QQuickOverlay"))
+        if (item == m_menuBar || item->inherits("QQuickOverlay")) {
+            m_isAway = true;
             return;
+        }
     }
+    // A menu bar that lets go leaves the focus to a scope around what had it.
+    if (std::exchange(m_isAway, false) && m_origin && active->isAncestorOf(m_origin))
+        return;
     m_origin = active;
     const QVariant reason = active->property("focusReason");
     m_originReason = reason.isValid() ? reason.toInt() : static_cast<int>(Qt::OtherFocusReason);
@@ -108,6 +115,6 @@ void MenuBarKeys::returnToOrigin()
     if (m_menuBar->hasActiveFocus() || !m_window || !m_origin)
         return;
     const QQuickItem *active = m_window->activeFocusItem();
-    if (!active || active == m_window->contentItem())
+    if (!active || active->isAncestorOf(m_origin))
         m_origin->forceActiveFocus(static_cast<Qt::FocusReason>(m_originReason));
 }

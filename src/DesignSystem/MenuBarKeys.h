@@ -43,4 +43,6 @@ private:
     QPointer<QQuickWindow> m_window;
     int m_originReason = Qt::OtherFocusReason;
     bool m_altAlone = false;
+    /// Whether the menu bar or one of its menus had the focus last.
+    bool m_isAway = false;
 };

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -18,7 +20,7 @@ Item {
 
     Component.onCompleted: {
         if (animated && Theme.motionEnabled)
-            settle.start()
+            (settling.createObject(root) as Animation).start()
     }
 
     implicitHeight: contentItem ? contentItem.implicitHeight : 0
@@ -31,18 +33,21 @@ Item {
         width: root.width
     }
 
-    SequentialAnimation {
-        id: settle
+    // Most elements come without it.
+    Component {
+        id: settling
 
-        PropertyAction { target: holder; property: "opacity"; value: 0 }
-        PropertyAction { target: holder; property: "y"; value: root.offset }
-        PropertyAction { target: holder; property: "scale"; value: root.scaleFrom }
-        // The first dozen come one after the other, the rest together with the last of them.
-        PauseAnimation { duration: 45 * Math.min(root.index, 11) }
-        ParallelAnimation {
-            NumberAnimation { target: holder; property: "opacity"; to: 1; duration: Theme.durationSpring }
-            NumberAnimation { target: holder; property: "y"; to: 0; duration: Theme.durationSpring; easing: Theme.springEasing }
-            NumberAnimation { target: holder; property: "scale"; to: 1; duration: Theme.durationSpring; easing: Theme.springEasing }
+        SequentialAnimation {
+            PropertyAction { target: holder; property: "opacity"; value: 0 }
+            PropertyAction { target: holder; property: "y"; value: root.offset }
+            PropertyAction { target: holder; property: "scale"; value: root.scaleFrom }
+            // The first dozen come one after the other, the rest together with the last of them.
+            PauseAnimation { duration: 45 * Math.min(root.index, 11) }
+            ParallelAnimation {
+                NumberAnimation { target: holder; property: "opacity"; to: 1; duration: Theme.durationSpring }
+                NumberAnimation { target: holder; property: "y"; to: 0; duration: Theme.durationSpring; easing: Theme.springEasing }
+                NumberAnimation { target: holder; property: "scale"; to: 1; duration: Theme.durationSpring; easing: Theme.springEasing }
+            }
         }
     }
 }

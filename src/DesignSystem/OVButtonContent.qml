@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -15,25 +17,30 @@ Item {
     property bool trailing: false
     readonly property int start: Math.round((width - label.width - label.offset) / 2)
 
-    implicitHeight: Math.max(icon.visible ? icon.height : 0, label.implicitHeight)
+    implicitHeight: Math.max(icon.active ? icon.height : 0, label.implicitHeight)
     implicitWidth: label.implicitWidth + label.offset
 
-    OVIcon {
+    OVLazyLoader {
         id: icon
 
+        active: root.symbol !== ""
         anchors.verticalCenter: parent.verticalCenter
-        color: root.color
-        filled: root.filled
-        size: root.iconSize
-        symbol: root.symbol
-        visible: root.symbol !== ""
+        height: root.iconSize
+        width: root.iconSize
         x: root.trailing ? label.x + label.width + label.offset - width : root.start
+
+        sourceComponent: OVIcon {
+            color: root.color
+            filled: root.filled
+            size: root.iconSize
+            symbol: root.symbol
+        }
     }
 
     OVText {
         id: label
 
-        readonly property int offset: !icon.visible ? 0 : icon.width + (root.text === "" ? 0 : 6)
+        readonly property int offset: !icon.active ? 0 : icon.width + (root.text === "" ? 0 : 6)
 
         anchors.verticalCenter: parent.verticalCenter
         color: root.color
@@ -42,5 +49,6 @@ Item {
         text: root.text
         width: Math.min(implicitWidth, root.width - offset)
         x: root.start + (root.trailing ? 0 : offset)
+        Accessible.ignored: true
     }
 }

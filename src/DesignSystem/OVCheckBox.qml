@@ -8,6 +8,15 @@ T.CheckBox {
 
     property string detail: ""
 
+    /// Does what a press by the pointer does.
+    function activate() {
+        if (!enabled)
+            return
+        toggle()
+        toggled()
+        clicked()
+    }
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + topPadding + bottomPadding)
     hoverEnabled: true
@@ -18,6 +27,8 @@ T.CheckBox {
 
     Accessible.name: text
     Accessible.description: detail
+    Accessible.onPressAction: activate()
+    Accessible.onToggleAction: activate()
 
     contentItem: OVLabelPair {
         leftPadding: control.indicator.width + (control.text !== "" ? control.spacing : 0)

@@ -11,8 +11,9 @@ OVPressable {
     leftPadding: Theme.space12
     radius: height / 2
     rightPadding: Theme.space12
-    Accessible.checkable: checkable
+    Accessible.checkable: true
     Accessible.checked: checked
+    OVAccessible.role: Accessible.CheckBox
 
     background: Rectangle {
         border.color: root.checked ? Theme.ovBorderStrong : Theme.ovBorder

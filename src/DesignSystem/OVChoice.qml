@@ -16,6 +16,8 @@ T.ItemDelegate {
     font.pixelSize: Theme.sizeDense
 
     Accessible.name: text
+    Accessible.selected: chosen
+    Accessible.onPressAction: clicked()
 
     contentItem: OVText {
         rightPadding: Theme.iconRow + Theme.space8

@@ -17,10 +17,12 @@ T.AbstractButton {
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
 
-    Accessible.role: Accessible.RadioButton
+    OVAccessible.role: Accessible.RadioButton
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: chosen
+    Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onToggleAction: if (enabled) clicked()
 
     background: Rectangle {
         radius: width / 2
@@ -49,7 +51,7 @@ T.AbstractButton {
     }
 
     OVToolTip {
-        visible: swatch.hovered && swatch.text !== ""
+        shown: swatch.hovered || swatch.visualFocus
         text: swatch.text
     }
 }

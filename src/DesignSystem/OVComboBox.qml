@@ -22,6 +22,7 @@ T.ComboBox {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.sizeBody
 
+    Accessible.onPressAction: if (enabled) popup.open()
     Keys.onReleased: event => {
         const opens = !popup.visible && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
         event.accepted = opens
@@ -59,6 +60,7 @@ T.ComboBox {
     }
 
     popup: OVPopup {
+        name: control.Accessible.name
         y: control.height + Theme.space4
         width: control.width
         height: Math.min(implicitHeight, (control.Window.height || implicitHeight) - 2 * Theme.space8)

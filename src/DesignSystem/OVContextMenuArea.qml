@@ -12,12 +12,13 @@ Item {
     /// What a right click gives the focus to before the menu opens, as a text field needs; null for nothing.
     property Item focusTarget: null
     /// The menu once it was asked for.
-    readonly property OVMenu openMenu: loader.item as OVMenu
+    property OVMenu openMenu: null
 
     function openAt(x: real, y: real) {
         if (focusTarget && !focusTarget.activeFocus)
             focusTarget.forceActiveFocus(Qt.MouseFocusReason)
-        loader.active = true
+        if (!openMenu)
+            openMenu = menu.createObject(area) as OVMenu
         openMenu.popup(area, x, y)
     }
 
@@ -34,11 +35,5 @@ Item {
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.WithinBounds
         onTapped: eventPoint => area.openAt(eventPoint.position.x, eventPoint.position.y)
-    }
-
-    Loader {
-        id: loader
-        active: false
-        sourceComponent: area.menu
     }
 }

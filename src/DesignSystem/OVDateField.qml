@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
@@ -30,7 +32,7 @@ T.AbstractButton {
 
     function open() {
         now = new Date()
-        loader.active = true
+        loader.load()
         popup.byKeyboard = visualFocus
         popup.open()
     }
@@ -44,7 +46,7 @@ T.AbstractButton {
     font.family: Theme.fontFamily
     font.pixelSize: compact ? Theme.sizeCaption : Theme.sizeBody
 
-    Accessible.role: Accessible.Button
+    Accessible.onPressAction: if (enabled) clicked()
     Accessible.name: name !== "" ? name + ": " + text : text
     Keys.onReturnPressed: open()
     Keys.onEnterPressed: open()
@@ -89,12 +91,9 @@ T.AbstractButton {
         ringVisible: field.visualFocus
     }
 
-    Loader {
+    OVLazyLoader {
         id: loader
-        active: false
 
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
         sourceComponent: OVDatePopup {
             parent: field
             value: field.value
@@ -105,6 +104,5 @@ T.AbstractButton {
             onEdited: moment => field.edited(moment)
             onCleared: field.cleared()
         }
-        // qmllint enable unqualified
     }
 }

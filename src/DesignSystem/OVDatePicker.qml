@@ -101,7 +101,7 @@ T.Control {
             focus: true
             focusPolicy: Qt.TabFocus
 
-            Accessible.role: Accessible.Table
+            OVAccessible.role: Accessible.Table
             Accessible.name: month.cursorText
             Accessible.focusable: true
 

@@ -21,6 +21,7 @@ OVPopup {
     /// The person took the value away.
     signal cleared()
 
+    name: showsDate ? qsTr("Choose a date") : qsTr("Choose a time")
     y: (parent?.height ?? 0) + Theme.space4
     focus: true
 

@@ -27,18 +27,17 @@ T.Dialog {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    OVAccessible.name: title
+    OVAccessible.role: Accessible.AlertMessage
 
     T.Overlay.modal: OVScrim { }
     background: OVPopupSurface { radius: Theme.cornerSheet }
-    enter: OVSheetEnter { }
-    exit: OVSheetExit { }
+    enter: OVEnter { rises: true }
+    exit: OVExit { sinks: true }
 
     contentItem: Column {
         spacing: Theme.space8
 
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: dialog.title
-        Accessible.description: dialog.message
         Keys.onReturnPressed: if (dialog.acceptEnabled) acceptButton.activate()
         Keys.onEnterPressed: if (dialog.acceptEnabled) acceptButton.activate()
 

@@ -40,8 +40,10 @@ QStringList OVFonts::families(FontChoice design)
         return {QStringLiteral("Quicksand"), QStringLiteral("Nunito"), QStringLiteral("Varela Round"),
                 QStringLiteral("Comfortaa"), QStringLiteral("Inter"),  QStringLiteral("DejaVu Sans")};
     case FontChoice::serif:
-        return {QStringLiteral("Vollkorn"), QStringLiteral("Source Serif 4"), QStringLiteral("Noto Serif"),
-                QStringLiteral("Liberation Serif"), QStringLiteral("DejaVu Serif")};
+        // Figures as high as capitals come first: old-style ones read as letters ("Note I", "24:5q").
+        return {QStringLiteral("Caladea"),    QStringLiteral("Cambria"),          QStringLiteral("Source Serif 4"),
+                QStringLiteral("Noto Serif"), QStringLiteral("Liberation Serif"), QStringLiteral("Vollkorn"),
+                QStringLiteral("DejaVu Serif")};
     case FontChoice::monospaced:
         return {QStringLiteral("JetBrains Mono"),  QStringLiteral("Fira Code"),
                 QStringLiteral("Source Code Pro"), QStringLiteral("Noto Sans Mono"),
@@ -59,15 +61,6 @@ QString OVFonts::family(FontChoice design)
         installed(families(FontChoice::monospaced)),
     });
     return chosen.at(static_cast<std::size_t>(design));
-}
-
-QString OVFonts::numberFamily(FontChoice design)
-{
-    if (design != FontChoice::serif)
-        return family(design);
-    static const QString chosen = installed(
-        QStringList{QStringLiteral("Caladea"), QStringLiteral("Cambria")} + families(FontChoice::serif));
-    return chosen;
 }
 
 QString OVFonts::emojiFamily()

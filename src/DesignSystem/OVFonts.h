@@ -15,10 +15,6 @@ QStringList families(FontChoice design);
 /// characters that the family lacks.
 QString family(FontChoice design);
 
-/// The family for large numbers beside text of a design: the same one, unless its figures hang below the
-/// line.
-QString numberFamily(FontChoice design);
-
 /// The family of colour emoji, for texts that are an emoji alone.
 QString emojiFamily();
 

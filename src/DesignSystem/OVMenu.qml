@@ -10,6 +10,8 @@ T.Menu {
     /// Whether a column for icons and check marks stands before the titles.
     property bool hasLeadingColumn: false
     property real widestItem: 0
+    /// What it is, for assistive technology; its title, or the words of the button that opens it.
+    property string name: title === "" ? qsTr("Menu") : title.replace(/&(.)/g, "$1")
     readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: menu }
 
     function measure() {
@@ -52,13 +54,14 @@ T.Menu {
     overlap: Theme.space4
     focus: true
     transformOrigin: Item.TopLeft
+    OVAccessible.name: name
 
     onAboutToShow: measure()
 
     delegate: OVMenuItem { }
     background: OVPopupSurface { }
-    enter: OVPopupEnter { }
-    exit: OVPopupExit { }
+    enter: OVEnter { }
+    exit: OVExit { }
 
     contentItem: ListView {
         implicitHeight: contentHeight

@@ -15,6 +15,8 @@ T.MenuBarItem {
     hoverEnabled: true
 
     Accessible.name: label.text
+    OVAccessible.role: Accessible.MenuItem
+    Accessible.onPressAction: if (enabled) clicked()
 
     contentItem: OVText {
         id: label

@@ -12,6 +12,7 @@ OVPressable {
 
     function open() {
         menu.parent = root
+        menu.name = text
         menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
         menu.currentIndex = visualFocus ? 0 : -1
     }
@@ -19,7 +20,7 @@ OVPressable {
     implicitHeight: plain ? Theme.chipHeight : Theme.buttonHeight
     leftPadding: plain ? Theme.space8 : Theme.space12
     rightPadding: leftPadding
-    Accessible.role: Accessible.ButtonMenu
+    OVAccessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: open()
     onClicked: open()
 

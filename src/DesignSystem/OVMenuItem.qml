@@ -9,7 +9,7 @@ T.MenuItem {
 
     /// The product's name of an icon; empty for none.
     property string symbol: ""
-    /// The keys that do the same without the menu, as the person reads them.
+    /// The keys that do the same without the menu, as the user reads them.
     property string shortcutText: ""
     /// Whether the entry takes something away.
     property bool destructive: false
@@ -28,7 +28,17 @@ T.MenuItem {
     opacity: enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
 
+    Accessible.checkable: checkable
+    Accessible.checked: checkable && checked
     Accessible.name: title
+    OVAccessible.role: Accessible.MenuItem
+    Accessible.onPressAction: {
+        if (!enabled)
+            return
+        if (checkable)
+            toggle()
+        clicked()
+    }
 
     contentItem: Item {
         implicitWidth: label.x + label.implicitWidth + (item.shortcutText !== "" ? Theme.space32 + keys.implicitWidth : 0)

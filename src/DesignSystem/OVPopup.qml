@@ -6,6 +6,8 @@ import Orvel.DesignSystem
 T.Popup {
     id: popup
 
+    /// What it is, for assistive technology.
+    property string name: ""
     readonly property OVFocusReturn focusReturn: OVFocusReturn { popup: popup }
 
     implicitWidth: contentWidth + leftPadding + rightPadding
@@ -13,8 +15,9 @@ T.Popup {
     margins: Theme.space8
     padding: Theme.space12
     transformOrigin: Item.Top
+    OVAccessible.name: name
 
     background: OVPopupSurface { }
-    enter: OVPopupEnter { }
-    exit: OVPopupExit { }
+    enter: OVEnter { }
+    exit: OVExit { }
 }

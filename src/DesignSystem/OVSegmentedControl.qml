@@ -30,7 +30,7 @@ T.Control {
     font.family: Theme.fontFamily
     font.pixelSize: Theme.sizeDense
 
-    Accessible.role: Accessible.PageTabList
+    OVAccessible.role: Accessible.PageTabList
     Keys.onLeftPressed: choose(currentIndex - 1)
     Keys.onRightPressed: choose(currentIndex + 1)
 
@@ -88,7 +88,7 @@ T.Control {
                     Accessible.role: Accessible.PageTab
                     Accessible.name: modelData
                     Accessible.selected: current
-                    Accessible.onPressAction: control.choose(index)
+                    Accessible.onPressAction: if (control.enabled) control.choose(index)
 
                     OVText {
                         id: label

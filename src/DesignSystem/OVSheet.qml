@@ -33,19 +33,17 @@ T.Popup {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    OVAccessible.name: accessibleName
 
     onAboutToShow: flickable.contentY = 0
 
     T.Overlay.modal: OVScrim { }
     background: OVPopupSurface { radius: Theme.cornerSheet }
-    enter: OVSheetEnter { }
-    exit: OVSheetExit { }
+    enter: OVEnter { rises: true }
+    exit: OVExit { sinks: true }
 
     contentItem: FocusScope {
         focus: true
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.accessibleName
-        Accessible.description: sheet.subtitle
         Keys.onPressed: event => event.accepted = flickable.scroll(event.key)
 
         Item {

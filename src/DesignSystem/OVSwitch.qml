@@ -10,6 +10,15 @@ T.Switch {
     property string detail: ""
     property bool indicatorTrailing: false
 
+    /// Does what a press by the pointer does.
+    function activate() {
+        if (!enabled)
+            return
+        toggle()
+        toggled()
+        clicked()
+    }
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(Theme.rowHeight, implicitContentHeight + topPadding + bottomPadding,
                              implicitIndicatorHeight + topPadding + bottomPadding)
@@ -21,6 +30,8 @@ T.Switch {
 
     Accessible.name: text
     Accessible.description: detail
+    Accessible.onPressAction: activate()
+    Accessible.onToggleAction: activate()
 
     contentItem: OVLabelPair {
         leftPadding: !control.indicatorTrailing ? control.indicator.width + (control.text !== "" ? control.spacing : 0) : 0

@@ -20,7 +20,7 @@ Text {
     color: role === OVText.Caption ? Theme.ovInkTertiary
          : role === OVText.Section ? Theme.ovInkSecondary : Theme.ovInk
     elide: Text.ElideRight
-    font.family: role === OVText.Code ? Theme.codeFamily : role === OVText.Tile ? Theme.numberFamily : Theme.fontFamily
+    font.family: role === OVText.Code ? Theme.codeFamily : Theme.fontFamily
     font.letterSpacing: role === OVText.ScreenTitle ? -0.4 * Theme.fontScale : 0
     font.pixelSize: {
         switch (role) {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
@@ -11,6 +13,9 @@ FocusScope {
     property int maximumLines: 12
     /// Without frame, for text that is edited where it stands.
     property bool plain: false
+    /// Whether the text is written into the store as it is typed, so that undo and redo are left to the
+    /// application's history.
+    property bool storeBacked: false
     property string placeholderText: ""
     property alias text: area.text
     property alias readOnly: area.readOnly
@@ -24,6 +29,9 @@ FocusScope {
     readonly property real contentLimit: maximumLines > 0 ? maximumLines * lineHeight : Infinity
 
     signal editingFinished()
+    /// The user asks for undo or redo in an area that is `storeBacked`.
+    signal undoRequested()
+    signal redoRequested()
 
     function moveFocus(event: KeyEvent, forward: bool) {
         const reason = forward ? Qt.TabFocusReason : Qt.BacktabFocusReason
@@ -83,7 +91,10 @@ FocusScope {
             selectedTextColor: Theme.ovInk
             cursorDelegate: OVCaret { }
             Accessible.name: root.Accessible.name || root.placeholderText
-            Keys.onPressed: event => contextMenu.handleKey(event)
+            Keys.onPressed: event => {
+                if (!root.storeBacked || !undoKeys.handle(event))
+                    contextMenu.handleKey(event)
+            }
             Keys.onTabPressed: event => root.moveFocus(event, true)
             Keys.onBacktabPressed: event => root.moveFocus(event, false)
             onEditingFinished: root.editingFinished()
@@ -104,11 +115,17 @@ FocusScope {
     OVContextMenuArea {
         id: contextMenu
         focusTarget: area
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
-        menu: Component {
-            OVTextMenu { target: area }
+        menu: OVTextMenu {
+            storeBacked: root.storeBacked
+            target: area
+            onRedoRequested: root.redoRequested()
+            onUndoRequested: root.undoRequested()
         }
-        // qmllint enable unqualified
+    }
+
+    OVUndoKeys {
+        id: undoKeys
+        onRedoRequested: root.redoRequested()
+        onUndoRequested: root.undoRequested()
     }
 }

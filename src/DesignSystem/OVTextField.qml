@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
@@ -13,11 +15,18 @@ T.TextField {
     property bool invalid: false
     /// Without frame, for text that is edited where it stands.
     property bool plain: false
+    /// Whether the text is written into the store as it is typed, so that undo and redo are left to the
+    /// application's history.
+    property bool storeBacked: false
     readonly property bool visualFocus: activeFocus && (focusReason === Qt.TabFocusReason
                                         || focusReason === Qt.BacktabFocusReason
                                         || focusReason === Qt.ShortcutFocusReason)
 
-    /// Empties the field as the person would.
+    /// The user asks for undo or redo in a field that is `storeBacked`.
+    signal undoRequested()
+    signal redoRequested()
+
+    /// Empties the field as the user would.
     function empty() {
         clear()
         textEdited()
@@ -27,7 +36,7 @@ T.TextField {
     implicitHeight: plain ? contentHeight + topPadding + bottomPadding
                           : Math.max(Theme.fieldHeight, contentHeight + Theme.space8)
     leftPadding: (plain ? 0 : Theme.space12) + (symbol !== "" ? Theme.iconRow + Theme.space8 : 0)
-    rightPadding: (plain ? 0 : Theme.space12) + (clearButton.visible ? clearButton.width : 0)
+    rightPadding: (plain ? 0 : Theme.space12) + clearButton.width
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
     // A long text shows its beginning until it is edited.
@@ -42,7 +51,10 @@ T.TextField {
     opacity: enabled ? 1 : Theme.disabledOpacity
 
     Accessible.name: placeholderText
-    Keys.onPressed: event => contextMenu.handleKey(event)
+    Keys.onPressed: event => {
+        if (!storeBacked || !undoKeys.handle(event))
+            contextMenu.handleKey(event)
+    }
 
     cursorDelegate: OVCaret { }
 
@@ -77,36 +89,36 @@ T.TextField {
         color: field.activeFocus ? Theme.ovInkSecondary : Theme.ovInkTertiary
     }
 
-    Loader {
+    OVLazyLoader {
         id: clearButton
         anchors.right: parent.right
         anchors.rightMargin: Theme.space4
         anchors.verticalCenter: parent.verticalCenter
-        active: field.clearable
-        visible: field.clearable && field.length > 0 && field.enabled
-
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
+        active: field.clearable && field.length > 0 && field.enabled
         sourceComponent: OVIconButton {
             symbol: "xmark"
             text: qsTr("Clear")
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             color: Theme.ovInkTertiary
             iconSize: Theme.iconRow - 2
             onClicked: field.empty()
         }
-        // qmllint enable unqualified
     }
 
     OVContextMenuArea {
         id: contextMenu
         focusTarget: field
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
-        menu: Component {
-            OVTextMenu { target: field }
+        menu: OVTextMenu {
+            storeBacked: field.storeBacked
+            target: field
+            onRedoRequested: field.redoRequested()
+            onUndoRequested: field.undoRequested()
         }
-        // qmllint enable unqualified
+    }
+
+    OVUndoKeys {
+        id: undoKeys
+        onRedoRequested: field.redoRequested()
+        onUndoRequested: field.undoRequested()
     }
 }

@@ -7,21 +7,26 @@ OVMenu {
 
     /// A TextInput or TextEdit.
     required property var target
+    /// Whether undo and redo are those of the application's history.
+    property bool storeBacked: false
+
+    signal undoRequested()
+    signal redoRequested()
 
     OVMenuItem {
         text: qsTr("Undo")
         symbol: "arrow.uturn.backward"
-        shortcutText: "Ctrl Z"
-        enabled: menu.target.canUndo && !menu.target.readOnly
-        onTriggered: menu.target.undo()
+        shortcutText: qsTr("Ctrl Z")
+        enabled: menu.storeBacked || (menu.target.canUndo && !menu.target.readOnly)
+        onTriggered: menu.storeBacked ? menu.undoRequested() : menu.target.undo()
     }
 
     OVMenuItem {
         text: qsTr("Redo")
         symbol: "arrow.uturn.forward"
-        shortcutText: "Ctrl Shift Z"
-        enabled: menu.target.canRedo && !menu.target.readOnly
-        onTriggered: menu.target.redo()
+        shortcutText: qsTr("Ctrl Shift Z")
+        enabled: menu.storeBacked || (menu.target.canRedo && !menu.target.readOnly)
+        onTriggered: menu.storeBacked ? menu.redoRequested() : menu.target.redo()
     }
 
     OVMenuSeparator { }
@@ -29,7 +34,7 @@ OVMenu {
     OVMenuItem {
         text: qsTr("Cut")
         symbol: "scissors"
-        shortcutText: "Ctrl X"
+        shortcutText: qsTr("Ctrl X")
         enabled: menu.target.selectedText !== "" && !menu.target.readOnly
         onTriggered: menu.target.cut()
     }
@@ -37,7 +42,7 @@ OVMenu {
     OVMenuItem {
         text: qsTr("Copy")
         symbol: "doc.on.doc"
-        shortcutText: "Ctrl C"
+        shortcutText: qsTr("Ctrl C")
         enabled: menu.target.selectedText !== ""
         onTriggered: menu.target.copy()
     }
@@ -45,7 +50,7 @@ OVMenu {
     OVMenuItem {
         text: qsTr("Paste")
         symbol: "doc.on.clipboard"
-        shortcutText: "Ctrl V"
+        shortcutText: qsTr("Ctrl V")
         enabled: menu.target.canPaste && !menu.target.readOnly
         onTriggered: menu.target.paste()
     }
@@ -55,7 +60,7 @@ OVMenu {
     OVMenuItem {
         text: qsTr("Select all")
         symbol: "selection.pin.in.out"
-        shortcutText: "Ctrl A"
+        shortcutText: qsTr("Ctrl A")
         enabled: menu.target.length > 0
         onTriggered: menu.target.selectAll()
     }

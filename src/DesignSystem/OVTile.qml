@@ -13,7 +13,7 @@ OVCard {
 
     implicitWidth: 160
     Accessible.name: label + ", " + value
-    Accessible.role: Accessible.Grouping
+    OVAccessible.role: Accessible.Grouping
 
     contentItem: ColumnLayout {
         spacing: Theme.space8

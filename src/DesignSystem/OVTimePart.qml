@@ -22,6 +22,8 @@ Item {
     Accessible.name: name
     Accessible.description: text
     Accessible.focusable: true
+    Accessible.onIncreaseAction: clock.step(part, 1)
+    Accessible.onDecreaseAction: clock.step(part, -1)
 
     onActiveFocusChanged: clock.endTyping()
     Keys.onUpPressed: clock.step(part, 1)
@@ -49,8 +51,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             symbol: "chevron.up"
             text: qsTr("Later")
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             autoRepeat: true
             onClicked: root.clock.step(root.part, 1)
         }
@@ -80,8 +81,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             symbol: "chevron.down"
             text: qsTr("Earlier")
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             autoRepeat: true
             onClicked: root.clock.step(root.part, -1)
         }

@@ -1,9 +1,11 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 
 /// A word of explanation by the pointer. It costs next to nothing until it shows.
-Loader {
+OVLazyLoader {
     id: root
 
     property string text
@@ -14,11 +16,8 @@ Loader {
 
     onShownChanged: if (!shown) active = false
 
-    active: false
     visible: false
 
-    // A Loader of this Qt version cannot make a bound component.
-    // qmllint disable unqualified
     sourceComponent: T.ToolTip {
         id: bubble
 
@@ -26,12 +25,12 @@ Loader {
         closePolicy: T.Popup.NoAutoClose
         delay: 0
         implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
-        implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
+        implicitWidth: Math.min(contentItem.implicitWidth, Theme.fieldWidth * 4 / 3) + leftPadding + rightPadding
         leftPadding: 8
         margins: 8
         parent: root.target
         rightPadding: 8
-        text: root.text
+        text: DisplayText.shown(root.text)
         timeout: -1
         topPadding: 5
         visible: true
@@ -50,7 +49,8 @@ Loader {
             font.pixelSize: Theme.sizeCaption
             text: bubble.text
             textFormat: Text.PlainText
-            width: Math.min(implicitWidth, 320 * Theme.fontScale)
+            elide: Text.ElideRight
+            maximumLineCount: 12
             wrapMode: Text.Wrap
         }
         enter: Transition {
@@ -60,7 +60,6 @@ Loader {
             NumberAnimation { property: "opacity"; to: 0; duration: Theme.durationMenu }
         }
     }
-    // qmllint enable unqualified
 
     Timer {
         interval: Theme.tooltipDelay

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -62,14 +64,12 @@ FocusScope {
     }
 
     // The first frame waits for no font.
-    Loader {
+    OVLazyLoader {
         active: root.captionOpacity > 0
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: mark.bottom
         anchors.topMargin: 28
 
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
         sourceComponent: OVText {
             font.letterSpacing: 2
             font.weight: Font.DemiBold
@@ -77,7 +77,6 @@ FocusScope {
             role: OVText.CardTitle
             text: "Orvel"
         }
-        // qmllint enable unqualified
     }
 
     TapHandler {

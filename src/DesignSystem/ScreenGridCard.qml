@@ -1,14 +1,19 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
 /// A card of a `ScreenGrid`, which can be pressed and takes the focus as a whole. Its parts are no stops for
 /// Tab.
+///
+/// A card that is removed under the pointer keeps its place until the pointer moves, so that a second click meets
+/// nothing else.
 FocusScope {
     id: root
 
     required property int index
     readonly property ScreenGrid grid: GridView.view as ScreenGrid
-    readonly property bool visualFocus: activeFocus && (grid?.focusVisible ?? false)
+    readonly property bool visualFocus: activeFocus && (grid?.keys.ringShown ?? false)
     readonly property bool hovered: pointer.hovered
     default property alias content: face.data
 
@@ -18,14 +23,19 @@ FocusScope {
     height: grid?.cellHeight ?? 0
     width: grid?.cellWidth ?? 0
 
+    Accessible.focusable: true
     GridView.onAdd: {
+        grid.cardAdded()
         if (!grid.opening)
-            entry.start()
+            (entry.createObject(root) as Animation).start()
     }
-    GridView.onRemove: removal.start()
-    Keys.onBacktabPressed: grid.leftBackwards()
+    GridView.onRemove: {
+        root.GridView.delayRemove = true;
+        (removal.createObject(root) as OVRemoval).begin()
+    }
+    Keys.onBacktabPressed: grid.exitBackwards()
     Keys.onPressed: event => {
-        if (grid.moveFocus(event.key))
+        if (grid.keys.press(event.key))
             event.accepted = true
     }
     onActiveFocusChanged: {
@@ -36,7 +46,7 @@ FocusScope {
     OVAppear {
         id: appear
 
-        animated: root.grid?.opening ?? false
+        animated: (root.grid?.opening ?? false) && root.grid.staggered
         height: root.grid?.cardHeight ?? 0
         index: Math.max(0, root.index)
         width: root.grid?.cardWidth ?? 0
@@ -75,22 +85,34 @@ FocusScope {
         }
     }
 
-    NumberAnimation {
+    // Made when they are needed: a grid makes a screenful of cards within one frame.
+    Component {
         id: entry
-        target: appear
-        property: "opacity"
-        from: 0
-        to: 1
-        duration: Theme.durationScreen
+
+        NumberAnimation {
+            target: appear
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.durationScreen
+        }
     }
 
-    SequentialAnimation {
+    Component {
         id: removal
-        PropertyAction { target: root; property: "GridView.delayRemove"; value: true }
-        ParallelAnimation {
-            NumberAnimation { target: appear; property: "opacity"; to: 0; duration: Theme.durationRemoval }
-            NumberAnimation { target: appear; property: "scale"; to: 0.96; duration: Theme.durationRemoval }
+
+        OVRemoval {
+            content: appear
+            fadesFirst: true
+            hover: pointer
+            onReleased: root.GridView.delayRemove = false
+
+            Connections {
+                target: root.grid
+                function onCardAdded() {
+                    root.GridView.delayRemove = false
+                }
+            }
         }
-        PropertyAction { target: root; property: "GridView.delayRemove"; value: false }
     }
 }

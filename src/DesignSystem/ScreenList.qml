@@ -10,6 +10,9 @@ import Orvel.DesignSystem
 ListView {
     id: list
 
+    /// The screen's name; its rows appear one after the other at the first visit. Empty for rows that are there at
+    /// once.
+    property string screen: ""
     /// Widest the column gets.
     property int maximumWidth: Theme.listWidth
     /// Room to keep free beside the column, for rows that draw there.
@@ -19,39 +22,23 @@ ListView {
     readonly property int columnX: Math.round((width - columnWidth) / 2)
     /// What stands above the rows; it gets the width of the column.
     property Item above
-    /// Whether the first rows still appear one after the other.
+    /// Whether the first rows still come.
     property bool opening: true
-    /// Whether the focus was moved by keys, so that its ring shows.
-    property bool focusVisible: false
-
-    /// The person goes from the rows to the stop before them.
-    signal leftBackwards()
-
-    /// Gives a row the focus, and brings it into view.
-    function focusRow(row: int, reason: int) {
-        if (count === 0)
-            return
-        currentIndex = Math.max(0, Math.min(row, count - 1))
-        positionViewAtIndex(currentIndex, ListView.Contain)
-        focusVisible = reason !== Qt.MouseFocusReason
-        currentItem.forceActiveFocus(reason)
+    /// Whether they come one after the other.
+    readonly property bool staggered: screen !== "" && Visits.isFirst(screen)
+    readonly property ListFocus keys: ListFocus {
+        view: list
+        onExited: edge => list.exited(edge)
     }
 
-    /// Moves the focus as the key says; false for any other key.
-    function moveFocus(key: int): bool {
-        const page = Math.max(1, Math.floor(height / Math.max(1, currentItem?.height ?? 1)) - 1)
-        const steps = {
-            [Qt.Key_Up]: -1,
-            [Qt.Key_Down]: 1,
-            [Qt.Key_PageUp]: -page,
-            [Qt.Key_PageDown]: page,
-            [Qt.Key_Home]: -count,
-            [Qt.Key_End]: count
-        }
-        if (!(key in steps))
-            return false
-        focusRow(currentIndex + steps[key], Qt.TabFocusReason)
-        return true
+    /// The user goes on beyond the first or last row by a key, to a `Qt.Edge`.
+    signal exited(edge: int)
+    /// A row has come: one whose place was kept gives it up.
+    signal rowAdded()
+
+    /// Gives the focus to the stop before the rows.
+    function exitBackwards() {
+        (headerItem as ScreenViewHeader).exitBackwards()
     }
 
     boundsBehavior: Flickable.StopAtBounds
@@ -62,62 +49,8 @@ ListView {
     reuseItems: false
     T.ScrollBar.vertical: OVScrollBar { }
 
-    header: FocusScope {
-        id: header
-
-        property int lastRow: 0
-        property real lastHeight: 0
-
-        focus: true
-        height: list.above?.height ?? 0
-        width: list.width
-
-        // A list that shows its beginning goes on to show it when what stands above the rows grows.
-        onHeightChanged: {
-            const growth = Math.max(0, height - lastHeight)
-            lastHeight = height
-            if (list.contentY - y <= growth + 1)
-                Qt.callLater(list.positionViewAtBeginning)
-        }
-        onActiveFocusChanged: {
-            if (!activeFocus || entry.activeFocus || list.opening)
-                return
-            // Without a current row, one that is removed can't draw the focus to its neighbour.
-            lastRow = Math.max(0, list.currentIndex)
-            list.currentIndex = -1
-            if (Window.activeFocusItem?.mapToItem(list, 0, 0).y < 0)
-                list.positionViewAtBeginning()
-        }
-
-        Connections {
-            target: list
-            function onLeftBackwards() {
-                entry.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-            }
-        }
-
-        Item {
-            id: column
-            children: [list.above]
-            width: list.columnWidth
-            x: list.columnX
-
-            Binding {
-                target: list.above
-                property: "width"
-                value: column.width
-            }
-        }
-
-        // The one stop for Tab that all rows share.
-        Item {
-            id: entry
-            activeFocusOnTab: list.count > 0
-            onActiveFocusChanged: {
-                if (activeFocus)
-                    list.focusRow(list.currentIndex < 0 ? header.lastRow : list.currentIndex, Qt.TabFocusReason)
-            }
-        }
+    header: ScreenViewHeader {
+        view: list
     }
     footer: Item {
         height: list.padding

@@ -1,8 +1,13 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
 /// A row of a `ScreenList`: it stands in the screen's column, appears and collapses, and takes the focus as a
 /// whole. Its parts are no stops for Tab; keys that the row doesn't know come to `Keys` of the derived row.
+///
+/// A row that is removed under the pointer keeps its place until the pointer moves, so that a second click meets
+/// nothing else.
 FocusScope {
     id: row
 
@@ -11,13 +16,13 @@ FocusScope {
     /// Whether a row that is added to a shown list fades in.
     property bool fadesIn: true
     readonly property ScreenList list: ListView.view as ScreenList
-    readonly property bool visualFocus: activeFocus && list.focusVisible
+    readonly property bool visualFocus: activeFocus && list.keys.ringShown
     readonly property alias hovered: pointer.hovered
     default property alias content: appear.content
 
     /// What Shift+Tab does here; false to leave it to others.
     function leaveBackwards(): bool {
-        list.leftBackwards()
+        list.exitBackwards()
         return true
     }
 
@@ -30,16 +35,20 @@ FocusScope {
             list.currentIndex = index
     }
     ListView.onAdd: {
+        list.rowAdded()
         if (fadesIn && !list.opening)
-            entry.start()
+            (entry.createObject(row) as Animation).start()
     }
-    ListView.onRemove: removal.start()
+    ListView.onRemove: {
+        row.ListView.delayRemove = true;
+        (removal.createObject(row) as OVRemoval).begin()
+    }
 
     Keys.onBacktabPressed: event => event.accepted = leaveBackwards()
 
     OVAppear {
         id: appear
-        animated: row.list?.opening ?? false
+        animated: (row.list?.opening ?? false) && row.list.staggered
         height: row.rowHeight
         index: Math.max(0, row.index)
         width: row.list?.columnWidth ?? 0
@@ -48,23 +57,40 @@ FocusScope {
         HoverHandler { id: pointer }
     }
 
-    NumberAnimation {
+    // Made when they are needed: a list makes a screenful of rows within one frame.
+    Component {
         id: entry
-        target: appear
-        property: "opacity"
-        from: 0
-        to: 1
-        duration: Theme.durationScreen
+
+        NumberAnimation {
+            target: appear
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.durationScreen
+        }
     }
 
-    SequentialAnimation {
+    Component {
         id: removal
-        PropertyAction { target: row; property: "ListView.delayRemove"; value: true }
-        PropertyAction { target: row; property: "clip"; value: true }
-        ParallelAnimation {
-            NumberAnimation { target: row; property: "height"; to: 0; duration: Theme.durationRemoval; easing.type: Easing.OutCubic }
-            NumberAnimation { target: row; property: "opacity"; to: 0; duration: Theme.durationRemoval }
+
+        OVRemoval {
+            content: appear
+            hover: pointer
+            onReleased: collapse.start()
+
+            Connections {
+                target: row.list
+                function onRowAdded() {
+                    row.ListView.delayRemove = false
+                }
+            }
+
+            SequentialAnimation {
+                id: collapse
+                PropertyAction { target: row; property: "clip"; value: true }
+                NumberAnimation { target: row; property: "height"; to: 0; duration: Theme.durationRemoval; easing.type: Easing.OutCubic }
+                PropertyAction { target: row; property: "ListView.delayRemove"; value: false }
+            }
         }
-        PropertyAction { target: row; property: "ListView.delayRemove"; value: false }
     }
 }

@@ -6,11 +6,19 @@ Item {
     width: 900
     height: 600
 
-    Item {
-        id: opener
+    // As in a program's window, what has the focus lies in a scope of its own.
+    FocusScope {
+        focus: true
         width: 100
-        height: 30
-        activeFocusOnTab: true
+        height: 600
+
+        Item {
+            id: opener
+            activeFocusOnTab: true
+            focus: true
+            height: 30
+            width: 100
+        }
     }
 
     OVMenu {

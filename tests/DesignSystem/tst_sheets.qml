@@ -101,5 +101,31 @@ Item {
             compare(undone.count, 1)
             tryCompare(toast, "visible", false)
         }
+
+        function test_toastWithAnActionIsNotInTheWay() {
+            toast.show("Task deleted", "Undo")
+            compare(toast.duration, 6000)
+            tryCompare(toast, "opened", true)
+            outside.forceActiveFocus(Qt.TabFocusReason)
+            const action = findChild(toast.contentItem, "action")
+            for (let i = 0; i < 4; ++i) {
+                keyClick(Qt.Key_Tab)
+                verify(!action.activeFocus)
+            }
+            keyClick(Qt.Key_Escape)
+            verify(toast.visible)
+
+            toast.duration = 300
+            toast.show("Task deleted", "Undo")
+            mouseMove(action, 5, 5)
+            wait(600)
+            verify(toast.opened)
+            mouseMove(outside, 1, 1)
+            tryCompare(toast, "visible", false)
+            toast.show("Copied")
+            compare(toast.actionText, "")
+            toast.close()
+            tryCompare(toast, "visible", false)
+        }
     }
 }

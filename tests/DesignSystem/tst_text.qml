@@ -37,6 +37,11 @@ TestCase {
         tryVerify(() => tip.shown)
         tryVerify(() => tip.item !== null && tip.item.opened)
         compare(tip.item.text, lengthy.text)
+        const words = lengthy.text
+        lengthy.text = (words + " ").repeat(40)
+        tryVerify(() => tip.item.height > 4 * tip.item.font.pixelSize)
+        verify(tip.item.width < 360, tip.item.width)
+        lengthy.text = words
         mouseMove(test, 390, 290)
         tryVerify(() => tip.item === null)
     }

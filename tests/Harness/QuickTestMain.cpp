@@ -1,3 +1,5 @@
+#include "Harness/Assistive.h"
+
 #include <QQmlEngine>
 #include <QtQuickTest>
 
@@ -7,7 +9,14 @@ class Setup : public QObject
     Q_OBJECT
 
 public slots:
-    void qmlEngineAvailable(QQmlEngine *engine) { engine->addImportPath(QStringLiteral(":/qt/qml")); }
+    void qmlEngineAvailable(QQmlEngine *engine)
+    {
+        engine->addImportPath(QStringLiteral(":/qt/qml"));
+        qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Assistive", &m_assistive);
+    }
+
+private:
+    Assistive m_assistive;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(orvel, Setup)

@@ -1,4 +1,5 @@
 #include "DesignSystem/OVTheme.h"
+#include "Harness/Assistive.h"
 #include "Harness/TestComposer.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
@@ -17,6 +18,7 @@ public slots:
         engine->addImportPath(QStringLiteral(":/qt/qml"));
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Workspace", &m_workspace);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
+        qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Assistive", &m_assistive);
         m_session.provideTo(*engine);
         const WorkspaceStore &store = m_workspace.store();
         connect(&store, &WorkspaceStore::changed, this, [&store](const ChangeSet &changes) {
@@ -27,6 +29,7 @@ public slots:
     }
 
 private:
+    Assistive m_assistive;
     TestComposer m_composer;
     TestWorkspace m_workspace;
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates()};

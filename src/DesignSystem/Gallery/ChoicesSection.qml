@@ -38,13 +38,13 @@ GallerySection {
         Layout.fillWidth: true
         spacing: Theme.space16
 
-        OVSegmentedControl { currentIndex: 1; model: ["low", "medium", "high"]; onActivated: index => currentIndex = index }
-        OVSegmentedControl { enabled: false; model: ["Month", "Week", "Day", "Agenda"] }
-        OVComboBox { currentIndex: 1; model: ["Page", "Note", "Task"] }
-        OVComboBox { currentIndex: -1; model: ["Page"]; placeholderText: "Choose a kind" }
-        OVComboBox { enabled: false; model: ["Disabled"] }
-        OVSlider { value: 0.4 }
-        OVSlider { enabled: false; value: 0.7 }
+        OVSegmentedControl { currentIndex: 1; model: ["low", "medium", "high"]; Accessible.name: "Priority"; onActivated: index => currentIndex = index }
+        OVSegmentedControl { enabled: false; model: ["Month", "Week", "Day", "Agenda"]; Accessible.name: "View" }
+        OVComboBox { currentIndex: 1; model: ["Page", "Note", "Task"]; Accessible.name: "Kind" }
+        OVComboBox { currentIndex: -1; model: ["Page"]; placeholderText: "Choose a kind"; Accessible.name: placeholderText }
+        OVComboBox { enabled: false; model: ["Disabled"]; Accessible.name: "Disabled" }
+        OVSlider { value: 0.4; Accessible.name: "Volume" }
+        OVSlider { enabled: false; value: 0.7; Accessible.name: "Disabled" }
     }
 
     Flow {

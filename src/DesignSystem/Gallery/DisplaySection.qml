@@ -50,9 +50,9 @@ GallerySection {
                     OVBadge { symbol: "flame.fill"; text: "12"; tone: OVBadge.Success }
                     OVBadge { text: "high"; tone: OVBadge.Danger }
                 }
-                OVProgressBar { Layout.fillWidth: true; value: 0.62 }
-                OVProgressBar { Layout.fillWidth: true; color: Theme.ovSuccess; value: 1 }
-                OVProgressBar { Layout.fillWidth: true; value: 0.02 }
+                OVProgressBar { Layout.fillWidth: true; value: 0.62; Accessible.name: "Progress" }
+                OVProgressBar { Layout.fillWidth: true; color: Theme.ovSuccess; value: 1; Accessible.name: "Done" }
+                OVProgressBar { Layout.fillWidth: true; value: 0.02; Accessible.name: "Begun" }
                 Row {
                     spacing: Theme.space4
 
@@ -111,6 +111,7 @@ GallerySection {
 
             OVPressable {
                 padding: Theme.space12
+                text: "A pressable row"
 
                 contentItem: Row {
                     spacing: Theme.space8

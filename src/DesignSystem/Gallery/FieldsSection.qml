@@ -10,10 +10,10 @@ GallerySection {
         spacing: Theme.space16
 
         OVTextField { placeholderText: "New task" }
-        OVTextField { text: "Write the quarterly letter" }
-        OVTextField { text: "A text that is far too long for its field and goes on" }
-        OVTextField { enabled: false; text: "Disabled" }
-        OVTextField { text: "Edited where it stands"; plain: true }
+        OVTextField { text: "Write the quarterly letter"; Accessible.name: "Title" }
+        OVTextField { text: "A text that is far too long for its field and goes on"; Accessible.name: "Title" }
+        OVTextField { enabled: false; text: "Disabled"; Accessible.name: "Disabled" }
+        OVTextField { text: "Edited where it stands"; plain: true; Accessible.name: "Title" }
         OVSearchField { text: "tea" }
         OVSearchField { }
         OVFieldSurface { active: true; height: Theme.fieldHeight; width: Theme.fieldWidth }
@@ -34,7 +34,7 @@ GallerySection {
         spacing: Theme.space16
 
         OVTextArea { placeholderText: "Notes" }
-        OVTextArea { maximumLines: 4; text: "One\nTwo\nThree\nFour\nFive\nSix" }
-        OVTextArea { enabled: false; text: "Disabled" }
+        OVTextArea { maximumLines: 4; text: "One\nTwo\nThree\nFour\nFive\nSix"; Accessible.name: "Lines" }
+        OVTextArea { enabled: false; text: "Disabled"; Accessible.name: "Disabled" }
     }
 }

@@ -35,7 +35,8 @@ GallerySection {
         OVMenuButton { enabled: false; text: "Disabled" }
         OVSecondaryButton { text: "Dialog"; onClicked: dialog.open() }
         OVSecondaryButton { text: "Sheet"; onClicked: sheet.open() }
-        OVSecondaryButton { text: "Toast"; onClicked: toast.show("Task deleted", "Undo") }
+        OVSecondaryButton { text: "Toast"; onClicked: toast.show("Copied", "") }
+        OVSecondaryButton { text: "Toast with an action"; onClicked: toast.show("Task deleted", "Undo") }
     }
 
     Flow {

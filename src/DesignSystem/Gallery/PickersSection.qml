@@ -14,7 +14,7 @@ GallerySection {
         Layout.fillWidth: true
         spacing: Theme.space12
 
-        OVDateField { value: section.moment; onEdited: moment => section.moment = moment }
+        OVDateField { name: "Due"; value: section.moment; onEdited: moment => section.moment = moment }
         OVDateField { clearable: true; showsTime: true; value: section.moment; onEdited: moment => section.moment = moment }
         OVDateField { placeholderText: "No date" }
         OVDateField { enabled: false; value: section.moment }

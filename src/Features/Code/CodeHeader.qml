@@ -129,7 +129,7 @@ Item {
         OVIconButton {
             id: more
             anchors.verticalCenter: parent.verticalCenter
-            Accessible.role: Accessible.ButtonMenu
+            OVAccessible.role: Accessible.ButtonMenu
             symbol: "ellipsis"
             text: qsTr("More")
             onClicked: menu.openBeside(more, 0, -Theme.space4, height + Theme.space4)

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Notes
@@ -32,7 +34,7 @@ ScreenGridCard {
             remove()
             break
         default:
-            return
+            return contextMenu.handleKey(event)
         }
         event.accepted = true
     }
@@ -86,17 +88,43 @@ ScreenGridCard {
         Accessible.ignored: true
     }
 
-    OVIconButton {
+    OVLazyLoader {
+        active: card.hovered || card.visualFocus || (contextMenu.openMenu?.visible ?? false)
         anchors.right: parent.right
         anchors.rightMargin: Theme.space8
         anchors.top: parent.top
         anchors.topMargin: Theme.space8
-        activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
-        iconSize: Theme.iconRow
-        symbol: "trash"
-        text: qsTr("Delete")
-        visible: card.hovered || card.visualFocus
-        onClicked: card.remove()
+
+        sourceComponent: OVIconButton {
+            iconSize: Theme.iconRow
+            symbol: "trash"
+            tabStop: false
+            text: qsTr("Delete")
+            Accessible.name: qsTr("Delete: %1").arg(card.title)
+            onClicked: card.remove()
+        }
+    }
+
+    OVContextMenuArea {
+        id: contextMenu
+
+        menu: OVMenu {
+            OVMenuItem {
+                shortcutText: qsTr("Return")
+                symbol: "note.text"
+                text: qsTr("Open")
+                onTriggered: card.viewModel.openNote(card.noteID)
+            }
+
+            OVMenuSeparator { }
+
+            OVMenuItem {
+                destructive: true
+                shortcutText: qsTr("Del")
+                symbol: "trash"
+                text: qsTr("Delete")
+                onTriggered: card.remove()
+            }
+        }
     }
 }

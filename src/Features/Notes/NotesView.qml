@@ -31,14 +31,19 @@ FocusScope {
         focus: true
         minimumCardWidth: Theme.fieldWidth + Theme.space16
         model: notes.rows
+        screen: "notes"
 
         above: NotesHeader {
             id: header
             focus: true
             viewModel: notes
-            onLeaveDown: grid.focusCard(0, Qt.TabFocusReason)
+            onExited: grid.keys.focus(0, Qt.TabFocusReason)
         }
         delegate: NoteCard { viewModel: notes }
+        onExited: edge => {
+            if (edge === Qt.TopEdge)
+                header.focusSearch()
+        }
 
         Keys.onPressed: event => {
             event.accepted = event.text === "/"

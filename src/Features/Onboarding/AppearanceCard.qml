@@ -13,7 +13,7 @@ OVPressable {
     radius: Theme.cornerCard
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.role: Accessible.RadioButton
+    OVAccessible.role: Accessible.RadioButton
 
     background: Rectangle {
         border.color: root.checked ? Theme.accent : root.hovered ? Theme.ovBorderStrong : Theme.ovBorder

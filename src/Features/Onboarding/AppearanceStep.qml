@@ -29,7 +29,7 @@ OnboardingPage {
                 required property int index
                 required property var modelData
 
-                activeFocusOnTab: index === grid.current
+                tabStop: index === grid.current
                 checked: index === root.onboarding.appearance
                 looks: modelData.looks
                 symbol: modelData.symbol

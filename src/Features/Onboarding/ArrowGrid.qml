@@ -1,7 +1,7 @@
 import QtQuick
 
 /// A grid of controls that is one stop for Tab; the arrow keys, Home and End go from one to the next. The controls
-/// take `activeFocusOnTab` from `current` and tell of a press with `follow`.
+/// take `tabStop` from `current` and tell of a press with `follow`.
 Grid {
     id: root
 

@@ -7,7 +7,7 @@ OVPressable {
 
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.role: Accessible.RadioButton
+    OVAccessible.role: Accessible.RadioButton
 
     background: Rectangle {
         border.color: root.checked ? Theme.accent : root.hovered ? Theme.ovBorderStrong : Theme.ovBorder

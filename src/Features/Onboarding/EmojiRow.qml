@@ -48,7 +48,7 @@ Column {
                 required property int index
                 required property string modelData
 
-                activeFocusOnTab: index === grid.current
+                tabStop: index === grid.current
                 checked: modelData === root.icon
                 implicitHeight: root.tile
                 implicitWidth: root.tile

@@ -15,7 +15,7 @@ OVPressable {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.description: blurb
-    Accessible.role: Accessible.CheckBox
+    OVAccessible.role: Accessible.CheckBox
 
     background: Rectangle {
         border.color: root.hovered ? Theme.ovBorderStrong : Theme.ovBorder

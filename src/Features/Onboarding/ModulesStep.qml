@@ -42,7 +42,7 @@ OnboardingPage {
                 required property int index
                 required property var modelData
 
-                activeFocusOnTab: index === grid.current
+                tabStop: index === grid.current
                 blurb: modelData.blurb
                 checked: root.onboarding.selectedModules[index]
                 symbol: modelData.symbol

@@ -10,8 +10,7 @@ Row {
     signal menuRequested(from: Item)
 
     OVIconButton {
-        activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
+        tabStop: false
         iconSize: Theme.iconRow
         implicitHeight: Theme.space24
         implicitWidth: Theme.space24
@@ -23,8 +22,7 @@ Row {
 
     OVIconButton {
         id: handle
-        activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
+        tabStop: false
         iconSize: Theme.iconRow
         implicitHeight: Theme.space24
         implicitWidth: Theme.space24

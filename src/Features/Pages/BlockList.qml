@@ -30,7 +30,7 @@ ScreenList {
         if (count === 0)
             return
         blockCaret.column = -1
-        focusVisible = true
+        keys.ringShown = true
         show(index).part.focusAt(caret)
     }
 
@@ -58,15 +58,15 @@ ScreenList {
             leftUp()
         if (next < 0 || next >= count)
             return
-        focusVisible = true
+        keys.ringShown = true
         show(next).part.enter(direction, root, blockCaret.column)
     }
 
     function tab(index: int, forward: bool) {
         const next = index + (forward ? 1 : -1)
-        focusVisible = true
+        keys.ringShown = true
         if (next < 0)
-            leftBackwards()
+            exitBackwards()
         else if (next < count)
             show(next).part.focusByTab(forward)
         else if (editor.isZen)
@@ -140,7 +140,7 @@ ScreenList {
         hasButton: !root.editor.isZen
         width: root.width
         onAddRequested: root.editor.appendBlock()
-        onLeftBackwards: root.count > 0 ? root.show(root.count - 1).part.focusByTab(false) : root.leftBackwards()
+        onLeftBackwards: root.count > 0 ? root.show(root.count - 1).part.focusByTab(false) : root.exitBackwards()
     }
 
     BlockCaret {

@@ -45,7 +45,6 @@ Item {
         id: number
         OVText {
             color: Theme.ovInkSecondary
-            font.family: Theme.numberFamily
             font.pixelSize: Theme.sizeReading
             leftPadding: Theme.space4
             text: root.numberText
@@ -67,13 +66,12 @@ Item {
         id: toneButton
         OVPressable {
             id: button
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             implicitWidth: Theme.iconHeader + 2
             radius: Theme.cornerMark
             toolTip: qsTr("Tone")
             Accessible.name: qsTr("Tone: %1").arg(root.editor.toneLabels[root.tone])
-            Accessible.role: Accessible.ButtonMenu
+            OVAccessible.role: Accessible.ButtonMenu
             onClicked: root.toneMenuRequested(button)
 
             contentItem: Item {

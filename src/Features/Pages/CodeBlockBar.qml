@@ -22,9 +22,8 @@ Item {
 
     OVMenuButton {
         id: languageButton
-        activeFocusOnTab: false
+        tabStop: false
         anchors.verticalCenter: parent.verticalCenter
-        focusPolicy: Qt.NoFocus
         plain: true
         text: CodeLanguageList.label(root.language)
         x: Theme.space4
@@ -62,11 +61,10 @@ Item {
 
         OVIconButton {
             id: runButton
-            activeFocusOnTab: false
+            tabStop: false
             color: root.canRun ? Theme.ovSuccess : Theme.ovInkTertiary
             enabled: !root.run.running
             filled: true
-            focusPolicy: Qt.NoFocus
             iconSize: Theme.iconRow
             opacity: 1
             symbol: root.run.running ? "" : "play"
@@ -81,8 +79,7 @@ Item {
 
         OVIconButton {
             id: copyButton
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             iconSize: Theme.iconRow
             symbol: "doc.on.doc"
             text: qsTr("Copy code")

@@ -56,7 +56,6 @@ Item {
 
         OVText {
             anchors.verticalCenter: parent.verticalCenter
-            font.family: Theme.numberFamily
             role: OVText.Caption
             text: root.run.durationText
             visible: text !== ""
@@ -70,8 +69,7 @@ Item {
 
         OVIconButton {
             id: copyButton
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             iconSize: Theme.iconRow
             symbol: "doc.on.doc"
             text: qsTr("Copy")
@@ -81,8 +79,7 @@ Item {
 
         OVIconButton {
             id: hideButton
-            activeFocusOnTab: false
-            focusPolicy: Qt.NoFocus
+            tabStop: false
             iconSize: Theme.iconRow
             symbol: "xmark"
             text: qsTr("Hide output")

@@ -26,7 +26,7 @@ OVPressable {
     text: qsTr("Icon")
     toolTip: menu.visible ? "" : qsTr("Change icon")
     Accessible.name: qsTr("Icon, %1").arg(header.icon)
-    Accessible.role: Accessible.ButtonMenu
+    OVAccessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: open()
     onClicked: open()
 
@@ -67,7 +67,7 @@ OVPressable {
                     implicitWidth: Theme.fieldHeight
                     pressedScale: 0.94
                     text: modelData
-                    Accessible.role: Accessible.MenuItem
+                    OVAccessible.role: Accessible.MenuItem
                     Accessible.selected: modelData === root.header.icon
                     Keys.onDownPressed: choices.focusChoice(index + root.columns)
                     Keys.onLeftPressed: choices.focusChoice(index - 1)

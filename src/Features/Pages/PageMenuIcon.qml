@@ -15,7 +15,7 @@ OVIconButton {
     }
 
     toolTip: menu.visible ? "" : text
-    Accessible.role: Accessible.ButtonMenu
+    OVAccessible.role: Accessible.ButtonMenu
     Keys.onDownPressed: open()
     onClicked: open()
 

@@ -39,8 +39,8 @@ T.Popup {
     onImplicitHeightChanged: if (visible) place()
 
     background: OVPopupSurface { }
-    enter: OVPopupEnter { }
-    exit: OVPopupExit { }
+    enter: OVEnter { }
+    exit: OVExit { }
     contentItem: ListView {
         id: list
         boundsBehavior: Flickable.StopAtBounds

@@ -7,13 +7,12 @@ OVPressable {
 
     required property string symbol
 
-    activeFocusOnTab: false
-    focusPolicy: Qt.NoFocus
+    tabStop: false
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.space12
     pressedScale: 1
     rightPadding: Theme.space12
-    Accessible.role: Accessible.MenuItem
+    OVAccessible.role: Accessible.MenuItem
 
     contentItem: Item {
         OVIcon {

@@ -42,8 +42,8 @@ Item {
 
         T.Overlay.modal: OVScrim { }
         background: OVPopupSurface { radius: Theme.cornerSheet }
-        enter: OVPopupEnter { }
-        exit: OVPopupExit { }
+        enter: OVEnter { }
+        exit: OVExit { }
 
         contentItem: FocusScope {
             focus: true

@@ -46,7 +46,7 @@ FocusScope {
                 required property string title
                 required property string destination
 
-                activeFocusOnTab: false
+                tabStop: false
                 chosen: destination === navigationModel.selection
                 text: title
                 onClicked: Orvel.ui.select(destination)

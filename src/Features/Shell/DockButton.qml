@@ -15,7 +15,7 @@ OVPressable {
     pressedScale: 0.92
     toolTip: text
     Accessible.name: text
-    Accessible.role: Accessible.PageTab
+    OVAccessible.role: Accessible.PageTab
     Accessible.selected: chosen
 
     contentItem: Item {

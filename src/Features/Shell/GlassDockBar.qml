@@ -61,7 +61,7 @@ FocusScope {
                     required property string title
                     required property string destination
 
-                    activeFocusOnTab: false
+                    tabStop: false
                     chosen: destination === navigationModel.selection
                     text: title
                     onClicked: Orvel.ui.select(destination)
@@ -75,7 +75,7 @@ FocusScope {
 
                 symbol: "magnifyingglass"
                 text: qsTr("Search")
-                Accessible.role: Accessible.Button
+                OVAccessible.role: Accessible.Button
                 onClicked: Orvel.ui.isSearchPresented = true
             }
 
@@ -85,7 +85,7 @@ FocusScope {
                 symbol: "ellipsis"
                 text: qsTr("More")
                 toolTip: menu.visible ? "" : text
-                Accessible.role: Accessible.ButtonMenu
+                OVAccessible.role: Accessible.ButtonMenu
                 onClicked: menu.visible ? menu.close() : menu.open()
 
                 ShellOverflowMenu {

@@ -9,7 +9,7 @@ OVIconButton {
     symbol: "ellipsis"
     text: qsTr("More")
     toolTip: menu.visible ? "" : text
-    Accessible.role: Accessible.ButtonMenu
+    OVAccessible.role: Accessible.ButtonMenu
     onClicked: menu.visible ? menu.close() : menu.open()
 
     ShellOverflowMenu {

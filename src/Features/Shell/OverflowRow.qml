@@ -14,8 +14,7 @@ OVPressable {
 
     readonly property bool isPlace: destination !== ""
 
-    activeFocusOnTab: false
-    focusPolicy: Qt.NoFocus
+    tabStop: false
     hoverEnabled: isPlace
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.space12
@@ -23,7 +22,7 @@ OVPressable {
     rightPadding: Theme.space12
     text: title
     Accessible.name: title
-    Accessible.role: isPlace ? Accessible.MenuItem : Accessible.Heading
+    OVAccessible.role: isPlace ? Accessible.MenuItem : Accessible.Heading
 
     background: HoverWash {
         chosen: root.ListView.isCurrentItem

@@ -19,7 +19,7 @@ OVPressable {
     rightPadding: leftPadding
     toolTip: labelled ? "" : text
     Accessible.name: text
-    Accessible.role: Accessible.PageTab
+    OVAccessible.role: Accessible.PageTab
     Accessible.selected: chosen
 
     background: HoverWash {

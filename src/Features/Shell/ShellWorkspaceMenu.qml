@@ -20,7 +20,7 @@ OVPressable {
     text: navigation.workspaceName
     toolTip: compact ? text : ""
     Accessible.name: qsTr("Workspace menu, %1").arg(text)
-    Accessible.role: Accessible.ButtonMenu
+    OVAccessible.role: Accessible.ButtonMenu
     onClicked: menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
 
     contentItem: Item {

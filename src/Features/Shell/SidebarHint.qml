@@ -8,8 +8,8 @@ OVPressable {
     required property int index
     required property string title
 
-    activeFocusOnTab: false
-    focusPolicy: Qt.ClickFocus
+    tabStop: false
+    clickFocus: true
     leftPadding: Theme.space8 + 2
     rightPadding: Theme.space8 + 2
     bottomPadding: Theme.space8
@@ -17,7 +17,7 @@ OVPressable {
     pressedScale: 1
     text: title
     Accessible.name: text
-    Accessible.role: Accessible.ListItem
+    OVAccessible.role: Accessible.ListItem
 
     contentItem: OVText {
         color: root.hovered ? Theme.ovInkSecondary : Theme.ovInkTertiary

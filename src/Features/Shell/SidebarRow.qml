@@ -25,14 +25,14 @@ OVPressable {
 
     signal menuRequested(Item from, real x, real y)
 
-    activeFocusOnTab: false
-    focusPolicy: Qt.ClickFocus
+    tabStop: false
+    clickFocus: true
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.space8 + 2 + indent
     pressedScale: 1
     rightPadding: Theme.space8 + 2
     Accessible.name: detail === "" ? text : qsTr("%1, %2").arg(text).arg(detail)
-    Accessible.role: Accessible.ListItem
+    OVAccessible.role: Accessible.ListItem
     Accessible.selected: chosen
 
     background: HoverWash {
@@ -99,8 +99,7 @@ OVPressable {
             OVIconButton {
                 id: menuButton
 
-                activeFocusOnTab: false
-                focusPolicy: Qt.NoFocus
+                tabStop: false
                 iconSize: Theme.iconRow
                 implicitHeight: Theme.rowHeight - 8
                 implicitWidth: visible ? implicitHeight : 0

@@ -23,9 +23,9 @@ FocusScope {
     OVPressable {
         id: heading
 
-        activeFocusOnTab: false
+        tabStop: false
         focus: true
-        focusPolicy: root.foldable ? Qt.ClickFocus : Qt.NoFocus
+        clickFocus: root.foldable
         height: Theme.rowHeight - Theme.space4
         hoverEnabled: root.foldable
         leftPadding: Theme.space8 + 2
@@ -35,7 +35,7 @@ FocusScope {
         width: root.width
         y: Theme.space8
         Accessible.name: text
-        Accessible.role: root.foldable ? Accessible.ListItem : Accessible.Heading
+        OVAccessible.role: root.foldable ? Accessible.ListItem : Accessible.Heading
         onClicked: root.clicked()
         onPressed: root.pressed()
 
@@ -76,11 +76,10 @@ FocusScope {
     OVIconButton {
         id: action
 
-        activeFocusOnTab: false
+        tabStop: false
         anchors.right: parent.right
         anchors.rightMargin: Theme.space4
         anchors.verticalCenter: heading.verticalCenter
-        focusPolicy: Qt.NoFocus
         height: Theme.rowHeight - Theme.space8
         iconSize: Theme.iconRow
         opacity: root.lit ? 1 : 0

@@ -84,7 +84,7 @@ FocusScope {
         SidebarRow {
             id: settingsRow
 
-            activeFocusOnTab: true
+            tabStop: true
             anchors.verticalCenter: parent.verticalCenter
             chosen: sidebar.selection === "settings"
             showsIcon: sidebar.showsIcons
@@ -92,7 +92,7 @@ FocusScope {
             text: qsTr("Settings")
             width: parent.width - 2 * x
             x: Theme.space12
-            Accessible.role: Accessible.Button
+            OVAccessible.role: Accessible.Button
             onClicked: Orvel.ui.select("settings")
         }
     }

@@ -20,7 +20,7 @@ TabStrip {
         required property string title
         required property string destination
 
-        activeFocusOnTab: false
+        tabStop: false
         chosen: destination === root.navigation.selection
         labelled: Theme.tabBarLabels
         text: title

@@ -11,29 +11,33 @@ ScreenListRow {
 
     rowHeight: Theme.space16 + Theme.rowHeight + Theme.space4
 
+    Accessible.focusable: true
+    Accessible.name: button.Accessible.name
+    Accessible.role: Accessible.ListItem
+    Accessible.onPressAction: button.activate()
     Keys.onPressed: event => {
         switch (event.key) {
         case Qt.Key_Space:
         case Qt.Key_Return:
         case Qt.Key_Enter:
-            button.click()
+            button.activate()
             event.accepted = true
             break
         default:
-            event.accepted = row.list.moveFocus(event.key)
+            event.accepted = row.list.keys.press(event.key)
         }
     }
 
     OVPressable {
         id: button
-        activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
+        tabStop: false
         height: Theme.rowHeight
         leftPadding: Theme.space8
         rightPadding: Theme.space8
         y: Theme.space16
         Accessible.checkable: true
         Accessible.checked: row.viewModel.showDone
+        OVAccessible.role: Accessible.CheckBox
         Accessible.name: qsTr("Completed, %1").arg(row.count)
         onClicked: row.viewModel.showDone = !row.viewModel.showDone
 

@@ -62,7 +62,6 @@ FocusScope {
                 checked: form.viewModel.dueEnabled
                 symbol: "calendar"
                 text: qsTr("Due date")
-                Accessible.role: Accessible.CheckBox
                 onClicked: form.viewModel.dueEnabled = !form.viewModel.dueEnabled
             }
 

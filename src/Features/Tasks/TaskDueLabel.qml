@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -17,12 +19,11 @@ OVPressable {
 
     function open() {
         now = new Date()
-        loader.active = true
+        loader.load()
         popup.open()
     }
 
-    activeFocusOnTab: false
-    focusPolicy: Qt.NoFocus
+    tabStop: false
     horizontalPadding: text === "" ? 0 : Theme.space4
     implicitHeight: Theme.chipHeight
     radius: Theme.cornerMark
@@ -35,9 +36,8 @@ OVPressable {
         Accessible.ignored: true
     }
 
-    Loader {
+    OVLazyLoader {
         id: loader
-        active: false
 
         sourceComponent: OVDatePopup {
             parent: label

@@ -31,10 +31,10 @@ Item {
                 required property int index
                 required property string modelData
 
-                activeFocusOnTab: checked || activeFocus
+                tabStop: checked || activeFocus
                 checked: index === bar.viewModel.filter
                 text: modelData
-                Accessible.role: Accessible.RadioButton
+                OVAccessible.role: Accessible.RadioButton
                 Keys.onLeftPressed: bar.choose(index - 1)
                 Keys.onRightPressed: bar.choose(index + 1)
                 onClicked: bar.viewModel.filter = index

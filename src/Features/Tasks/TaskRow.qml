@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Tasks
@@ -30,10 +32,10 @@ ScreenListRow {
     /// Removes the task; the focus goes to its neighbour.
     function remove() {
         if (focus && list.count === 1)
-            list.leftBackwards()
+            list.exitBackwards()
         else if (focus)
-            list.focusRow(index + 1 < list.count ? index + 1 : index - 1,
-                          list.focusVisible ? Qt.TabFocusReason : Qt.MouseFocusReason)
+            list.keys.focus(index + 1 < list.count ? index + 1 : index - 1,
+                            list.keys.ringShown ? Qt.TabFocusReason : Qt.MouseFocusReason)
         viewModel.deleteTask(taskID)
     }
 
@@ -64,7 +66,10 @@ ScreenListRow {
 
     rowHeight: Theme.fieldHeight + Theme.space12
     Accessible.name: dueText === "" ? title : title + ", " + dueText
+    Accessible.focusable: true
     Accessible.role: Accessible.ListItem
+    Accessible.onPressAction: titleItem.edit()
+    Accessible.onToggleAction: viewModel.cycleTaskStatus(taskID)
 
     onFocusChanged: {
         if (!focus)
@@ -73,7 +78,7 @@ ScreenListRow {
 
     Keys.onPressed: event => {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
-        event.accepted = plain && (list.moveFocus(event.key) || (!editing && act(event.key)))
+        event.accepted = plain && (list.keys.press(event.key) || (!editing && act(event.key)))
         if (!event.accepted && !editing)
             contextMenu.handleKey(event)
     }
@@ -89,10 +94,17 @@ ScreenListRow {
     HoverWash {
         anchors.margins: Theme.space4
         hovered: row.actionsShown
+    }
 
-        OVFocusRing {
+    OVLazyLoader {
+        active: row.visualFocus && !row.editing
+        anchors.fill: parent
+        anchors.margins: Theme.space4
+        z: 1
+
+        sourceComponent: OVFocusRing {
             anchors.margins: 0
-            shown: row.visualFocus && !row.editing
+            shown: true
         }
     }
 
@@ -112,9 +124,8 @@ ScreenListRow {
 
     OVPressable {
         id: statusButton
-        activeFocusOnTab: false
+        tabStop: false
         anchors.verticalCenter: parent.verticalCenter
-        focusPolicy: Qt.NoFocus
         height: Theme.iconButtonSize
         pressedScale: 0.9
         radius: height / 2
@@ -146,9 +157,9 @@ ScreenListRow {
         onEdited: title => row.viewModel.renameTask(row.taskID, title)
         onFinished: {
             editing = false
-            row.list.focusRow(row.index, Qt.TabFocusReason)
+            row.list.keys.focus(row.index, Qt.TabFocusReason)
         }
-        onPointed: row.list.focusVisible = false
+        onPointed: row.list.keys.ringShown = false
     }
 
     Row {
@@ -161,7 +172,7 @@ ScreenListRow {
         TaskDueLabel {
             id: dueLabel
             anchors.verticalCenter: parent.verticalCenter
-            byKeyboard: row.list.focusVisible
+            byKeyboard: row.list.keys.ringShown
             due: row.due
             isOverdue: row.isOverdue
             text: row.dueText
@@ -171,9 +182,8 @@ ScreenListRow {
         }
 
         OVPressable {
-            activeFocusOnTab: false
+            tabStop: false
             anchors.verticalCenter: parent.verticalCenter
-            focusPolicy: Qt.NoFocus
             radius: Theme.cornerMark
             toolTip: qsTr("Priority")
             washed: false
@@ -187,19 +197,21 @@ ScreenListRow {
             }
         }
 
-        OVIconButton {
-            activeFocusOnTab: false
+        OVLazyLoader {
+            active: row.actionsShown
             anchors.verticalCenter: parent.verticalCenter
-            focusPolicy: Qt.NoFocus
-            iconSize: Theme.iconRow
-            opacity: row.actionsShown ? 1 : 0
-            symbol: "xmark"
-            text: qsTr("Delete")
-            Accessible.name: qsTr("Delete: %1").arg(row.title)
-            onClicked: row.remove()
+            height: Theme.iconButtonSize
+            width: Theme.iconButtonSize
 
-            Behavior on opacity {
-                NumberAnimation { duration: Theme.durationHover }
+            sourceComponent: OVIconButton {
+                iconSize: Theme.iconRow
+                symbol: "xmark"
+                tabStop: false
+                text: qsTr("Delete")
+                Accessible.name: qsTr("Delete: %1").arg(row.title)
+                onClicked: row.remove()
+
+                NumberAnimation on opacity { from: 0; to: 1; duration: Theme.durationHover }
             }
         }
     }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -8,9 +10,13 @@ Item {
     required property string symbol
     required property int tone
     required property bool isDone
+    /// Whether a change shows as motion: a task that comes completed stands there as it is.
+    property bool moves: false
 
     implicitHeight: Theme.iconButton
     implicitWidth: Theme.iconButton
+
+    Component.onCompleted: moves = true
 
     OVIcon {
         anchors.centerIn: parent
@@ -20,25 +26,33 @@ Item {
         visible: !mark.isDone
     }
 
-    Rectangle {
+    OVLazyLoader {
+        active: mark.isDone
         anchors.centerIn: parent
-        color: Theme.ovSuccess
         height: width
-        opacity: mark.isDone ? 1 : 0
-        radius: width / 2
-        scale: mark.isDone ? 1 : 0.6
         width: Math.round(mark.width * 0.86)
 
-        Behavior on scale {
-            NumberAnimation { duration: Theme.durationSpring; easing: Theme.springEasing }
-        }
+        sourceComponent: Rectangle {
+            id: disc
 
-        OVCheckMark {
-            anchors.centerIn: parent
-            color: Theme.dark ? Theme.ovCanvas : Theme.ovSurface
-            height: width
-            shown: mark.isDone
-            width: parent.width
+            property bool filled: !mark.moves
+
+            color: Theme.ovSuccess
+            radius: width / 2
+            scale: filled ? 1 : 0.6
+
+            Component.onCompleted: filled = true
+
+            Behavior on scale {
+                NumberAnimation { duration: Theme.durationSpring; easing: Theme.springEasing }
+            }
+
+            OVCheckMark {
+                color: Theme.dark ? Theme.ovCanvas : Theme.ovSurface
+                height: disc.height
+                shown: disc.filled
+                width: disc.width
+            }
         }
     }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 
@@ -44,7 +46,7 @@ Item {
         color: root.isDone || root.title === "" ? Theme.ovInkTertiary : Theme.ovInk
         font.strikeout: root.isDone
         maximumLineCount: 1
-        text: root.title === "" ? root.placeholder : root.title
+        text: root.title === "" ? root.placeholder : DisplayText.shown(root.title)
         visible: !root.editing
         width: parent.width
     }
@@ -62,7 +64,7 @@ Item {
         cursorShape: Qt.IBeamCursor
     }
 
-    Loader {
+    OVLazyLoader {
         id: editor
         active: root.editing
         height: parent.height

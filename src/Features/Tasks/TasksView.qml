@@ -22,6 +22,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         model: tasks.rows
+        screen: "tasks"
 
         above: TasksHeader {
             focus: true

@@ -128,6 +128,8 @@ Item {
             compare(focused(), "Note 1, odd, Today")
             keyClick(Qt.Key_Home)
             keyClick(Qt.Key_Up)
+            compare(focused(), "Search notes")
+            keyClick(Qt.Key_Down)
             compare(focused(), "Note 7, odd, Today")
             keyClick(Qt.Key_Backtab)
             compare(focused(), "New note")
@@ -155,13 +157,36 @@ Item {
             const hovered = card("Note 1")
             tryCompare(hovered, "x", 2 * hovered.grid.cellWidth)
             const face = hovered.grid.mapFromItem(hovered, 0, 0)
-            verify(find("Delete", hovered) === null)
+            verify(find("Delete: Note 1", hovered) === null)
             const x = hovered.grid.columnX + 2 * (hovered.grid.cardWidth + hovered.grid.gap) + 20
             mouseMove(root.view, x, face.y + 20)
-            tryVerify(() => find("Delete", hovered) !== null)
-            mouseClick(find("Delete", hovered))
+            tryVerify(() => find("Delete: Note 1", hovered) !== null)
+            mouseClick(find("Delete: Note 1", hovered))
             compare(titles(), "Note 2,Note 4")
             compare(place(), "dashboard")
+        }
+
+        function test_contextMenu() {
+            open(2)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Menu)
+            tryVerify(() => card("Note 2").Window.activeFocusItem.Accessible.name !== "Note 2, even, Today")
+            keyClick(Qt.Key_D)
+            keyClick(Qt.Key_Return)
+            compare(titles(), "Note 1")
+            mouseClick(card("Note 1"), 150, 60, Qt.RightButton)
+            keyClick(Qt.Key_O)
+            keyClick(Qt.Key_Return)
+            verify(place().startsWith("page/"))
+        }
+
+        function test_assistiveTechnology() {
+            open(1)
+            Assistive.begin()
+            const name = focusedCard => Assistive.describe(focusedCard)
+            compare(name(card("Note 1")), "Button Note 1, odd, Today")
+            Assistive.press(card("Note 1"))
+            verify(place().startsWith("page/"))
         }
 
         function test_fourLinesOfTextStandClearOfTheDate() {

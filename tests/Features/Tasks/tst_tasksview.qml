@@ -267,6 +267,25 @@ Item {
             return root.Window.contentItem.parent ?? root.Window.contentItem
         }
 
+        function test_assistiveTechnology() {
+            Workspace.addTask("Plan")
+            Workspace.addTask("Rest", "done")
+            open()
+            Assistive.begin()
+            tryVerify(() => find("Completed, 1"))
+            const seen = Assistive.describeAll(root.Window.window)
+            for (const what of ["Heading Tasks", "EditableText New task", "CheckBox Due date", "PageTabList Priority",
+                                "Grouping Filter", "RadioButton All checked", "RadioButton Open", "ListItem Plan",
+                                "Button Status: To do, Plan", "Button Priority: medium, Plan", "ListItem Completed, 1"])
+                verify(seen.includes(what), what)
+            Assistive.press(find("Status: To do, Plan"))
+            compare(saved()[0].status, "inProgress")
+            Assistive.press(find("Completed, 1"))
+            tryVerify(() => find("Rest"))
+            Assistive.press(find("Plan"))
+            compare(focused().Accessible.name, "Title")
+        }
+
         function test_labelsChangeAtMidnight() {
             Workspace.addTask("Plan", "todo", "medium", 2)
             open()

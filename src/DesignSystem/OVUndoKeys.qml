@@ -1,0 +1,22 @@
+import QtQuick
+
+/// The keys of undo and redo, for a text field whose text is kept in the store and leaves undo to its history.
+QtObject {
+    id: root
+
+    signal undoRequested()
+    signal redoRequested()
+
+    /// Takes the event if it is one of these keys.
+    function handle(event: KeyEvent): bool {
+        if (event.matches(StandardKey.Undo))
+            root.undoRequested()
+        else if (event.matches(StandardKey.Redo)
+                 || (event.key === Qt.Key_Y && event.modifiers === Qt.ControlModifier))
+            root.redoRequested()
+        else
+            return false
+        event.accepted = true
+        return true
+    }
+}

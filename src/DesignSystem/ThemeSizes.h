@@ -1,0 +1,99 @@
+#pragma once
+
+#include "DesignSystem/ThemeType.h"
+
+#include <algorithm>
+
+/// Gaps, corners, icons and controls, in whole pixels.
+class ThemeSizes : public ThemeType
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(int space4 READ space4 NOTIFY changed FINAL)
+    Q_PROPERTY(int space8 READ space8 NOTIFY changed FINAL)
+    Q_PROPERTY(int space12 READ space12 NOTIFY changed FINAL)
+    Q_PROPERTY(int space16 READ space16 NOTIFY changed FINAL)
+    Q_PROPERTY(int space24 READ space24 NOTIFY changed FINAL)
+    Q_PROPERTY(int space32 READ space32 NOTIFY changed FINAL)
+    Q_PROPERTY(int space48 READ space48 NOTIFY changed FINAL)
+    Q_PROPERTY(int screenPadding READ screenPadding NOTIFY changed FINAL)
+    Q_PROPERTY(int screenPaddingNarrow READ screenPaddingNarrow NOTIFY changed FINAL)
+    Q_PROPERTY(int cornerCard READ cornerCard NOTIFY changed FINAL)
+    Q_PROPERTY(int cornerSheet READ cornerSheet NOTIFY changed FINAL)
+    Q_PROPERTY(int cornerField READ cornerField NOTIFY changed FINAL)
+    Q_PROPERTY(int cornerMark READ cornerMark NOTIFY changed FINAL)
+    Q_PROPERTY(int lineWidth READ lineWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int iconRow READ iconRow NOTIFY changed FINAL)
+    Q_PROPERTY(int iconButton READ iconButton NOTIFY changed FINAL)
+    Q_PROPERTY(int iconHeader READ iconHeader NOTIFY changed FINAL)
+    Q_PROPERTY(int iconTile READ iconTile NOTIFY changed FINAL)
+    Q_PROPERTY(int iconEmpty READ iconEmpty NOTIFY changed FINAL)
+    Q_PROPERTY(int iconPage READ iconPage NOTIFY changed FINAL)
+    Q_PROPERTY(int buttonHeight READ buttonHeight NOTIFY changed FINAL)
+    Q_PROPERTY(int fieldHeight READ fieldHeight NOTIFY changed FINAL)
+    Q_PROPERTY(int iconButtonSize READ iconButtonSize NOTIFY changed FINAL)
+    Q_PROPERTY(int chipHeight READ chipHeight NOTIFY changed FINAL)
+    Q_PROPERTY(int rowHeight READ rowHeight NOTIFY changed FINAL)
+    Q_PROPERTY(int sidebarWidth READ sidebarWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int readingWidth READ readingWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int zenWidth READ zenWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int listWidth READ listWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int gridWidth READ gridWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int fieldWidth READ fieldWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int menuWidth READ menuWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int dialogWidth READ dialogWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int promptWidth READ promptWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int sheetWidth READ sheetWidth NOTIFY changed FINAL)
+    Q_PROPERTY(double disabledOpacity READ disabledOpacity NOTIFY changed FINAL)
+
+public:
+    int space4() const { return gap(4); }
+    int space8() const { return gap(8); }
+    int space12() const { return gap(12); }
+    int space16() const { return gap(16); }
+    int space24() const { return gap(24); }
+    int space32() const { return gap(32); }
+    int space48() const { return gap(48); }
+    int screenPadding() const { return gap(32); }
+    int screenPaddingNarrow() const { return gap(20); }
+    int cornerCard() const { return corner(14); }
+    int cornerSheet() const { return corner(18); }
+    int cornerField() const { return corner(9); }
+    int cornerMark() const { return corner(6); }
+    int lineWidth() const { return 1; }
+    int iconRow() const { return scaled(16); }
+    int iconButton() const { return scaled(18); }
+    int iconHeader() const { return scaled(20); }
+    int iconTile() const { return scaled(24); }
+    int iconEmpty() const { return scaled(40); }
+    int iconPage() const { return scaled(58); }
+    int buttonHeight() const { return control(34); }
+    int fieldHeight() const { return control(36); }
+    int iconButtonSize() const { return control(30); }
+    int chipHeight() const { return control(28); }
+    int rowHeight() const { return control(snapshot().compactSidebar ? 28 : 32); }
+    int sidebarWidth() const { return scaled(snapshot().compactSidebar ? 208 : 248); }
+    int readingWidth() const { return scaled(720); }
+    int zenWidth() const { return scaled(640); }
+    int listWidth() const { return scaled(920); }
+    int gridWidth() const { return scaled(1180); }
+    int fieldWidth() const { return scaled(240); }
+    int menuWidth() const { return scaled(180); }
+    int dialogWidth() const { return scaled(420); }
+    int promptWidth() const { return scaled(440); }
+    int sheetWidth() const { return scaled(560); }
+    double disabledOpacity() const { return 0.45; }
+
+protected:
+    using ThemeType::ThemeType;
+
+private:
+    static int gap(int pixels) { return qRound(pixels * snapshot().densityScale); }
+    static int corner(int pixels) { return qRound(pixels * snapshot().cornerScale); }
+    static int control(int pixels)
+    {
+        // Tight and loose rows differ less than gaps do, and large text always finds room.
+        const double density = 1 + (snapshot().densityScale - 1) / 2;
+        return qRound(pixels * density * std::max(1.0, snapshot().fontScale));
+    }
+};

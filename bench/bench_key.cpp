@@ -33,7 +33,7 @@ public:
     {
         const QString title = m_store->tasks().first(m_task)->title + u'x';
         return timed([&] {
-            m_tasks.renameTask(m_task, title);
+            TaskOperations::rename(*m_store, m_task, title);
             QCoreApplication::processEvents();
         });
     }
@@ -47,13 +47,16 @@ public:
                 QCoreApplication::processEvents();
             });
         };
-        const auto finished = step([&] { m_tasks.cycleTaskStatus(m_task); });
+        const auto finished = step([&] { TaskOperations::cycleStatus(*m_store, m_task); });
         const auto added = step([&] {
             m_tasks.setTitle(QStringLiteral("Another"));
             m_tasks.addTask();
         });
-        const auto erased = step([&] { m_tasks.deleteTask(m_store->tasks().all().constLast().id); });
-        const auto filtered = step([&] { m_tasks.setFilter(1 - m_tasks.filter()); });
+        const auto erased =
+            step([&] { TaskOperations::remove(*m_store, m_store->tasks().all().constLast().id); });
+        const auto filtered = step([&] {
+            m_tasks.setFilter(m_tasks.filter() == u"all" ? QStringLiteral("open") : QStringLiteral("all"));
+        });
         return std::max({finished, added, erased, filtered});
     }
 

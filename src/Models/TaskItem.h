@@ -14,8 +14,8 @@ template <>
 struct EnumTable<TaskStatus> {
     static constexpr auto cases = std::to_array<EnumCase<TaskStatus>>({
         {TaskStatus::todo, "todo", u"To do", "circle"},
-        {TaskStatus::inProgress, "inProgress", u"In progress", "circle.dotted"},
-        {TaskStatus::done, "done", u"Done", "checkmark.circle.fill"},
+        {TaskStatus::inProgress, "inProgress", u"In progress", "circle.dotted", {}, BadgeTone::warning},
+        {TaskStatus::done, "done", u"Done", "checkmark.circle.fill", {}, BadgeTone::success},
     });
 };
 
@@ -25,8 +25,8 @@ template <>
 struct EnumTable<TaskPriority> {
     static constexpr auto cases = std::to_array<EnumCase<TaskPriority>>({
         {TaskPriority::low, "low", u"Low"},
-        {TaskPriority::medium, "medium", u"Medium"},
-        {TaskPriority::high, "high", u"High"},
+        {TaskPriority::medium, "medium", u"Medium", {}, {}, BadgeTone::warning},
+        {TaskPriority::high, "high", u"High", {}, {}, BadgeTone::danger},
     });
 };
 

@@ -1,7 +1,6 @@
 #include "Features/Tasks/TaskRow.h"
 
 #include "Features/Tasks/TaskFilters.h"
-#include "Foundation/BadgeTone.h"
 
 TaskRow TaskRow::ofTask(const TaskItem &task, const TaskDay &day)
 {
@@ -23,32 +22,6 @@ TaskRow TaskRow::completedHeader(qsizetype count)
 QString TaskRow::kindText() const
 {
     return enumRawText(kind);
-}
-
-int TaskRow::statusTone() const
-{
-    switch (status) {
-    case TaskStatus::todo:
-        break;
-    case TaskStatus::inProgress:
-        return int(BadgeTone::warning);
-    case TaskStatus::done:
-        return int(BadgeTone::success);
-    }
-    return int(BadgeTone::neutral);
-}
-
-int TaskRow::priorityTone() const
-{
-    switch (priority) {
-    case TaskPriority::low:
-        break;
-    case TaskPriority::medium:
-        return int(BadgeTone::warning);
-    case TaskPriority::high:
-        return int(BadgeTone::danger);
-    }
-    return int(BadgeTone::neutral);
 }
 
 QDateTime TaskRow::dueDateTime() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/Tasks/TaskDay.h"
+#include "Foundation/Choice.h"
 #include "Models/TaskItem.h"
 
 #include <QObject>
@@ -11,17 +12,13 @@ struct TaskRow {
     Q_PROPERTY(QString kind READ kindText FINAL)
     Q_PROPERTY(QUuid taskID MEMBER id FINAL)
     Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(int status READ statusIndex FINAL)
-    Q_PROPERTY(QString statusText READ statusText FINAL)
-    Q_PROPERTY(QString statusSymbol READ statusSymbol FINAL)
-    Q_PROPERTY(int statusTone READ statusTone FINAL)
+    /// Choices, as menus and badges show them.
+    Q_PROPERTY(Choice status READ statusChoice FINAL)
+    Q_PROPERTY(Choice priority READ priorityChoice FINAL)
     Q_PROPERTY(bool isDone READ isDone FINAL)
     Q_PROPERTY(QDateTime due READ dueDateTime FINAL)
     Q_PROPERTY(QString dueText MEMBER dueText FINAL)
     Q_PROPERTY(bool isOverdue MEMBER isOverdue FINAL)
-    Q_PROPERTY(int priority READ priorityIndex FINAL)
-    Q_PROPERTY(QString priorityText READ priorityText FINAL)
-    Q_PROPERTY(int priorityTone READ priorityTone FINAL)
     Q_PROPERTY(bool isFirst MEMBER isFirst FINAL)
     Q_PROPERTY(bool isLast MEMBER isLast FINAL)
     Q_PROPERTY(int count MEMBER count FINAL)
@@ -51,16 +48,9 @@ public:
 
     /// The kind's name, by which the view chooses the look of the row.
     QString kindText() const;
-    /// Positions in the tables of status and priority.
-    int statusIndex() const { return int(status); }
-    int priorityIndex() const { return int(priority); }
-    QString statusText() const { return enumLabel(status); }
-    QString statusSymbol() const { return enumSymbol(status); }
-    /// `BadgeTone`s.
-    int statusTone() const;
+    Choice statusChoice() const { return Choice::of(status); }
+    Choice priorityChoice() const { return Choice::of(priority); }
     bool isDone() const { return status == TaskStatus::done; }
-    QString priorityText() const { return enumRawText(priority); }
-    int priorityTone() const;
     /// Invalid for a task without a due date.
     QDateTime dueDateTime() const;
 };

@@ -1,6 +1,5 @@
 #include "Features/Tasks/TasksViewModel.h"
 
-#include "Foundation/EnumChoices.h"
 #include "Foundation/LineText.h"
 #include "Store/TaskOperations.h"
 
@@ -37,21 +36,28 @@ void TasksViewModel::addTask()
     if (!canAdd())
         return;
     const auto due = m_dueEnabled ? std::optional(toTimestamp(m_due)) : std::nullopt;
-    TaskOperations::create(store(), LineText::singleLine(m_title.trimmed()), TaskPriority(m_priority), due);
+    TaskOperations::create(store(), LineText::singleLine(m_title.trimmed()), m_priority, due);
     setTitle({});
     if (std::exchange(m_dueEnabled, false))
         emit dueEnabledChanged();
-    if (m_priority != int(TaskPriority::medium)) {
-        m_priority = int(TaskPriority::medium);
-        emit priorityChanged();
-    }
+    setPriority(enumRawText(TaskPriority::medium));
 }
 
-void TasksViewModel::setFilter(int filter)
+void TasksViewModel::setPriority(const QString &priority)
 {
-    if (filter == int(m_filter) || !EnumChoices::isCase<TaskFilter>(filter))
+    const auto value = enumFromRaw<TaskPriority>(priority);
+    if (!value || *value == m_priority)
         return;
-    m_filter = TaskFilter(filter);
+    m_priority = *value;
+    emit priorityChanged();
+}
+
+void TasksViewModel::setFilter(const QString &filter)
+{
+    const auto value = enumFromRaw<TaskFilter>(filter);
+    if (!value || *value == m_filter)
+        return;
+    m_filter = *value;
     emit filterChanged();
     requestWholeRefresh();
 }
@@ -68,61 +74,6 @@ void TasksViewModel::setShowDone(bool showDone)
 QString TasksViewModel::countText() const
 {
     return tr("%1 open").arg(m_filtered);
-}
-
-QStringList TasksViewModel::filterTexts() const
-{
-    return EnumChoices::labels<TaskFilter>();
-}
-
-QStringList TasksViewModel::statusTexts() const
-{
-    return EnumChoices::labels<TaskStatus>();
-}
-
-QStringList TasksViewModel::priorityTexts() const
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<TaskPriority>())
-        texts.append(enumRawText(entry.value));
-    return texts;
-}
-
-void TasksViewModel::renameTask(const QUuid &taskID, const QString &title)
-{
-    TaskOperations::rename(store(), taskID, LineText::singleLine(title));
-}
-
-void TasksViewModel::cycleTaskStatus(const QUuid &taskID)
-{
-    TaskOperations::cycleStatus(store(), taskID);
-}
-
-void TasksViewModel::setTaskStatus(const QUuid &taskID, int status)
-{
-    if (EnumChoices::isCase<TaskStatus>(status))
-        TaskOperations::setStatus(store(), taskID, TaskStatus(status));
-}
-
-void TasksViewModel::cycleTaskPriority(const QUuid &taskID)
-{
-    TaskOperations::cyclePriority(store(), taskID);
-}
-
-void TasksViewModel::setTaskPriority(const QUuid &taskID, int priority)
-{
-    if (EnumChoices::isCase<TaskPriority>(priority))
-        TaskOperations::setPriority(store(), taskID, TaskPriority(priority));
-}
-
-void TasksViewModel::setTaskDue(const QUuid &taskID, const QDateTime &due)
-{
-    TaskOperations::setDue(store(), taskID, due.isValid() ? std::optional(toTimestamp(due)) : std::nullopt);
-}
-
-void TasksViewModel::deleteTask(const QUuid &taskID)
-{
-    TaskOperations::remove(store(), taskID);
 }
 
 void TasksViewModel::timePassed()

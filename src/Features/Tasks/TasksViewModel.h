@@ -4,8 +4,8 @@
 #include "Foundation/KeyedListModel.h"
 #include "Session/ViewModel.h"
 
-/// What the Tasks screen shows and does. Positions stand for the cases of the tables of filter, status and
-/// priority, in their order.
+/// What the Tasks screen shows, and its form for a new task. Filter and priority are told by their raw texts;
+/// what is done to one task is in `TaskActions`.
 class TasksViewModel : public ViewModel
 {
     Q_OBJECT
@@ -13,21 +13,18 @@ class TasksViewModel : public ViewModel
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
     Q_PROPERTY(bool dueEnabled MEMBER m_dueEnabled NOTIFY dueEnabledChanged FINAL)
     Q_PROPERTY(QDateTime due MEMBER m_due NOTIFY dueChanged FINAL)
-    Q_PROPERTY(int priority MEMBER m_priority NOTIFY priorityChanged FINAL)
+    Q_PROPERTY(QString priority READ priority WRITE setPriority NOTIFY priorityChanged FINAL)
     /// Whether the title is more than blanks.
     Q_PROPERTY(bool canAdd READ canAdd NOTIFY titleChanged FINAL)
 
-    Q_PROPERTY(int filter READ filter WRITE setFilter NOTIFY filterChanged FINAL)
+    Q_PROPERTY(QList<Choice> filters READ filters CONSTANT FINAL)
+    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged FINAL)
     Q_PROPERTY(bool showDone READ showDone WRITE setShowDone NOTIFY showDoneChanged FINAL)
     /// `TaskRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
     Q_PROPERTY(QString countText READ countText NOTIFY filteredChanged FINAL)
     /// Whether the filter takes no task.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY filteredChanged FINAL)
-
-    Q_PROPERTY(QList<QString> filterTexts READ filterTexts CONSTANT FINAL)
-    Q_PROPERTY(QList<QString> statusTexts READ statusTexts CONSTANT FINAL)
-    Q_PROPERTY(QList<QString> priorityTexts READ priorityTexts CONSTANT FINAL)
 
 public:
     explicit TasksViewModel(QObject *parent = nullptr);
@@ -39,26 +36,18 @@ public:
     /// stays for the next one.
     Q_INVOKABLE void addTask();
 
-    int filter() const { return int(m_filter); }
-    void setFilter(int filter);
+    QString priority() const { return enumRawText(m_priority); }
+    void setPriority(const QString &priority);
+
+    static QList<Choice> filters() { return Choice::all<TaskFilter>(); }
+    QString filter() const { return enumRawText(m_filter); }
+    /// Unknown texts are ignored.
+    void setFilter(const QString &filter);
     bool showDone() const { return m_showDone; }
     void setShowDone(bool showDone);
     QAbstractItemModel *rows() { return &m_rows; }
     QString countText() const;
     bool isEmpty() const { return m_filtered == 0; }
-
-    QStringList filterTexts() const;
-    QStringList statusTexts() const;
-    QStringList priorityTexts() const;
-
-    Q_INVOKABLE void renameTask(const QUuid &taskID, const QString &title);
-    Q_INVOKABLE void cycleTaskStatus(const QUuid &taskID);
-    Q_INVOKABLE void setTaskStatus(const QUuid &taskID, int status);
-    Q_INVOKABLE void cycleTaskPriority(const QUuid &taskID);
-    Q_INVOKABLE void setTaskPriority(const QUuid &taskID, int priority);
-    /// An invalid moment takes the due date away.
-    Q_INVOKABLE void setTaskDue(const QUuid &taskID, const QDateTime &due);
-    Q_INVOKABLE void deleteTask(const QUuid &taskID);
 
 signals:
     void titleChanged();
@@ -86,7 +75,7 @@ private:
     QString m_title;
     bool m_dueEnabled = false;
     QDateTime m_due;
-    int m_priority = int(TaskPriority::medium);
+    TaskPriority m_priority = TaskPriority::medium;
 
     TaskFilter m_filter = TaskFilter::all;
     bool m_showDone = false;

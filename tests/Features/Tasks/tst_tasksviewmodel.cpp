@@ -1,12 +1,13 @@
 #include "Features/Tasks/TasksViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Session/TaskActions.h"
 
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
 namespace
 {
-enum Filter { all, open, today, upcoming };
+using enum TaskFilter;
 
 void finishTurn()
 {
@@ -54,20 +55,22 @@ private:
         const QAbstractItemModel *const model = m_model->rows();
         return model->index(row, 0).data(model->roleNames().key(name));
     }
+    Choice choice(const QByteArray &name) const { return role(0, name).value<Choice>(); }
     QUuid id(int row) const { return role(row, "taskID").toUuid(); }
     void add(const QString &title, const char *status = "todo", double dueInHours = qQNaN())
     {
         m_workspace.addTask(title, QString::fromLatin1(status), QStringLiteral("medium"), dueInHours);
         finishTurn();
     }
-    void show(Filter filter)
+    void show(TaskFilter filter)
     {
-        m_model->setFilter(filter);
+        m_model->setFilter(enumRawText(filter));
         finishTurn();
     }
 
     TestWorkspace m_workspace;
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+    TaskActions m_actions{&m_session};
     std::unique_ptr<TasksViewModel> m_model;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
 };
@@ -108,7 +111,7 @@ void TasksViewModelTest::addsTheTaskOfTheForm()
     m_model->setTitle(typed);
     m_model->setProperty("dueEnabled", dueEnabled);
     m_model->setProperty("due", due);
-    m_model->setProperty("priority", priority);
+    m_model->setPriority(enumRawText(TaskPriority(priority)));
     m_model->addTask();
 
     QCOMPARE(m_workspace.store().tasks().size(), 1);
@@ -122,7 +125,7 @@ void TasksViewModelTest::addsTheTaskOfTheForm()
     QCOMPARE(m_model->title(), QString());
     QCOMPARE(m_model->canAdd(), false);
     QCOMPARE(m_model->property("dueEnabled").toBool(), false);
-    QCOMPARE(m_model->property("priority").toInt(), int(TaskPriority::medium));
+    QCOMPARE(m_model->priority(), u"medium");
     QCOMPARE(m_model->property("due").toDateTime(), due);
 }
 
@@ -190,9 +193,9 @@ void TasksViewModelTest::rowsTellHowTheyLook()
     m_workspace.addTask(QStringLiteral("Task"), status, priority, dueInHours);
     finishTurn();
     const QString look = QStringLiteral("%1 %2 %3/%4 %5/%6%7")
-                             .arg(role(0, "statusText").toString(), role(0, "statusSymbol").toString(),
-                                  role(0, "statusTone").toString(), role(0, "priorityText").toString(),
-                                  role(0, "priorityTone").toString(), role(0, "dueText").toString(),
+                             .arg(choice("status").label, choice("status").symbol,
+                                  QString::number(choice("status").tone), choice("priority").raw,
+                                  QString::number(choice("priority").tone), role(0, "dueText").toString(),
                                   role(0, "isOverdue").toBool() ? QStringLiteral(" overdue") : QString());
     QTEST(look, "look");
     QCOMPARE(role(0, "due").toDateTime().isValid(), !qIsNaN(dueInHours));
@@ -206,17 +209,17 @@ void TasksViewModelTest::completedTasksFold()
     add(QStringLiteral("b"));
     QCOMPARE(rows(), QStringLiteral("a b"));
 
-    m_model->setTaskStatus(id(0), int(TaskStatus::done));
+    m_actions.setStatus(id(0), QStringLiteral("done"));
     finishTurn();
     QCOMPARE(rows(), QStringLiteral("b |1"));
     m_model->setShowDone(true);
     finishTurn();
     QCOMPARE(rows(), QStringLiteral("b |1 a"));
 
-    m_model->deleteTask(id(2));
+    m_actions.remove(id(2));
     finishTurn();
     QCOMPARE(rows(), QStringLiteral("b"));
-    m_model->deleteTask(id(0));
+    m_actions.remove(id(0));
     finishTurn();
     QVERIFY(m_model->isEmpty());
 }
@@ -238,7 +241,7 @@ void TasksViewModelTest::runsOfTasksHaveEnds()
     m_model->setShowDone(true);
     show(open);
     QCOMPARE(ends(), QStringLiteral("10 01 00 11"));
-    m_model->renameTask(id(0), QStringLiteral("A"));
+    m_actions.rename(id(0), QStringLiteral("A"));
     finishTurn();
     QCOMPARE(ends(), QStringLiteral("10 01 00 11"));
 }
@@ -248,22 +251,22 @@ void TasksViewModelTest::writesWhatTheRowDoes()
     add(QStringLiteral("a"));
     const QUuid task = id(0);
     const auto stored = [&] { return *m_workspace.store().tasks().first(task); };
-    m_model->cycleTaskStatus(task);
+    m_actions.cycleStatus(task);
     QCOMPARE(stored().status, TaskStatus::inProgress);
-    m_model->setTaskStatus(task, int(TaskStatus::done));
+    m_actions.setStatus(task, QStringLiteral("done"));
     QCOMPARE(stored().completedDate, m_workspace.clock().now());
-    m_model->setTaskStatus(task, int(TaskStatus::todo));
+    m_actions.setStatus(task, QStringLiteral("todo"));
     QVERIFY(!stored().completedDate);
-    m_model->setTaskStatus(task, 7);
+    m_actions.setStatus(task, QStringLiteral("lost"));
     QCOMPARE(stored().status, TaskStatus::todo);
-    m_model->cycleTaskPriority(task);
+    m_actions.cyclePriority(task);
     QCOMPARE(stored().priority, TaskPriority::high);
-    m_model->setTaskPriority(task, int(TaskPriority::low));
+    m_actions.setPriority(task, QStringLiteral("low"));
     QCOMPARE(stored().priority, TaskPriority::low);
     const QDateTime due(QDate(2026, 4, 1), QTime(8, 0), Qt::UTC);
-    m_model->setTaskDue(task, due);
+    m_actions.setDue(task, due);
     QCOMPARE(stored().dueDate, toTimestamp(due));
-    m_model->setTaskDue(task, QDateTime());
+    m_actions.clearDue(task);
     QVERIFY(!stored().dueDate);
 }
 
@@ -271,7 +274,7 @@ void TasksViewModelTest::titlesStayOnOneLine()
 {
     add(QStringLiteral("a"));
     m_workspace.clock().advance(std::chrono::minutes(5));
-    m_model->renameTask(id(0), QStringLiteral(" One\r\nTwo "));
+    m_actions.rename(id(0), QStringLiteral(" One\r\nTwo "));
     const TaskItem task = m_workspace.store().tasks().all().first();
     QCOMPARE(task.title, QStringLiteral(" One  Two "));
     QCOMPARE(task.updatedDate, m_workspace.clock().now());
@@ -308,7 +311,7 @@ void TasksViewModelTest::aKeyTypedChangesOneRow()
     add(QStringLiteral("b"));
     QSignalSpy changed(m_model->rows(), &QAbstractItemModel::dataChanged);
     QSignalSpy filtered(m_model.get(), &TasksViewModel::filteredChanged);
-    m_model->renameTask(id(1), QStringLiteral("bb"));
+    m_actions.rename(id(1), QStringLiteral("bb"));
     finishTurn();
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.first().at(0).toModelIndex().row(), 1);
@@ -333,7 +336,7 @@ void TasksViewModelTest::manyChangesMakeOneLayout()
     QSignalSpy inserted(m_model->rows(), &QAbstractItemModel::rowsInserted);
     m_workspace.addTask(QStringLiteral("a"));
     m_workspace.addTask(QStringLiteral("b"));
-    m_model->setFilter(open);
+    m_model->setFilter(enumRawText(open));
     finishTurn();
     QCOMPARE(inserted.count(), 1);
     QCOMPARE(rows(), QStringLiteral("a b"));

@@ -10,6 +10,11 @@ OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *up
 {
 }
 
+QDateTime OrvelSession::now() const
+{
+    return toDateTime(m_store->now(), m_store->clock().timeZone());
+}
+
 void OrvelSession::provideTo(QQmlEngine &engine)
 {
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);

@@ -24,6 +24,9 @@ public:
     /// @param updates null where no screen speaks of updates
     OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates = nullptr);
 
+    /// The present moment in the user's time zone, by the one clock.
+    Q_INVOKABLE QDateTime now() const;
+
     void provideTo(QQmlEngine &engine);
     /// Called by the engine when QML first names `Orvel`.
     static OrvelSession *create(QQmlEngine *engine, QJSEngine *);

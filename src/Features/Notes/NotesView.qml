@@ -13,6 +13,7 @@ FocusScope {
         id: notes
         active: root.visible
         session: Orvel
+        onRevealed: card => grid.keys.focus(card, Qt.TabFocusReason)
     }
 
     // As many lines as a full card has, in the font at hand: its title, four of its text, and its date.

@@ -1,5 +1,6 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Tasks
 
 /// The form for a new task. In a narrow place its choices stand below the title.
@@ -83,10 +84,10 @@ FocusScope {
 
             OVSegmentedControl {
                 anchors.verticalCenter: parent.verticalCenter
-                currentIndex: form.viewModel.priority
-                model: form.viewModel.priorityTexts
+                currentIndex: TaskActions.priorities.findIndex(choice => choice.raw === form.viewModel.priority)
+                model: TaskActions.priorities.map(choice => choice.raw)
                 Accessible.name: qsTr("Priority")
-                onActivated: index => form.viewModel.priority = index
+                onActivated: index => form.viewModel.priority = TaskActions.priorities[index].raw
             }
 
             OVPrimaryButton {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 
 /// When a task is due. It opens a picker to change that, also for a task that is not due at all.
 OVPressable {
@@ -11,14 +12,14 @@ OVPressable {
     required property bool isOverdue
     /// Whether the keyboard works the row, so that the place in the picker shows at once.
     required property bool byKeyboard
-    property date now: new Date()
+    property date now: Orvel.now()
     readonly property OVPopup popup: loader.item as OVPopup
 
     signal picked(moment: date)
     signal cleared()
 
     function open() {
-        now = new Date()
+        now = Orvel.now()
         loader.load()
         popup.open()
     }

@@ -10,9 +10,10 @@ Item {
 
     required property TasksViewModel viewModel
 
-    function choose(filter: int) {
-        viewModel.filter = Math.max(0, Math.min(filter, chips.count - 1))
-        chips.itemAt(viewModel.filter).forceActiveFocus(Qt.TabFocusReason)
+    function choose(index: int) {
+        const chip = chips.itemAt(Math.max(0, Math.min(index, chips.count - 1)))
+        viewModel.filter = chip.modelData.raw
+        chip.forceActiveFocus(Qt.TabFocusReason)
     }
 
     implicitHeight: row.height
@@ -25,19 +26,19 @@ Item {
 
         Repeater {
             id: chips
-            model: bar.viewModel.filterTexts
+            model: bar.viewModel.filters
 
             OVChip {
                 required property int index
-                required property string modelData
+                required property var modelData
 
                 tabStop: checked || activeFocus
-                checked: index === bar.viewModel.filter
-                text: modelData
+                checked: modelData.raw === bar.viewModel.filter
+                text: modelData.label
                 OVAccessible.role: Accessible.RadioButton
                 Keys.onLeftPressed: bar.choose(index - 1)
                 Keys.onRightPressed: bar.choose(index + 1)
-                onClicked: bar.viewModel.filter = index
+                onClicked: bar.viewModel.filter = modelData.raw
             }
         }
     }

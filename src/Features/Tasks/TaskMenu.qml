@@ -1,15 +1,15 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Tasks
+import Orvel.Session
 
 /// What can be done with a task, for the right button and the Menu key.
 OVMenu {
     id: root
 
-    required property TasksViewModel viewModel
     required property var taskID
-    required property int status
-    required property int priority
+    /// Raw texts.
+    required property string status
+    required property string priority
     required property bool hasDue
 
     signal editRequested()
@@ -17,20 +17,20 @@ OVMenu {
     signal deleteRequested()
 
     component StatusItem: OVMenuItem {
-        required property int value
+        required property var choice
 
         checkable: true
-        checked: root.status === value
-        text: root.viewModel.statusTexts[value]
-        onTriggered: root.viewModel.setTaskStatus(root.taskID, value)
+        checked: root.status === choice.raw
+        text: choice.label
+        onTriggered: TaskActions.setStatus(root.taskID, choice.raw)
     }
     component PriorityItem: OVMenuItem {
-        required property int value
+        required property var choice
 
         checkable: true
-        checked: root.priority === value
-        text: qsTr("Priority: %1").arg(root.viewModel.priorityTexts[value])
-        onTriggered: root.viewModel.setTaskPriority(root.taskID, value)
+        checked: root.priority === choice.raw
+        text: qsTr("Priority: %1").arg(choice.raw)
+        onTriggered: TaskActions.setPriority(root.taskID, choice.raw)
     }
 
     OVMenuItem {
@@ -42,15 +42,15 @@ OVMenu {
 
     OVMenuSeparator { }
 
-    StatusItem { value: 0 }
-    StatusItem { value: 1 }
-    StatusItem { value: 2 }
+    StatusItem { choice: TaskActions.statuses[0] }
+    StatusItem { choice: TaskActions.statuses[1] }
+    StatusItem { choice: TaskActions.statuses[2] }
 
     OVMenuSeparator { }
 
-    PriorityItem { value: 0 }
-    PriorityItem { value: 1 }
-    PriorityItem { value: 2 }
+    PriorityItem { choice: TaskActions.priorities[0] }
+    PriorityItem { choice: TaskActions.priorities[1] }
+    PriorityItem { choice: TaskActions.priorities[2] }
 
     OVMenuSeparator { }
 
@@ -65,7 +65,7 @@ OVMenu {
         enabled: root.hasDue
         symbol: "xmark.circle"
         text: qsTr("Clear due date")
-        onTriggered: root.viewModel.setTaskDue(root.taskID, new Date(NaN))
+        onTriggered: TaskActions.clearDue(root.taskID)
     }
 
     OVMenuSeparator { }

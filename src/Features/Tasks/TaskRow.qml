@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Tasks
 
 /// One task in the list.
@@ -10,20 +11,14 @@ ScreenListRow {
 
     required property var taskID
     required property string title
-    required property int status
-    required property string statusText
-    required property string statusSymbol
-    required property int statusTone
+    required property var status
     required property bool isDone
     required property date due
     required property string dueText
     required property bool isOverdue
-    required property int priority
-    required property string priorityText
-    required property int priorityTone
+    required property var priority
     required property bool isFirst
     required property bool isLast
-    required property TasksViewModel viewModel
 
     readonly property bool editing: titleItem.editing
     readonly property bool actionsShown: hovered || activeFocus || (contextMenu.openMenu?.visible ?? false)
@@ -36,14 +31,14 @@ ScreenListRow {
         else if (focus)
             list.keys.focus(index + 1 < list.count ? index + 1 : index - 1,
                             list.keys.ringShown ? Qt.TabFocusReason : Qt.MouseFocusReason)
-        viewModel.deleteTask(taskID)
+        TaskActions.remove(taskID)
     }
 
     /// Does what the key stands for; false for any other key.
     function act(key: int): bool {
         switch (key) {
         case Qt.Key_Space:
-            viewModel.cycleTaskStatus(taskID)
+            TaskActions.cycleStatus(taskID)
             return true
         case Qt.Key_Return:
         case Qt.Key_Enter:
@@ -51,7 +46,7 @@ ScreenListRow {
             titleItem.edit()
             return true
         case Qt.Key_P:
-            viewModel.cycleTaskPriority(taskID)
+            TaskActions.cyclePriority(taskID)
             return true
         case Qt.Key_D:
             dueLabel.open()
@@ -69,7 +64,7 @@ ScreenListRow {
     Accessible.focusable: true
     Accessible.role: Accessible.ListItem
     Accessible.onPressAction: titleItem.edit()
-    Accessible.onToggleAction: viewModel.cycleTaskStatus(taskID)
+    Accessible.onToggleAction: TaskActions.cycleStatus(taskID)
 
     onFocusChanged: {
         if (!focus)
@@ -112,10 +107,9 @@ ScreenListRow {
         id: contextMenu
         menu: TaskMenu {
             hasDue: row.dueText !== ""
-            priority: row.priority
-            status: row.status
+            priority: row.priority.raw
+            status: row.status.raw
             taskID: row.taskID
-            viewModel: row.viewModel
             onDeleteRequested: row.remove()
             onDueRequested: dueLabel.open()
             onEditRequested: titleItem.edit()
@@ -129,18 +123,18 @@ ScreenListRow {
         height: Theme.iconButtonSize
         pressedScale: 0.9
         radius: height / 2
-        toolTip: row.statusText
+        toolTip: row.status.label
         width: height
         x: Theme.space12
-        Accessible.name: qsTr("Status: %1, %2").arg(row.statusText).arg(row.title)
-        onClicked: row.viewModel.cycleTaskStatus(row.taskID)
+        Accessible.name: qsTr("Status: %1, %2").arg(row.status.label).arg(row.title)
+        onClicked: TaskActions.cycleStatus(row.taskID)
 
         contentItem: Item {
             TaskStatusMark {
                 anchors.centerIn: parent
                 isDone: row.isDone
-                symbol: row.statusSymbol
-                tone: row.statusTone
+                symbol: row.status.symbol
+                tone: row.status.tone
             }
         }
     }
@@ -154,7 +148,7 @@ ScreenListRow {
         height: parent.height
         isDone: row.isDone
         title: row.title
-        onEdited: title => row.viewModel.renameTask(row.taskID, title)
+        onEdited: title => TaskActions.rename(row.taskID, title)
         onFinished: {
             editing = false
             row.list.keys.focus(row.index, Qt.TabFocusReason)
@@ -177,8 +171,8 @@ ScreenListRow {
             isOverdue: row.isOverdue
             text: row.dueText
             Accessible.name: qsTr("Due: %1, %2").arg(row.dueText).arg(row.title)
-            onCleared: row.viewModel.setTaskDue(row.taskID, new Date(NaN))
-            onPicked: moment => row.viewModel.setTaskDue(row.taskID, moment)
+            onCleared: TaskActions.clearDue(row.taskID)
+            onPicked: moment => TaskActions.setDue(row.taskID, moment)
         }
 
         OVPressable {
@@ -187,12 +181,12 @@ ScreenListRow {
             radius: Theme.cornerMark
             toolTip: qsTr("Priority")
             washed: false
-            Accessible.name: qsTr("Priority: %1, %2").arg(row.priorityText).arg(row.title)
-            onClicked: row.viewModel.cycleTaskPriority(row.taskID)
+            Accessible.name: qsTr("Priority: %1, %2").arg(row.priority.raw).arg(row.title)
+            onClicked: TaskActions.cyclePriority(row.taskID)
 
             contentItem: OVBadge {
-                text: row.priorityText
-                tone: row.priorityTone
+                text: row.priority.raw
+                tone: row.priority.tone
                 Accessible.ignored: true
             }
         }

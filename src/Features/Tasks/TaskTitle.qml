@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 
 /// The title of a task: a line of text that becomes a field where it stands. Each edit is told at once, so
 /// that ending the editing never loses anything.
@@ -15,7 +16,7 @@ Item {
 
     signal pointed()
     signal edited(title: string)
-    /// The person is done with the field.
+    /// The user is done with the field.
     signal finished()
 
     /// @param x where the caret goes; without it, to the end
@@ -75,10 +76,13 @@ Item {
             font.strikeout: root.isDone
             placeholderText: root.placeholder
             plain: true
+            storeBacked: true
             text: root.title
             Accessible.name: qsTr("Title")
             Keys.onEscapePressed: root.finished()
             onAccepted: root.finished()
+            onRedoRequested: Orvel.undo.redo()
+            onUndoRequested: Orvel.undo.undo()
             onTextEdited: root.edited(text)
         }
     }

@@ -14,7 +14,11 @@ FocusScope {
         id: tasks
         active: root.visible
         session: Orvel
-        onRevealed: row => list.focusRow(row, Qt.TabFocusReason)
+        onRevealed: row => {
+            // A title that is being typed keeps its caret.
+            if (list.currentIndex !== row || !(list.currentItem as TaskRow)?.editing)
+                list.keys.focus(row, Qt.TabFocusReason)
+        }
     }
 
     ScreenList {
@@ -38,7 +42,7 @@ FocusScope {
             }
 
             DelegateChoice {
-                delegate: TaskRow { viewModel: tasks }
+                delegate: TaskRow { }
             }
         }
     }

@@ -117,7 +117,7 @@ void NotesViewModelTest::titlesAreNeverBlank()
     note.title = QStringLiteral(" \t");
     QCOMPARE(NoteRow::of(note, {}, {}).titleText(), QStringLiteral("Untitled"));
     note.title = QStringLiteral(" a\nb");
-    QCOMPARE(NoteRow::of(note, {}, {}).titleText(), QStringLiteral(" a b"));
+    QCOMPARE(NoteRow::of(note, {}, {}).titleText(), QStringLiteral("a b"));
 }
 
 void NotesViewModelTest::lastEditedStandsFirst()

@@ -164,7 +164,7 @@ void TasksViewModelTest::laysOutRows()
     QFETCH(int, filter);
     QFETCH(bool, showDone);
     m_model->setShowDone(showDone);
-    show(Filter(filter));
+    show(TaskFilter(filter));
     QTEST(rows(), "rows");
     QTEST(m_model->countText(), "count");
     QCOMPARE(m_model->isEmpty(), false);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -17,6 +18,8 @@ using namespace std::chrono_literals;
 
 namespace
 {
+Q_LOGGING_CATEGORY(instanceLog, "orvel.instance")
+
 constexpr char request[] = "show ";
 constexpr char answer[] = "shown\n";
 constexpr qint64 longestRequest = 4096;
@@ -86,8 +89,8 @@ void SingleInstance::listen()
     // A killed process leaves its socket behind; whoever holds the lock may clear it away.
     QLocalServer::removeServer(m_options.socketPath);
     if (!m_server.listen(m_options.socketPath))
-        qWarning("A second start of Orvel will not find this one: %s",
-                 qUtf8Printable(m_server.errorString()));
+        qCWarning(instanceLog, "A second start of Orvel will not find this one: %s",
+                  qUtf8Printable(m_server.errorString()));
 }
 
 void SingleInstance::greet()

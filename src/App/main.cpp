@@ -3,6 +3,7 @@
 #include "App/SingleInstance.h"
 #include "App/TerminationSignals.h"
 #include "App/ThemeSync.h"
+#include "Foundation/LogFile.h"
 #include "Session/OrvelSession.h"
 #include "Support/Updates/PathExchange.h"
 
@@ -73,6 +74,7 @@ int main(int argc, char *argv[])
     // The last step of an update, which the new program takes itself.
     if (const auto code = PathExchange::serve(argc, argv))
         return *code;
+    const LogFile log({.folder = LogFile::defaultFolder()});
     QGuiApplication application(argc, argv);
     application.setApplicationVersion(QStringLiteral(ORVEL_VERSION));
     application.setApplicationName(QStringLiteral("Orvel"));

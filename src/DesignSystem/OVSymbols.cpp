@@ -2,10 +2,13 @@
 
 #include <QDebug>
 #include <QHash>
+#include <QLoggingCategory>
 #include <QSet>
 
 namespace
 {
+
+Q_LOGGING_CATEGORY(symbolLog, "orvel.symbols")
 
 struct Icons {
     QString regular;
@@ -36,7 +39,7 @@ void warnOnce(const QString &symbol)
     if (warned.contains(symbol))
         return;
     warned.insert(symbol);
-    qWarning().noquote() << "There is no icon for the symbol" << symbol;
+    qCWarning(symbolLog).noquote() << "There is no icon for the symbol" << symbol;
 }
 
 } // namespace

@@ -1,3 +1,3 @@
 #include "Support/Updates/UpdateLog.h"
 
-Q_LOGGING_CATEGORY(updateLog, "com.orvel.workspace.updater")
+Q_LOGGING_CATEGORY(updateLog, "orvel.updater")

@@ -131,7 +131,7 @@ private:
     }
 
 private slots:
-    void initTestCase() { QLoggingCategory::setFilterRules(u"com.orvel.workspace.updater=false"_s); }
+    void initTestCase() { QLoggingCategory::setFilterRules(u"orvel.updater=false"_s); }
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();

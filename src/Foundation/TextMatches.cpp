@@ -27,6 +27,26 @@ struct FoldedText {
     }
 };
 
+/// For each place in the text whether the letters on its two sides are written joined, as in Arabic.
+QList<bool> joinedPlaces(const QString &text)
+{
+    QList<bool> joined(text.size() + 1, false);
+    bool joinsOn = false;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar::JoiningType type = text[at].joiningType();
+        // A mark stands with the letter before it, and so does a sign that makes letters join.
+        const bool extends = at > 0 && (text[at].isMark() || text[at] == QChar(0x200D));
+        if (type == QChar::Joining_Transparent) {
+            joined[at] = joinsOn || extends;
+            continue;
+        }
+        const bool joinsBoth = type == QChar::Joining_Dual || type == QChar::Joining_Causing;
+        joined[at] = extends || (joinsOn && (joinsBoth || type == QChar::Joining_Right));
+        joinsOn = joinsBoth || type == QChar::Joining_Left;
+    }
+    return joined;
+}
+
 Range wholeCharacters(QTextBoundaryFinder &finder, qsizetype start, qsizetype end)
 {
     finder.setPosition(start);
@@ -67,11 +87,17 @@ QList<Range> TextMatches::find(const QString &text, const QString &query)
     if (wanted.isEmpty())
         return found;
     const FoldedText folded(text);
+    const QList<bool> joined = joinedPlaces(text);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     for (qsizetype at = folded.text.indexOf(wanted); at >= 0;
          at = folded.text.indexOf(wanted, at + wanted.size())) {
         const Range last = folded.origins[at + wanted.size() - 1];
-        const Range next = wholeCharacters(finder, folded.origins[at].start, last.start + last.length);
+        Range next = wholeCharacters(finder, folded.origins[at].start, last.start + last.length);
+        for (; joined[next.start]; ++next.length)
+            --next.start;
+        while (joined[next.start + next.length])
+            ++next.length;
+        next = wholeCharacters(finder, next.start, next.start + next.length);
         if (!found.isEmpty() && next.start <= found.last().start + found.last().length)
             found.last().length = next.start + next.length - found.last().start;
         else

@@ -15,7 +15,8 @@ struct Range {
 };
 
 /// The parts of the text that hold the query, case aside: in order, with something between them, and each of
-/// whole characters as a person counts them. None for an empty query.
+/// whole characters as a reader counts them. Letters that are written joined stay in one part, since a change
+/// of weight between them would break their joining. None for an empty query.
 QList<Range> find(const QString &text, const QString &query);
 
 /// The text on one line as Qt Quick reads `Text.StyledText`, with these parts bold. It shows as it is,

@@ -27,6 +27,10 @@ private slots:
         QTest::newRow("combining mark") << u"caf\u0065\u0301s"_s << u"e"_s << u"caf<b>\u0065\u0301</b>s"_s;
         QTest::newRow("part of an emoji") << u"a👩‍👧b"_s << u"👧"_s << u"a<b>👩‍👧</b>b"_s;
         QTest::newRow("letters outside the first plane") << u"x𐐀𐐁"_s << u"𐐨"_s << u"x<b>𐐀</b>𐐁"_s;
+        QTest::newRow("joined letters") << u"كتب x"_s << u"ت"_s << u"<b>كتب</b> x"_s;
+        QTest::newRow("letters that do not join on") << u"باب"_s << u"با"_s << u"<b>با</b>ب"_s;
+        QTest::newRow("marks between joined letters") << u"كِتَب"_s << u"كِ"_s << u"<b>كِتَب</b>"_s;
+        QTest::newRow("mark on the last letter") << u"كتابَ ب"_s << u"ت"_s << u"<b>كتا</b>بَ ب"_s;
         QTest::newRow("signs of markup")
             << u"<b> & \"x\""_s << u"& \""_s << u"&lt;b&gt; <b>&amp; &quot;</b>x&quot;"_s;
         QTest::newRow("blanks") << u" a  b\n\tc"_s << u" b"_s << u"&nbsp;a <b>&nbsp;b</b> &nbsp;c"_s;
@@ -43,9 +47,23 @@ private slots:
     void rangesAreValid()
     {
         std::mt19937 random(7);
-        const QStringList pieces{
-            u"a"_s,  u"A"_s, u"İ"_s, u"ß"_s, u"e\u0301"_s, u"\u0301"_s, u"👩‍👧"_s,
-            u"👧"_s, u"𐐀"_s, u" "_s, u"<"_s, u"\u200D"_s,  u"Σ"_s,      QString(QChar(0xD83D))};
+        const QStringList pieces{u"a"_s,
+                                 u"A"_s,
+                                 u"İ"_s,
+                                 u"ß"_s,
+                                 u"e\u0301"_s,
+                                 u"\u0301"_s,
+                                 u"👩‍👧"_s,
+                                 u"👧"_s,
+                                 u"𐐀"_s,
+                                 u" "_s,
+                                 u"<"_s,
+                                 u"ب"_s,
+                                 u"ا"_s,
+                                 u"\u064E"_s,
+                                 u"\u200D"_s,
+                                 u"Σ"_s,
+                                 QString(QChar(0xD83D))};
         const auto any = [&](unsigned most) {
             QString text;
             for (unsigned i = random() % (most + 1); i > 0; --i)

@@ -76,6 +76,8 @@ Item {
             readonly property real subtitleRoom: row.subtitle !== "" ? Math.min(room * 0.4, Math.ceil(subtitleMetrics.advanceWidth) + Theme.space12) : 0
 
             anchors.verticalCenter: parent.verticalCenter
+            // The subtitle follows the text, whichever way that reads.
+            horizontalAlignment: Text.AlignLeft
             maximumLineCount: 1
             plainText: row.name
             text: row.title
@@ -97,6 +99,7 @@ Item {
 
             anchors.baseline: titleText.baseline
             color: Theme.ovInkSecondary
+            horizontalAlignment: Text.AlignLeft
             maximumLineCount: 1
             role: OVText.Dense
             text: row.subtitle

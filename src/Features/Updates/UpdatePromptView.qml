@@ -22,7 +22,8 @@ OVSheet {
     maximumWidth: Theme.promptWidth
     closePolicy: installing ? T.Popup.NoAutoClose : T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     accessibleName: heading.text
-    onOpened: updateButton.forceActiveFocus(Qt.PopupFocusReason)
+    // Whoever is typing when it opens must not restart the program by the next Return or Space.
+    onOpened: laterButton.forceActiveFocus(Qt.PopupFocusReason)
 
     Column {
         width: parent.width
@@ -103,13 +104,13 @@ OVSheet {
             spacing: Theme.space8
 
             OVSecondaryButton {
+                id: laterButton
                 text: qsTr("Later")
                 enabled: !prompt.installing
                 onClicked: prompt.laterRequested()
             }
 
             OVPrimaryButton {
-                id: updateButton
                 text: prompt.installing ? qsTr("Updating…") : qsTr("Update & restart")
                 enabled: !prompt.installing
                 onClicked: prompt.updateRequested()

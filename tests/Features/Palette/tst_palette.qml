@@ -151,6 +151,18 @@ Item {
             compare(Orvel.ui.isSearchPresented, false)
         }
 
+        function test_titlesFromRightToLeftStandBesideTheirSubtitle() {
+            Workspace.addTask("كتابة الرسالة")
+            open()
+            Composer.commit("كت")
+            const found = row("كتابة الرسالة")
+            verify(found)
+            const title = all(item => item.text === found.title, found)[0]
+            const subtitle = all(item => item.text === "To do", found)[0]
+            verify(title.x + title.contentWidth <= subtitle.x)
+            compare(title.effectiveHorizontalAlignment, Text.AlignLeft)
+        }
+
         function test_longListsKeepTheHighlightInSight() {
             Workspace.addTasks(60)
             open()

@@ -93,6 +93,7 @@ private slots:
         publish("1.5");
         check(false);
         waitFor(u"Orvel 1.5 is available"_s);
+        press(Qt::Key_Tab);
         press(Qt::Key_Return);
         QCOMPARE(m_installer.installs.size(), 1);
         QTRY_VERIFY(shows(u"Updating…"_s));
@@ -123,7 +124,6 @@ private slots:
         check(false);
         waitFor(u"Orvel 1.5 is available"_s);
         if (byButton) {
-            press(Qt::Key_Tab);
             press(Qt::Key_Return);
         } else {
             press(Qt::Key_Escape);
@@ -161,6 +161,7 @@ private slots:
         QTRY_VERIFY(m_service->notice().isEmpty());
         QTRY_VERIFY(!shows(u"Check for Updates"_s));
         QVERIFY(shows(u"Orvel 1.5 is available"_s));
+        press(Qt::Key_Tab);
         press(Qt::Key_Return);
         QCOMPARE(m_installer.installs.size(), 1);
     }

@@ -15,6 +15,8 @@ T.Dialog {
     /// Whether accepting takes something away.
     property bool destructive: false
     property bool acceptEnabled: true
+    /// Whether the focus is on the other button at first, so that Return takes nothing away.
+    property bool cautious: false
     default property alias content: extra.data
     property real rise: 0
 
@@ -27,6 +29,11 @@ T.Dialog {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    // It would open with the focus where it was when it closed.
+    onAboutToShow: {
+        if (cautious)
+            rejectButton.focus = true
+    }
     OVAccessible.name: title
     OVAccessible.role: Accessible.AlertMessage
 
@@ -78,6 +85,7 @@ T.Dialog {
             spacing: Theme.space8
 
             OVSecondaryButton {
+                id: rejectButton
                 visible: dialog.rejectText !== ""
                 text: dialog.rejectText
                 onClicked: dialog.reject()
@@ -87,7 +95,7 @@ T.Dialog {
                 id: acceptButton
                 text: dialog.acceptText
                 destructive: dialog.destructive
-                focus: !scope.visible
+                focus: !scope.visible && !dialog.cautious
                 enabled: dialog.acceptEnabled
                 onClicked: dialog.accept()
             }

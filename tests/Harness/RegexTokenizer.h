@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Features/Code/CodeLanguages.h"
-#include "Features/Code/CodeToken.h"
+#include "Features/Code/CodeSyntax.h"
 
 #include <QList>
 #include <QRegularExpression>

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.Code
 import Orvel.DesignSystem
+import Orvel.Session
 
 /// An editor of source text with colours and line numbers, which scrolls by itself. Where it cannot scroll
 /// further, the wheel goes on to what it lies in. Tab indents, so Ctrl+Tab leaves it.
@@ -27,9 +28,11 @@ FocusScope {
                                                              || area.focusReason === Qt.BacktabFocusReason
                                                              || area.focusReason === Qt.ShortcutFocusReason)
     /// The height at which nothing has to scroll.
-    readonly property real fullHeight: area.contentHeight + 2 * verticalPadding
+    readonly property real fullHeight: rows.textHeight + 2 * verticalPadding
     property alias input: area
     property alias flickable: view
+    /// Whether more of a long text is still to come.
+    readonly property alias isLoading: code.isLoading
 
     signal edited(text: string)
     /// An arrow key would lead out of the text.
@@ -40,12 +43,20 @@ FocusScope {
         area.forceActiveFocus(reason)
     }
 
-    /// Takes the text as one that has just been opened: the caret at its beginning, nothing to undo.
-    function begin() {
-        code.forgetUndo()
-        area.cursorPosition = 0
-        view.contentX = 0
-        view.contentY = 0
+    /// Takes the keyboard, with the caret at a place that comes into view.
+    function placeCaret(caret: int) {
+        forceFocus()
+        area.cursorPosition = Math.max(0, Math.min(caret, area.length))
+        keys.reveal()
+    }
+
+    /// Takes the text as one that has just been opened at a place.
+    function begin(caret = 0, scroll = Qt.point(0, 0)) {
+        keys.isHeld = true
+        area.cursorPosition = Math.min(caret, area.length)
+        keys.isHeld = false
+        view.contentX = scroll.x
+        view.contentY = scroll.y
     }
 
     implicitHeight: fullHeight
@@ -71,11 +82,6 @@ FocusScope {
         }
     }
 
-    LineSpacing {
-        distance: 3
-        document: area.textDocument
-    }
-
     CodeLineNumbers {
         id: numbers
         caretColor: Theme.ovInkSecondary
@@ -88,6 +94,19 @@ FocusScope {
         margin: 10
         visible: root.showLineNumbers
         width: visible ? implicitWidth : 0
+    }
+
+    TextRows {
+        id: rows
+        anchors.fill: view
+        color: area.color
+        document: area.textDocument
+        origin: Qt.point(area.x - view.contentX, area.y - view.contentY)
+        selectedTextColor: area.selectedTextColor
+        selectionColor: area.selectionColor
+        selectionEnd: area.selectionEnd
+        selectionStart: area.selectionStart
+        onShifted: distance => view.contentY += distance
     }
 
     Flickable {
@@ -108,8 +127,6 @@ FocusScope {
         T.TextArea {
             id: area
 
-            // Widths in steps, since each new width lays the whole text out again.
-            readonly property int widthStep: 640
             readonly property real room: view.width - x - Theme.space12
 
             Accessible.description: qsTr("Tab indents. Ctrl Tab leaves the editor.")
@@ -124,12 +141,13 @@ FocusScope {
             height: Math.max(view.height, root.fullHeight) - 2 * y
             inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
             persistentSelection: true
+            readOnly: code.isLoading
             selectByMouse: true
             selectedTextColor: Theme.ovInk
             selectionColor: Theme.selection
             tabStopDistance: 4 * metrics.advanceWidth(" ")
             textFormat: TextEdit.PlainText
-            width: root.wrap || contentWidth <= room ? room : Math.ceil(contentWidth / widthStep) * widthStep
+            width: root.wrap ? room : Math.max(room, rows.textWidth)
             wrapMode: root.wrap ? TextEdit.Wrap : TextEdit.NoWrap
             x: root.showLineNumbers ? Theme.space4 : Theme.space12
             y: root.verticalPadding
@@ -166,7 +184,12 @@ FocusScope {
         // A Loader of this Qt version cannot make a bound component.
         // qmllint disable unqualified
         menu: Component {
-            OVTextMenu { target: area }
+            OVTextMenu {
+                storeBacked: true
+                target: area
+                onRedoRequested: Orvel.undo.redo()
+                onUndoRequested: Orvel.undo.undo()
+            }
         }
         // qmllint enable unqualified
     }

@@ -1,11 +1,10 @@
 #include "Features/Code/CodeEditorDocument.h"
 
+#include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemeRevision.h"
-#include "Features/Code/CodeColors.h"
-#include "Features/Code/CodeGeometry.h"
+#include "Features/Code/CodePalette.h"
+#include "Features/Code/RowLayout.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QQuickItem>
 #include <QScopedValueRollback>
 #include <QTextDocument>
 
@@ -14,6 +13,8 @@
 namespace
 {
 constexpr int indentation = 4;
+/// What is inserted in one turn of the event loop.
+constexpr qsizetype sliceUnits = 100'000;
 
 /// What ends a line for a document.
 bool endsLine(QChar unit)
@@ -51,7 +52,35 @@ qsizetype blanksBefore(const QString &line)
     return std::ranges::find_if_not(line, [](QChar unit) { return unit == u' ' || unit == u'\t'; }) -
            line.begin();
 }
+
+QColor inkOf(std::string_view role, const OVColors &colors)
+{
+    if (role == "ovInkSecondary")
+        return colors.inkSecondary;
+    return role == "ovInkTertiary" ? colors.inkTertiary : colors.ink;
+}
+
+/// The colours of source text in the appearance of the program.
+CodeHighlighter::Colors currentColors()
+{
+    const OVThemeSnapshot &theme = OVTheme::current();
+    const OVColors inks = OVTheme::colors();
+    CodeHighlighter::Colors colors;
+    for (std::size_t kind = 0; kind < colors.size(); ++kind) {
+        const CodeColor color = CodePalette::color(CodeTokenKind(kind));
+        const std::string_view digits = theme.dark ? color.dark : color.light;
+        colors[kind] = theme.inkMode || digits.empty()
+                           ? inkOf(color.inkRole, inks)
+                           : QColor(u'#' + QLatin1String(digits.data(), qsizetype(digits.size())));
+    }
+    return colors;
+}
 } // namespace
+
+CodeEditorDocument::CodeEditorDocument(QObject *parent) : QObject(parent)
+{
+    connect(&m_slices, &QTimer::timeout, this, &CodeEditorDocument::insertSlice);
+}
 
 void CodeEditorDocument::setDocument(QQuickTextDocument *document)
 {
@@ -64,19 +93,18 @@ void CodeEditorDocument::setDocument(QQuickTextDocument *document)
     m_highlighter.reset();
     m_document = document;
     if (QTextDocument *const text = textDocument()) {
-        // The item that shows it then makes only what is in view.
-        if (auto *const item = qobject_cast<QQuickItem *>(m_document->parent()))
-            item->setFlag(QQuickItem::ItemObservesViewport);
+        RowLayout *const layout = RowLayout::of(text);
+        text->setUndoRedoEnabled(false);
         m_highlighter = std::make_unique<CodeHighlighter>(text);
         applyLanguage();
-        m_highlighter->setColors(CodeColors::current());
+        m_highlighter->setColors(currentColors());
         connect(&ThemeRevision::shared(), &ThemeRevision::valueChanged, m_highlighter.get(),
-                [this] { m_highlighter->setColors(CodeColors::current()); });
+                [this] { m_highlighter->setColors(currentColors()); });
         connect(text, &QTextDocument::contentsChange, this,
                 [this] { m_isEdited = m_isEdited || !m_highlighter->isColoring(); });
         connect(text, &QTextDocument::contentsChanged, this, &CodeEditorDocument::contentsWereChanged);
-        connect(text->documentLayout(), &QAbstractTextDocumentLayout::update, this,
-                &CodeEditorDocument::laidOut);
+        connect(layout, &RowLayout::update, this, &CodeEditorDocument::laidOut);
+        connect(layout, &RowLayout::documentSizeChanged, this, &CodeEditorDocument::laidOut);
         show(withLineFeeds(m_text));
     }
     emit documentChanged();
@@ -124,6 +152,8 @@ void CodeEditorDocument::setCaret(int caret)
     if (m_caret == caret)
         return;
     m_caret = caret;
+    if (QTextDocument *const document = textDocument())
+        RowLayout::of(document)->setCaret(caret);
     emit caretChanged();
     locateCaret();
 }
@@ -172,9 +202,21 @@ void CodeEditorDocument::breakLine(int selectionStart, int selectionEnd)
         .insertText(u'\n' + before.left(blanksBefore(before)));
 }
 
-void CodeEditorDocument::forgetUndo()
+bool CodeEditorDocument::removeIndent(int caret)
 {
-    textDocument()->clearUndoRedoStacks();
+    const QTextBlock block = textDocument()->findBlock(caret);
+    const QString before = block.text().left(caret - block.position());
+    if (before.isEmpty() || blanksBefore(before) != before.size())
+        return false;
+    int columns = 0;
+    for (const QChar unit : before)
+        columns += unit == u'\t' ? indentation - columns % indentation : 1;
+    qsizetype count = 1;
+    if (!before.endsWith(u'\t'))
+        for (--columns; columns % indentation > 0 && before.at(before.size() - 1 - count) == u' '; --columns)
+            ++count;
+    selected(textDocument(), caret - int(count), caret).removeSelectedText();
+    return true;
 }
 
 void CodeEditorDocument::contentsWereChanged()
@@ -183,9 +225,7 @@ void CodeEditorDocument::contentsWereChanged()
         return;
     locateCaret();
     showColors();
-    const int lines = textDocument()->blockCount();
-    if (std::exchange(m_lineCount, lines) != lines)
-        emit lineCountChanged();
+    tellLineCount();
     // A composition changes the document too, but not its text.
     QString text = textOf(*textDocument());
     if (text == m_shown)
@@ -211,21 +251,57 @@ void CodeEditorDocument::show(const QString &text)
         ++rest;
     if (rest > 0 && text.at(text.size() - rest).isLowSurrogate())
         --rest;
-    {
-        const QScopedValueRollback showing(m_isShowing, true);
-        // Forgets what could be undone.
-        document->setUndoRedoEnabled(false);
-        selected(document, int(same), int(present.size() - rest))
-            .insertText(text.sliced(same, text.size() - rest - same));
-        document->setUndoRedoEnabled(true);
-    }
+    insert(selected(document, int(same), int(present.size() - rest)),
+           text.sliced(same, text.size() - rest - same));
     m_isEdited = false;
     // A caret beyond the change moves along with its text; else it stays, as far as there is text.
     if (caret <= present.size() - rest)
         emit caretPlaced(int(std::min(caret, text.size() - rest)));
     locateCaret();
+    tellLineCount();
+}
+
+void CodeEditorDocument::insert(const QTextCursor &place, const QString &text)
+{
+    const bool wasLoading = isLoading();
+    m_pending = text;
+    m_inserted = 0;
+    m_pendingPlace = place;
+    if (text.size() > sliceUnits)
+        m_slices.start(0);
+    else
+        m_slices.stop();
+    insertSlice();
+    if (isLoading() != wasLoading)
+        emit isLoadingChanged();
+}
+
+void CodeEditorDocument::insertSlice()
+{
+    qsizetype end = std::min(m_pending.size(), m_inserted + sliceUnits);
+    if (end < m_pending.size() && m_pending.at(end).isLowSurrogate())
+        ++end;
+    {
+        const QScopedValueRollback showing(m_isShowing, true);
+        m_pendingPlace.insertText(m_pending.sliced(m_inserted, end - m_inserted));
+    }
+    m_isEdited = false;
+    m_inserted = end;
     showColors();
-    const int lines = document->blockCount();
+    tellLineCount();
+    if (m_inserted < m_pending.size())
+        return;
+    m_pending.clear();
+    m_pendingPlace = QTextCursor();
+    if (isLoading()) {
+        m_slices.stop();
+        emit isLoadingChanged();
+    }
+}
+
+void CodeEditorDocument::tellLineCount()
+{
+    const int lines = textDocument()->blockCount();
     if (std::exchange(m_lineCount, lines) != lines)
         emit lineCountChanged();
 }
@@ -257,8 +333,9 @@ void CodeEditorDocument::showColors()
         return;
     // A little more than is in view, for what scrolls in.
     const qreal margin = m_viewHeight / 2;
-    m_highlighter->setVisibleLines(CodeGeometry::lineAt(*textDocument(), m_viewTop - margin),
-                                   CodeGeometry::lineAt(*textDocument(), m_viewTop + m_viewHeight + margin));
+    const RowLayout &layout = *RowLayout::of(textDocument());
+    m_highlighter->setVisibleLines(layout.lineAt(m_viewTop - margin),
+                                   layout.lineAt(m_viewTop + m_viewHeight + margin));
 }
 
 std::pair<int, int> CodeEditorDocument::linesOf(int selectionStart, int selectionEnd) const

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QQuickTextDocument>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -16,8 +17,8 @@ class CodeEditorDocument : public QObject
     QML_ELEMENT
     /// The `textDocument` of a TextEdit.
     Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged FINAL)
-    /// The owner's text. Another one than what the editor has told last takes the place of what is shown, and
-    /// there is no way back to that by undo.
+    /// The owner's text. Another one than what the editor has told last takes the place of what is shown.
+    /// What is typed is undone by the owner, in whose text it stands.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged FINAL)
     /// The raw text of a `CodeLanguage`; an unknown one reads as the first language.
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged FINAL)
@@ -30,9 +31,11 @@ class CodeEditorDocument : public QObject
     Q_PROPERTY(int caretLine READ caretLine NOTIFY caretMoved FINAL)
     Q_PROPERTY(int caretColumn READ caretColumn NOTIFY caretMoved FINAL)
     Q_PROPERTY(int lineCount READ lineCount NOTIFY lineCountChanged FINAL)
+    /// Whether more of a long text is still to come. It can't be edited before that.
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
 
 public:
-    using QObject::QObject;
+    explicit CodeEditorDocument(QObject *parent = nullptr);
 
     QQuickTextDocument *document() const { return m_document; }
     void setDocument(QQuickTextDocument *document);
@@ -53,6 +56,7 @@ public:
     int caretLine() const { return m_caretLine; }
     int caretColumn() const { return m_caretColumn; }
     int lineCount() const { return m_lineCount; }
+    bool isLoading() const { return m_slices.isActive(); }
 
     /// Puts four blanks in the place of the selection, or before each of its lines if it has several.
     Q_INVOKABLE void indent(int selectionStart, int selectionEnd);
@@ -60,7 +64,9 @@ public:
     Q_INVOKABLE void outdent(int selectionStart, int selectionEnd);
     /// Begins a new line with the blanks that the present one begins with.
     Q_INVOKABLE void breakLine(int selectionStart, int selectionEnd);
-    Q_INVOKABLE void forgetUndo();
+    /// Takes the blanks before the caret back to the last stop of the indentation. Does nothing and returns
+    /// false if there is anything else before it on its line.
+    Q_INVOKABLE bool removeIndent(int caret);
 
 signals:
     void documentChanged();
@@ -70,7 +76,8 @@ signals:
     void caretChanged();
     void caretMoved();
     void lineCountChanged();
-    /// The text as the person has made it, after each change.
+    void isLoadingChanged();
+    /// The text as the user has made it, after each change.
     void edited(const QString &text);
     /// A text from outside has come, and the caret belongs here now.
     void caretPlaced(int position);
@@ -81,6 +88,10 @@ private:
     void contentsWereChanged();
     /// Gives the document this text with as few changes as it takes, so that the caret keeps its place.
     void show(const QString &text);
+    /// Puts a text into the document, of a long one the beginning; the rest follows turn by turn.
+    void insert(const QTextCursor &place, const QString &text);
+    void insertSlice();
+    void tellLineCount();
     void applyLanguage();
     void locateCaret();
     void showColors();
@@ -102,4 +113,9 @@ private:
     /// Whether the document has changed by more than its colours.
     bool m_isEdited = false;
     bool m_isShowing = false;
+    /// What is still to be inserted, from an offset on, and where.
+    QString m_pending;
+    qsizetype m_inserted = 0;
+    QTextCursor m_pendingPlace;
+    QTimer m_slices;
 };

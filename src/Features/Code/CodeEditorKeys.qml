@@ -1,6 +1,7 @@
 import QtQuick
 import Orvel.Code
 import Orvel.DesignSystem
+import Orvel.Session
 
 /// The keys that a code editor takes before its text does, and what keeps the caret in view.
 QtObject {
@@ -43,6 +44,13 @@ QtObject {
             input.cursorPosition = position
     }
 
+    function openMenu() {
+        const caret = input.cursorRectangle
+        const place = input.mapToItem(contextMenu, caret.x, caret.y + caret.height)
+        contextMenu.openAt(within(place.x, contextMenu.width, 0, contextMenu.width),
+                           within(place.y, contextMenu.height, 0, contextMenu.height))
+    }
+
     function moveOut(event: KeyEvent) {
         const caret = input.cursorRectangle
         if (event.key === Qt.Key_Up && caret.y <= input.positionToRectangle(0).y)
@@ -52,9 +60,23 @@ QtObject {
     }
 
     function handle(event: KeyEvent) {
+        if (input.readOnly)
+            return
         const modifiers = event.modifiers & ~(Qt.KeypadModifier | Qt.GroupSwitchModifier)
         const isShifted = modifiers === Qt.ShiftModifier
-        if (event.matches(StandardKey.SelectAll)) {
+        if (event.matches(StandardKey.Undo)) {
+            Orvel.undo.undo()
+            return event.accepted = true
+        }
+        if (event.matches(StandardKey.Redo) || (event.key === Qt.Key_Y && modifiers === Qt.ControlModifier)) {
+            Orvel.undo.redo()
+            return event.accepted = true
+        }
+        const isMenuKey = event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && isShifted)
+        if (isMenuKey) {
+            reveal()
+            openMenu()
+        } else if (event.matches(StandardKey.SelectAll)) {
             isHeld = true
             input.selectAll()
             isHeld = false
@@ -68,13 +90,16 @@ QtObject {
                                                                             : Qt.BacktabFocusReason)
         } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (!modifiers || isShifted)) {
             document.breakLine(input.selectionStart, input.selectionEnd)
+        } else if (event.key === Qt.Key_Backspace && (!modifiers || isShifted)
+                   && input.selectionStart === input.selectionEnd && input.preeditText === ""
+                   && document.removeIndent(input.cursorPosition)) {
+            reveal()
         } else if ((event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown) && (!modifiers || isShifted)) {
             moveByPage(event.key === Qt.Key_PageUp ? -1 : 1, isShifted)
         } else {
             if (!modifiers)
                 moveOut(event)
             event.accepted = false
-            contextMenu.handleKey(event)
             return
         }
         event.accepted = true

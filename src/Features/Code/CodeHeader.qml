@@ -11,11 +11,14 @@ Item {
     property bool didCopy: false
     readonly property bool isTight: width < 560 * Theme.fontScale
     readonly property bool isTightest: width < 420 * Theme.fontScale
-    readonly property string runText: viewModel.isRunning ? qsTr("Running…") : qsTr("Run snippet")
+    readonly property CodeRun run: CodeDesk.run(viewModel.selectedID)
+    readonly property string runText: run.running ? qsTr("Stop") : qsTr("Run snippet")
+    readonly property string runSymbol: run.running ? "stop" : "play"
+    readonly property string runKey: run.running ? qsTr("Esc") : qsTr("Ctrl R")
 
     signal railRequested()
     signal deleteRequested()
-    /// The person is done with the title.
+    /// The user is done with the title.
     signal titleDone()
 
     function editTitle() {
@@ -23,17 +26,24 @@ Item {
         title.selectAll()
     }
 
-    /// Runs what the person sees, with what is still being composed.
+    /// Runs what the user sees, with what is still being composed.
     function runSnippet() {
         Qt.inputMethod.commit() // qmllint disable
         viewModel.runSnippet()
+    }
+
+    function runOrStop() {
+        if (run.running)
+            run.stop()
+        else
+            runSnippet()
     }
 
     implicitHeight: actions.height
 
     Connections {
         target: root.viewModel
-        function onTitleChanged() {
+        function onDocumentChanged() {
             title.text = root.viewModel.title
         }
         function onSelectionChanged() {
@@ -102,13 +112,13 @@ Item {
 
         OVMenuButton {
             anchors.verticalCenter: parent.verticalCenter
-            Accessible.name: qsTr("Language: %1").arg(root.viewModel.languageText)
+            Accessible.name: qsTr("Language: %1").arg(root.viewModel.language.label)
             plain: true
-            text: root.viewModel.languageText
+            text: root.viewModel.language.label
             toolTip: qsTr("Language")
 
             menu: CodeLanguageMenu {
-                language: root.viewModel.language
+                language: root.viewModel.language.raw
                 onPicked: raw => root.viewModel.setLanguage(raw)
             }
         }
@@ -146,22 +156,20 @@ Item {
         OVIconButton {
             anchors.verticalCenter: parent.verticalCenter
             color: Theme.ovInk
-            enabled: !root.viewModel.isRunning
-            symbol: "play"
+            symbol: root.runSymbol
             text: root.runText
-            toolTip: qsTr("%1, Ctrl R").arg(root.runText)
+            toolTip: qsTr("%1, %2").arg(root.runText).arg(root.runKey)
             visible: root.isTightest
-            onClicked: root.runSnippet()
+            onClicked: root.runOrStop()
         }
 
         OVPrimaryButton {
-            enabled: !root.viewModel.isRunning
-            keyText: root.isTight ? "" : qsTr("Ctrl R")
-            symbol: "play"
+            keyText: root.isTight ? "" : root.runKey
+            symbol: root.runSymbol
             text: root.runText
-            toolTip: root.isTight ? qsTr("Ctrl R") : ""
+            toolTip: root.isTight ? root.runKey : ""
             visible: !root.isTightest
-            onClicked: root.runSnippet()
+            onClicked: root.runOrStop()
         }
     }
 }

@@ -1,7 +1,5 @@
 #include "Features/Code/CodeHighlighter.h"
 
-#include "Features/Code/CodeSyntax.h"
-
 #include <QAbstractTextDocumentLayout>
 #include <QScopedValueRollback>
 #include <QTextDocument>
@@ -16,6 +14,9 @@ using Ranges = QList<QTextLayout::FormatRange>;
 
 /// What an edit itself may cost, and each portion after it; an empty line counts for something too.
 constexpr qsizetype editUnits = 4000, portionUnits = 20'000, unitsPerLine = 20;
+
+/// A longer line stays plain.
+constexpr int mostLineUnits = 20'000;
 
 /// What a block remembers: what was open before it, what it leaves open to the next one, and whether it has
 /// the colours of that.
@@ -119,8 +120,7 @@ void CodeHighlighter::setVisibleLines(int first, int last)
             cursor.beginEditBlock();
         }
         const BlockState state = BlockState::of(block);
-        m_tokens.clear();
-        CodeSyntax::scanLine(textOf(block), block.next().isValid(), state.before, m_language, m_tokens);
+        scan(block, state.before);
         paint(block);
         block.setUserState(BlockState{state.before, state.after, true}.toUserState());
         end = block;
@@ -191,9 +191,7 @@ QTextBlock CodeHighlighter::colorLines(QTextBlock block, int until, qsizetype un
             --units;
             continue;
         }
-        m_tokens.clear();
-        const QString text = textOf(block);
-        const Open after = CodeSyntax::scanLine(text, block.next().isValid(), open, m_language, m_tokens);
+        const Open after = scan(block, open);
         if (isVisible(line)) {
             paint(block);
             start = start < 0 ? block.position() : start;
@@ -201,11 +199,19 @@ QTextBlock CodeHighlighter::colorLines(QTextBlock block, int until, qsizetype un
         }
         block.setUserState(BlockState{open, after, isVisible(line)}.toUserState());
         open = after;
-        units -= text.size() + unitsPerLine;
+        units -= block.length() + unitsPerLine;
     }
     if (start >= 0)
         m_document->markContentsDirty(start, end - start);
     return isDone ? QTextBlock() : block;
+}
+
+CodeSyntax::Open CodeHighlighter::scan(const QTextBlock &block, Open open)
+{
+    m_tokens.clear();
+    if (block.length() > mostLineUnits)
+        return open;
+    return CodeSyntax::scanLine(textOf(block), block.next().isValid(), open, m_language, m_tokens);
 }
 
 void CodeHighlighter::paint(const QTextBlock &block)

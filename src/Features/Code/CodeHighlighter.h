@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Features/Code/CodeToken.h"
+#include "Features/Code/CodeSyntax.h"
 #include "Models/CodeLanguage.h"
 
 #include <QColor>
@@ -57,6 +57,8 @@ private:
     void colorPortion(qsizetype units);
     /// Colours lines up to the one that begins at `until`. Gives the line to go on with, if there is one.
     QTextBlock colorLines(QTextBlock block, int until, qsizetype units);
+    /// Finds the tokens of the line. Gives what it leaves open.
+    CodeSyntax::Open scan(const QTextBlock &block, CodeSyntax::Open open);
     /// Sets the colours of the tokens found last on the line.
     void paint(const QTextBlock &block);
     bool isVisible(int line) const { return line >= m_firstVisible && line <= m_lastVisible; }

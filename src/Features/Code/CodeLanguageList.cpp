@@ -10,22 +10,6 @@ CodeLanguage languageOf(const QString &raw)
 }
 } // namespace
 
-QStringList CodeLanguageList::rawTexts() const
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<CodeLanguage>())
-        texts.append(enumRawText(entry.value));
-    return texts;
-}
-
-QStringList CodeLanguageList::labels() const
-{
-    QStringList texts;
-    for (const auto &entry : enumCases<CodeLanguage>())
-        texts.append(enumLabel(entry.value));
-    return texts;
-}
-
 QString CodeLanguageList::label(const QString &raw) const
 {
     return enumLabel(languageOf(raw));

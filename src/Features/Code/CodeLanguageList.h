@@ -1,8 +1,16 @@
 #pragma once
 
-#include <QObject>
-#include <QStringList>
+#include "Foundation/Choice.h"
+#include "Models/CodeLanguage.h"
+
 #include <QtQml/qqmlregistration.h>
+
+/// Makes `Choice` known to QML, which lies below it and knows nothing of it.
+struct ChoiceType {
+    Q_GADGET
+    QML_FOREIGN(Choice)
+    QML_ANONYMOUS
+};
 
 /// The languages as menus and tooltips name them. An unknown raw text reads as the first language.
 class CodeLanguageList : public QObject
@@ -10,16 +18,13 @@ class CodeLanguageList : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// In the order of menus; both lists go together.
-    Q_PROPERTY(QList<QString> rawTexts READ rawTexts CONSTANT FINAL)
-    Q_PROPERTY(QList<QString> labels READ labels CONSTANT FINAL)
+    /// In the order of menus.
+    Q_PROPERTY(QList<Choice> choices READ choices CONSTANT FINAL)
 
 public:
     using QObject::QObject;
 
-    QStringList rawTexts() const;
-    QStringList labels() const;
-
+    QList<Choice> choices() const { return Choice::all<CodeLanguage>(); }
     Q_INVOKABLE QString label(const QString &raw) const;
     Q_INVOKABLE bool canRun(const QString &raw) const;
     Q_INVOKABLE QString unsupportedReason(const QString &raw) const;

@@ -15,18 +15,18 @@ OVMenu {
     signal picked(raw: string)
 
     Instantiator {
-        model: CodeLanguageList.rawTexts
+        model: CodeLanguageList.choices
 
         OVMenuItem {
             id: item
 
-            required property string modelData
+            required property var modelData
 
             autoExclusive: true
             checkable: true
             checked: CodeLanguageList.label(root.language) === item.text
-            text: CodeLanguageList.label(item.modelData)
-            onTriggered: root.picked(item.modelData)
+            text: item.modelData.label
+            onTriggered: root.picked(item.modelData.raw)
         }
 
         onObjectAdded: (index, object) => root.insertItem(index, object as OVMenuItem)

@@ -1,9 +1,12 @@
 #include "Features/Code/CodeLineNumbers.h"
 
+#include "Features/Code/RowLayout.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 CodeLineNumbers::CodeLineNumbers(QQuickItem *parent) : QQuickPaintedItem(parent)
 {
@@ -46,21 +49,20 @@ void CodeLineNumbers::updatePolish()
 {
     if (!m_document || !m_document->textDocument())
         return;
-    auto marks =
-        CodeGeometry::lineMarks(*m_document->textDocument(), -m_documentTop, height() - m_documentTop);
-    for (CodeGeometry::LineMark &mark : marks)
-        mark.baseline += m_documentTop;
-    if (marks == m_marks)
-        return;
-    m_marks = std::move(marks);
-    update();
+    const RowLayout &layout = *RowLayout::of(m_document->textDocument());
+    const int last = layout.lineAt(height() - m_documentTop);
+    QList<Mark> marks;
+    for (int line = layout.lineAt(-m_documentTop); line <= last; ++line)
+        marks.append({line + 1, layout.baselineOf(line) + m_documentTop});
+    if (std::exchange(m_marks, marks) != marks)
+        update();
 }
 
 void CodeLineNumbers::paint(QPainter *painter)
 {
     painter->setFont(m_font);
     const QFontMetricsF metrics(m_font);
-    for (const CodeGeometry::LineMark &mark : std::as_const(m_marks)) {
+    for (const Mark &mark : std::as_const(m_marks)) {
         const QString number = QString::number(mark.number);
         painter->setPen(m_document && mark.number == m_document->caretLine() ? m_caretColor : m_color);
         painter->drawText(QPointF(width() - m_margin - metrics.horizontalAdvance(number), mark.baseline),

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Features/Code/CodeEditorDocument.h"
-#include "Features/Code/CodeGeometry.h"
 
 #include <QColor>
 #include <QQuickPaintedItem>
@@ -49,6 +48,13 @@ private:
     QFont m_font;
     QColor m_color;
     QColor m_caretColor;
+    struct Mark {
+        /// From 1.
+        int number = 0;
+        qreal baseline = 0;
+
+        bool operator==(const Mark &) const = default;
+    };
     /// What is drawn, in the item's pixels.
-    QList<CodeGeometry::LineMark> m_marks;
+    QList<Mark> m_marks;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Features/Code/CodeToken.h"
+#include "Features/Code/CodeSyntax.h"
 
 #include <optional>
 #include <string_view>

@@ -9,6 +9,9 @@ FocusScope {
     required property CodeViewModel viewModel
     property bool railShown: true
     property alias editor: editor
+    readonly property alias run: header.run
+    /// The document whose place is kept; none while it is still loading.
+    property var openDocument
 
     signal railRequested()
     signal deleteRequested(var documentID)
@@ -21,10 +24,33 @@ FocusScope {
         header.runSnippet()
     }
 
+    /// Keeps the place of the document that is open.
+    function leave() {
+        if (openDocument)
+            CodeDesk.leave(openDocument, editor.input.cursorPosition,
+                           Qt.point(editor.flickable.contentX, editor.flickable.contentY))
+    }
+
+    /// Goes to where the document was left, once there is enough of it.
+    function arrive() {
+        const place = CodeDesk.place(viewModel.selectedID)
+        openDocument = editor.isLoading ? undefined : viewModel.selectedID
+        editor.begin(place.caret, place.scroll)
+    }
+
+    Component.onCompleted: arrive()
+    Component.onDestruction: leave()
+
     Connections {
         target: root.viewModel
+        function onSelectionAboutToChange() {
+            root.leave()
+        }
         function onSelectionChanged() {
-            editor.begin()
+            root.arrive()
+        }
+        function onCaretRestored(caret: int) {
+            editor.placeCaret(caret)
         }
     }
 
@@ -57,14 +83,18 @@ FocusScope {
             anchors.margins: Theme.lineWidth
             accessibleName: qsTr("Source of %1").arg(root.viewModel.title)
             focus: true
-            fontSize: Math.round(root.viewModel.fontSize * Theme.fontScale)
-            language: root.viewModel.language
+            fontSize: Math.round(CodeDesk.fontSize * Theme.fontScale)
+            language: root.viewModel.language.raw
             placeholder: qsTr("Write some code")
-            showLineNumbers: root.viewModel.showLineNumbers
+            showLineNumbers: CodeDesk.showLineNumbers
             text: root.viewModel.source
             verticalPadding: Theme.space12
-            wrap: root.viewModel.wrap
-            onEdited: text => root.viewModel.setSource(text)
+            wrap: CodeDesk.wrap
+            onEdited: text => root.viewModel.setSource(text, editor.input.cursorPosition)
+            onIsLoadingChanged: {
+                if (!isLoading)
+                    root.arrive()
+            }
         }
 
         OVFocusRing {
@@ -79,8 +109,8 @@ FocusScope {
 
             SnippetConsole {
                 height: Math.round(Math.min(260 * Theme.fontScale, sheet.height * 0.42))
-                viewModel: root.viewModel
-                visible: root.viewModel.showConsole
+                run: header.run
+                visible: CodeDesk.showConsole
                 width: parent.width
                 onVisibleChanged: {
                     if (!visible && activeFocus)

@@ -144,7 +144,7 @@ FocusScope {
         color: Theme.ovInkSecondary
         horizontalAlignment: Text.AlignHCenter
         text: qsTr("No snippet matches.")
-        visible: root.viewModel.findsNothing
+        visible: list.count === 0
         width: parent.width
         wrapMode: Text.Wrap
     }

@@ -9,7 +9,7 @@ Item {
     required property var documentID
     required property string title
     required property string detail
-    required property bool isSelected
+    readonly property bool isSelected: ListView.isCurrentItem
     required property CodeViewModel viewModel
     /// Whether the keyboard is in the list.
     property bool ringShown: false

@@ -2,14 +2,13 @@
 
 #include <QCoreApplication>
 
-CodeRow CodeRow::of(const CodeDocument &document, bool isSelected)
+CodeRow CodeRow::of(const CodeDocument &document)
 {
     const QString title = document.title.trimmed();
     return {.id = document.id,
             .title = title.isEmpty() ? QCoreApplication::translate("CodeRow", "Untitled") : title,
             .detail =
-                enumLabel(document.language) + QStringLiteral(" · ") + lineCountText(document.lineCount()),
-            .isSelected = isSelected};
+                enumLabel(document.language) + QStringLiteral(" · ") + lineCountText(document.lineCount())};
 }
 
 QString CodeRow::lineCountText(qsizetype count)

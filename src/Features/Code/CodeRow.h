@@ -10,18 +10,16 @@ struct CodeRow {
     Q_PROPERTY(QUuid documentID MEMBER id FINAL)
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString detail MEMBER detail FINAL)
-    Q_PROPERTY(bool isSelected MEMBER isSelected FINAL)
 
 public:
     QUuid id;
     QString title = {};
     /// The language and how long it is.
     QString detail = {};
-    bool isSelected = false;
 
     bool operator==(const CodeRow &) const = default;
 
-    static CodeRow of(const CodeDocument &document, bool isSelected);
+    static CodeRow of(const CodeDocument &document);
     /// "1 line", "12 lines"
     static QString lineCountText(qsizetype count);
     /// Whether the title, the language's label or the source contain the text, whatever its case.

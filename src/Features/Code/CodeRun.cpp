@@ -1,5 +1,6 @@
 #include "Features/Code/CodeRun.h"
 
+#include "Features/Code/ConsoleExcerpt.h"
 #include "Foundation/BadgeTone.h"
 
 #include <QClipboard>
@@ -9,6 +10,13 @@
 
 namespace
 {
+using namespace std::chrono_literals;
+
+/// The console changes no more often than this.
+constexpr auto frame = 33ms;
+/// What a console shows of an output.
+constexpr qsizetype mostShownUnits = 60'000;
+
 /// How a console tells what became of a run.
 struct StatusTexts {
     QString word;
@@ -25,6 +33,8 @@ StatusTexts textsOf(CodeRunResult::Status status)
         return {CodeRun::tr("Failed"), QStringLiteral("xmark.octagon"), BadgeTone::danger};
     case CodeRunResult::Status::timedOut:
         return {CodeRun::tr("Timed out"), QStringLiteral("clock"), BadgeTone::warning};
+    case CodeRunResult::Status::stopped:
+        return {CodeRun::tr("Stopped"), QStringLiteral("stop"), BadgeTone::neutral};
     case CodeRunResult::Status::unsupported:
         break;
     }
@@ -36,6 +46,8 @@ CodeRun::CodeRun(QObject *parent) : CodeRun(CodeRunnerOptions::ofThisMachine(), 
 
 CodeRun::CodeRun(CodeRunnerOptions options, QObject *parent) : QObject(parent), m_options(std::move(options))
 {
+    m_frames.setInterval(frame);
+    connect(&m_frames, &QTimer::timeout, this, &CodeRun::follow);
 }
 
 void CodeRun::run(const QString &source, const QString &languageRaw)
@@ -46,14 +58,35 @@ void CodeRun::run(const QString &source, const QString &languageRaw)
         m_runner = std::make_unique<CodeRunner>(m_options);
     m_running = true;
     setResult({});
-    emit runningChanged();
     const auto language =
         enumFromRaw<CodeLanguage>(languageRaw).value_or(enumCases<CodeLanguage>().front().value);
-    m_runner->run(source, language, this, [this](const CodeRunResult &result) {
+    m_control = m_runner->run(source, language, this, [this](const CodeRunResult &result) {
         m_running = false;
+        m_frames.stop();
+        m_printed.clear();
         setResult(result);
         emit runningChanged();
     });
+    m_elapsed.start();
+    m_frames.start();
+    emit runningChanged();
+    emit outputChanged();
+}
+
+void CodeRun::stop()
+{
+    if (m_running)
+        m_control->stop();
+}
+
+void CodeRun::follow()
+{
+    // A whole tenth at a time, so that it can be read.
+    setDurationText(tr("%1s").arg(double(m_elapsed.elapsed() / 100) / 10, 0, 'f', 1));
+    if (auto text = m_control->newText()) {
+        m_printed = *std::move(text);
+        emit outputChanged();
+    }
 }
 
 void CodeRun::clear()
@@ -81,11 +114,6 @@ int CodeRun::statusTone() const
     return int(m_result ? textsOf(m_result->status).tone : BadgeTone::neutral);
 }
 
-QString CodeRun::durationText() const
-{
-    return m_result && m_result->duration > 0 ? QString::asprintf("%.2fs", m_result->duration) : QString();
-}
-
 QString CodeRun::tool() const
 {
     return m_result ? m_result->tool.value_or(QString()) : QString();
@@ -98,15 +126,17 @@ QString CodeRun::toolTip() const
 
 QString CodeRun::output() const
 {
-    return m_result ? m_result->output : QString();
+    return m_result ? m_result->output : m_printed;
 }
 
 QString CodeRun::consoleText() const
 {
-    if (!m_result)
-        return {};
-    const bool isBlank = QStringView(m_result->output).trimmed().isEmpty();
-    return isBlank ? tr("No output.") : m_result->output;
+    const QString text = output();
+    if (!QStringView(text).trimmed().isEmpty())
+        return ConsoleExcerpt::of(text, mostShownUnits);
+    if (m_running)
+        return tr("Running…");
+    return m_result ? tr("No output.") : QString();
 }
 
 void CodeRun::setResult(std::optional<CodeRunResult> result)
@@ -114,5 +144,14 @@ void CodeRun::setResult(std::optional<CodeRunResult> result)
     if (m_result == result)
         return;
     m_result = std::move(result);
+    setDurationText(m_result && m_result->duration > 0 ? tr("%1s").arg(m_result->duration, 0, 'f', 2)
+                                                       : QString());
     emit resultChanged();
+    emit outputChanged();
+}
+
+void CodeRun::setDurationText(const QString &text)
+{
+    if (std::exchange(m_durationText, text) != text)
+        emit durationTextChanged();
 }

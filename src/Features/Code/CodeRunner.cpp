@@ -2,6 +2,7 @@
 
 #include "Features/Code/CodeLanguages.h"
 #include "Features/Code/JsonText.h"
+#include "Features/Code/ScratchFolder.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -11,12 +12,8 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScopeGuard>
-#include <QUuid>
 
-#include <cerrno>
-#include <filesystem>
 #include <sys/eventfd.h>
-#include <sys/stat.h>
 
 namespace
 {
@@ -27,27 +24,13 @@ constexpr std::chrono::milliseconds grace = 1s;
 /// More runs at once wait for their turn.
 constexpr int mostRuns = 64;
 
-/// A folder that only its owner can enter. On failure gives the system's reason.
-std::expected<QString, QString> makeScratchFolder(const QString &parent)
-{
-    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    const QString path = QDir(parent).filePath(QStringLiteral("OrvelRun-") + id);
-    std::error_code error;
-    std::filesystem::create_directories(QFile::encodeName(parent).toStdString(), error);
-    if (error)
-        return std::unexpected(qt_error_string(error.value()));
-    if (::mkdir(QFile::encodeName(path).constData(), 0700) != 0)
-        return std::unexpected(qt_error_string(errno));
-    return path;
-}
-
 QString decoded(const QByteArray &bytes, bool isCut, qsizetype limit)
 {
     QString text = QString::fromUtf8(bytes);
     if (isCut) {
         if (!text.endsWith(QLatin1Char('\n')))
             text += QLatin1Char('\n');
-        text += QStringLiteral("[cut after %1]").arg(QLocale(QLocale::English).formattedDataSize(limit, 0));
+        text += CodeRunner::tr("[cut after %1]").arg(QLocale(QLocale::English).formattedDataSize(limit, 0));
     }
     return text;
 }
@@ -92,17 +75,20 @@ CodeRunner::~CodeRunner()
     m_threads.waitForDone();
 }
 
-void CodeRunner::run(const QString &source, CodeLanguage language, QObject *context, const Answer &answer)
+std::shared_ptr<RunControl> CodeRunner::run(const QString &source, CodeLanguage language, QObject *context,
+                                            const Answer &answer)
 {
-    m_threads.start([this, source, language, answer, context = QPointer(context)] {
+    auto control = std::make_shared<RunControl>();
+    m_threads.start([this, source, language, answer, control, context = QPointer(context)] {
         QMetaObject::invokeMethod(
             this,
-            [context, answer, result = result(source, language)] {
+            [context, answer, result = result(source, language, *control)] {
                 if (context)
                     answer(result);
             },
             Qt::QueuedConnection);
     });
+    return control;
 }
 
 bool CodeRunner::canRun(CodeLanguage language)
@@ -116,12 +102,12 @@ QString CodeRunner::unsupportedReason(CodeLanguage language)
     switch (language) {
     case CodeLanguage::markdown:
     case CodeLanguage::plain:
-        return label + QStringLiteral(" has no runtime.");
+        return tr("%1 has no runtime.").arg(label);
     case CodeLanguage::html:
     case CodeLanguage::css:
-        return label + QStringLiteral(" is markup  -  there is nothing to run.");
+        return tr("%1 is markup  -  there is nothing to run.").arg(label);
     default:
-        return label + QStringLiteral(" can\u2019t be run here.");
+        return tr("%1 can\u2019t be run here.").arg(label);
     }
 }
 
@@ -165,44 +151,41 @@ CodeRunResult CodeRunner::validateJSON(const QString &source)
     const QString tool = QStringLiteral("JSON");
     const auto pretty = JsonText::pretty(source);
     if (!pretty)
-        return {Status::failure, QStringLiteral("Invalid JSON: ") + pretty.error(), 0, tool};
+        return {Status::failure, tr("Invalid JSON: %1").arg(pretty.error()), 0, tool};
     return {Status::success, *pretty, 0, tool};
 }
 
-CodeRunResult CodeRunner::result(const QString &source, CodeLanguage language) const
+CodeRunResult CodeRunner::result(const QString &source, CodeLanguage language, RunControl &control) const
 {
     if (!canRun(language))
         return {Status::unsupported, unsupportedReason(language)};
     const QString text = prepared(source);
     if (text.trimmed().isEmpty())
-        return {Status::success, QStringLiteral("Nothing to run.")};
+        return {Status::success, tr("Nothing to run.")};
     QElapsedTimer timer;
     timer.start();
-    CodeRunResult result = execute(text, language);
+    CodeRunResult result = execute(text, language, control);
     result.duration = double(timer.nsecsElapsed()) / 1e9;
     return result;
 }
 
-CodeRunResult CodeRunner::execute(const QString &source, CodeLanguage language) const
+CodeRunResult CodeRunner::execute(const QString &source, CodeLanguage language, RunControl &control) const
 {
     if (language == CodeLanguage::json)
         return validateJSON(source);
     const auto command = m_interpreters.command(language);
     if (!command)
         return {Status::unsupported, unsupportedReason(language)};
-    const auto folder = makeScratchFolder(m_options.temporaryFolder);
+    const auto folder = ScratchFolder::make(m_options.temporaryFolder);
     if (!folder)
-        return {Status::failure, QStringLiteral("Couldn\u2019t prepare a scratch folder: ") + folder.error(),
-                0, command->label};
-    const auto removal = qScopeGuard([&] {
-        std::error_code ignored;
-        std::filesystem::remove_all(QFile::encodeName(*folder).toStdString(), ignored);
-    });
-    return executeIn(*folder, source, language, *command);
+        return {Status::failure, tr("Couldn\u2019t prepare a scratch folder: %1").arg(folder.error()), 0,
+                command->label};
+    const auto removal = qScopeGuard([&] { ScratchFolder::remove(*folder, m_cancelled.number()); });
+    return executeIn(*folder, source, language, *command, control);
 }
 
 CodeRunResult CodeRunner::executeIn(const QString &folder, const QString &source, CodeLanguage language,
-                                    const CodeCommand &command) const
+                                    const CodeCommand &command, RunControl &control) const
 {
     const std::u16string_view extension = CodeLanguages::traits(language).fileExtension;
     QFile snippet(QDir(folder).filePath(QStringLiteral("main.") +
@@ -210,8 +193,8 @@ CodeRunResult CodeRunner::executeIn(const QString &folder, const QString &source
     const QByteArray bytes = source.toUtf8();
     if (!snippet.open(QIODevice::WriteOnly | QIODevice::NewOnly) || snippet.write(bytes) != bytes.size() ||
         !snippet.flush())
-        return {Status::failure, QStringLiteral("Couldn\u2019t write the snippet: ") + snippet.errorString(),
-                0, command.label};
+        return {Status::failure, tr("Couldn\u2019t write the snippet: %1").arg(snippet.errorString()), 0,
+                command.label};
     snippet.close();
 
     QProcessEnvironment environment = m_options.environment;
@@ -228,11 +211,13 @@ CodeRunResult CodeRunner::executeIn(const QString &folder, const QString &source
                                           .timeout = scaled(command.timeout),
                                           .grace = scaled(grace),
                                           .outputLimit = m_options.outputLimit,
-                                          .scratchFolder = folder},
+                                          .scratchFolder = folder,
+                                          .isIsolated = m_options.isIsolated,
+                                          .control = &control},
                                          m_cancelled.number());
     if (outcome.launchError)
         return {Status::failure,
-                QStringLiteral("Couldn\u2019t launch %1: %2")
+                tr("Couldn\u2019t launch %1: %2")
                     .arg(QFileInfo(command.executable).fileName(), qt_error_string(*outcome.launchError)),
                 0, command.label};
 
@@ -241,11 +226,15 @@ CodeRunResult CodeRunner::executeIn(const QString &folder, const QString &source
         !errors.isEmpty())
         appendLine(output, errors);
     if (outcome.isTimedOut) {
-        appendLine(output, QStringLiteral("[stopped after %1s]").arg(command.timeout.count()));
+        appendLine(output, tr("[stopped after %1s]").arg(command.timeout.count()));
         return {Status::timedOut, output, 0, command.label};
     }
+    if (outcome.isStopped) {
+        appendLine(output, tr("[stopped]"));
+        return {Status::stopped, output, 0, command.label};
+    }
     if (output.trimmed().isEmpty())
-        output = outcome.status != 0 ? QStringLiteral("Exited with status %1.").arg(outcome.status)
-                                     : QStringLiteral("Finished with no output.");
+        output = outcome.status != 0 ? tr("Exited with status %1.").arg(outcome.status)
+                                     : tr("Finished with no output.");
     return {outcome.status != 0 ? Status::failure : Status::success, output, 0, command.label};
 }

@@ -1,13 +1,30 @@
 #pragma once
 
-#include "Features/Code/CodeRunResult.h"
 #include "Features/Code/FileDescriptor.h"
 #include "Features/Code/Interpreters.h"
+#include "Features/Code/RunControl.h"
 
 #include <QObject>
 #include <QThreadPool>
 
 #include <functional>
+#include <memory>
+#include <optional>
+
+/// What became of a run.
+struct CodeRunResult {
+    /// A run is stopped by the user, and timed out by the program.
+    enum class Status { success, failure, timedOut, stopped, unsupported };
+    Status status = Status::success;
+    /// For the console.
+    QString output;
+    /// Seconds; 0 when nothing ran.
+    double duration = 0;
+    /// The interpreter that ran, for the status line.
+    std::optional<QString> tool;
+
+    bool operator==(const CodeRunResult &) const = default;
+};
 
 /// Runs snippets of source with the interpreters of this machine, off the main thread, several at once.
 /// Destroying it ends what is running; no process and no scratch folder of a run outlives it.
@@ -24,7 +41,8 @@ public:
 
     /// Starts a run and returns at once. The answer comes in the runner's thread, unless `context` or the
     /// runner is gone by then.
-    void run(const QString &source, CodeLanguage language, QObject *context, const Answer &answer);
+    std::shared_ptr<RunControl> run(const QString &source, CodeLanguage language, QObject *context,
+                                    const Answer &answer);
 
     /// Whether the language can be run at all, leaving aside which interpreters are there.
     static bool canRun(CodeLanguage language);
@@ -36,10 +54,10 @@ public:
     static CodeRunResult validateJSON(const QString &source);
 
 private:
-    CodeRunResult result(const QString &source, CodeLanguage language) const;
-    CodeRunResult execute(const QString &source, CodeLanguage language) const;
+    CodeRunResult result(const QString &source, CodeLanguage language, RunControl &control) const;
+    CodeRunResult execute(const QString &source, CodeLanguage language, RunControl &control) const;
     CodeRunResult executeIn(const QString &folder, const QString &source, CodeLanguage language,
-                            const CodeCommand &command) const;
+                            const CodeCommand &command, RunControl &control) const;
 
     CodeRunnerOptions m_options;
     /// Can be read once the runs have to end.

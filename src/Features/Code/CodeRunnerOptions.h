@@ -17,6 +17,8 @@ struct CodeRunnerOptions {
     double timeScale = 1;
     /// Bytes kept of each of a child's two outputs.
     qsizetype outputLimit = 16 * 1024 * 1024;
+    /// Whether runs get a PID namespace where the system allows it.
+    bool isIsolated = true;
 
     /// Those of this machine and this person.
     static CodeRunnerOptions ofThisMachine();

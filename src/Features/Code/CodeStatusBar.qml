@@ -26,7 +26,7 @@ Item {
         OVText {
             color: Theme.ovInkSecondary
             role: OVText.Caption
-            text: root.viewModel.languageText
+            text: root.viewModel.language.label
             visible: root.width > 480 * Theme.fontScale
         }
 
@@ -64,11 +64,11 @@ Item {
         OVIconButton {
             checkable: true
             filled: false
-            checked: root.viewModel.showConsole
+            checked: CodeDesk.showConsole
             iconSize: Theme.iconRow
             symbol: "terminal"
             text: qsTr("Show the console")
-            onToggled: root.viewModel.showConsole = checked
+            onToggled: CodeDesk.showConsole = checked
         }
 
         OVDivider {
@@ -79,21 +79,21 @@ Item {
         OVIconButton {
             checkable: true
             filled: false
-            checked: root.viewModel.wrap
+            checked: CodeDesk.wrap
             iconSize: Theme.iconRow
             symbol: "text.alignleft"
             text: qsTr("Wrap long lines")
-            onToggled: root.viewModel.wrap = checked
+            onToggled: CodeDesk.wrap = checked
         }
 
         OVIconButton {
             checkable: true
             filled: false
-            checked: root.viewModel.showLineNumbers
+            checked: CodeDesk.showLineNumbers
             iconSize: Theme.iconRow
             symbol: "list.number"
             text: qsTr("Line numbers")
-            onToggled: root.viewModel.showLineNumbers = checked
+            onToggled: CodeDesk.showLineNumbers = checked
         }
 
         OVDivider {
@@ -102,11 +102,11 @@ Item {
         }
 
         OVIconButton {
-            enabled: root.viewModel.canShrink
+            enabled: CodeDesk.canShrink
             iconSize: Theme.iconRow
             symbol: "minus"
             text: qsTr("Smaller text")
-            onClicked: --root.viewModel.fontSize
+            onClicked: --CodeDesk.fontSize
         }
 
         OVText {
@@ -115,16 +115,16 @@ Item {
             color: Theme.ovInkSecondary
             horizontalAlignment: Text.AlignHCenter
             role: OVText.Caption
-            text: root.viewModel.fontSize
+            text: CodeDesk.fontSize
             width: 20 * Theme.fontScale
         }
 
         OVIconButton {
-            enabled: root.viewModel.canGrow
+            enabled: CodeDesk.canGrow
             iconSize: Theme.iconRow
             symbol: "plus"
             text: qsTr("Larger text")
-            onClicked: ++root.viewModel.fontSize
+            onClicked: ++CodeDesk.fontSize
         }
     }
 }

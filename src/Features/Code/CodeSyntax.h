@@ -1,10 +1,20 @@
 #pragma once
 
-#include "Features/Code/CodeToken.h"
 #include "Models/CodeLanguage.h"
 
 #include <QList>
 #include <QStringView>
+
+enum class CodeTokenKind { keyword, typeName, string, comment, number };
+
+/// A coloured stretch of a source text, in UTF-16 units.
+struct CodeToken {
+    qsizetype location = 0;
+    qsizetype length = 0;
+    CodeTokenKind kind = CodeTokenKind::keyword;
+
+    bool operator==(const CodeToken &) const = default;
+};
 
 /// Finds what is worth colouring in a source text: comments, strings, numbers, keywords and type names. One
 /// pass from left to right, where the first construct wins; it knows no grammar.

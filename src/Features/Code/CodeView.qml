@@ -11,7 +11,7 @@ FocusScope {
     readonly property alias viewModel: code
     readonly property bool isNarrow: width < 720 * Theme.fontScale
     readonly property int padding: isNarrow ? Theme.screenPaddingNarrow : Theme.screenPadding
-    /// Whether the person wants the rail, as far as there is room for both.
+    /// Whether the user wants the rail, as far as there is room for both.
     property bool railWanted: true
     property bool railOverEditor: false
     readonly property bool showsRail: isNarrow ? railOverEditor : railWanted
@@ -40,6 +40,7 @@ FocusScope {
     function ask(documentID) {
         question.documentID = documentID
         question.isFromRail = rail.activeFocus
+        question.message = qsTr("“%1” will be deleted.").arg(code.titleOf(documentID))
         question.open()
     }
 
@@ -54,20 +55,20 @@ FocusScope {
     // The list over the editor goes first, since it hides the console too.
     Keys.onEscapePressed: event => {
         const hasListOver = isNarrow && railOverEditor
-        event.accepted = hasListOver || code.showConsole
+        event.accepted = hasListOver || pane.run.running || CodeDesk.showConsole
         if (hasListOver)
             railOverEditor = false
+        else if (pane.run.running)
+            pane.run.stop()
         else
-            code.showConsole = false
+            CodeDesk.showConsole = false
     }
 
     CodeViewModel {
         id: code
         active: root.visible
-        focusDocument: Orvel.ui.codeDocumentID
-        store: Orvel.store
-        // The screen opens again where it was left.
-        onSelectionChanged: Orvel.ui.codeDocumentID = selectedID
+        desk: CodeDesk
+        session: Orvel
     }
 
     Shortcut {
@@ -147,8 +148,8 @@ FocusScope {
         property bool isFromRail: false
 
         acceptText: qsTr("Delete")
+        cautious: true
         destructive: true
-        message: qsTr("Its text is gone for good.")
         rejectText: qsTr("Cancel")
         title: qsTr("Delete this snippet?")
         onAccepted: code.deleteDocument(documentID)

@@ -1,94 +1,52 @@
 #pragma once
 
+#include "Features/Code/CodeDesk.h"
 #include "Features/Code/CodeRow.h"
-#include "Features/Code/CodeRun.h"
-#include "Foundation/CoalescedCall.h"
+#include "Foundation/Choice.h"
 #include "Foundation/KeyedListModel.h"
-#include "Store/WorkspaceStore.h"
+#include "Session/ViewModel.h"
 
-#include <QtQml/qqmlregistration.h>
-
-/// What the code screen shows and does: the rail of documents, the one that is open, and its last run.
-class CodeViewModel : public QObject
+/// What the code screen shows and does: the rail of documents and the one that is open.
+class CodeViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
-    /// The document that the person came for; null for none.
-    Q_PROPERTY(
-        QVariant focusDocument READ focusDocument WRITE setFocusDocument NOTIFY focusDocumentChanged FINAL)
+    /// Keeps the runs; lives longer than the view model.
+    Q_PROPERTY(CodeDesk *desk MEMBER m_desk NOTIFY deskChanged REQUIRED FINAL)
 
     /// `CodeRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
     /// Whether there are no documents at all.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged FINAL)
-    /// Whether the query finds none.
-    Q_PROPERTY(bool findsNothing READ findsNothing NOTIFY findsNothingChanged FINAL)
     /// The place of the open document among the rows, -1 if it is not among them.
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selectedRowChanged FINAL)
 
     Q_PROPERTY(QVariant selectedID READ selectedVariant NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
-    Q_PROPERTY(QString language READ language NOTIFY languageChanged FINAL)
-    Q_PROPERTY(QString languageText READ languageText NOTIFY languageChanged FINAL)
-    Q_PROPERTY(QString source READ source NOTIFY sourceChanged FINAL)
-    Q_PROPERTY(QString lineCountText READ lineCountText NOTIFY sourceChanged FINAL)
-
-    Q_PROPERTY(bool wrap MEMBER m_wrap NOTIFY wrapChanged FINAL)
-    Q_PROPERTY(bool showLineNumbers MEMBER m_showLineNumbers NOTIFY showLineNumbersChanged FINAL)
-    /// Pixels at the ordinary size of text.
-    Q_PROPERTY(int fontSize READ fontSize WRITE setFontSize NOTIFY fontSizeChanged FINAL)
-    Q_PROPERTY(bool canShrink READ canShrink NOTIFY fontSizeChanged FINAL)
-    Q_PROPERTY(bool canGrow READ canGrow NOTIFY fontSizeChanged FINAL)
-
-    Q_PROPERTY(CodeRun *result READ result CONSTANT FINAL)
-    Q_PROPERTY(bool isRunning READ isRunning NOTIFY isRunningChanged FINAL)
-    Q_PROPERTY(bool showConsole READ showConsole WRITE setShowConsole NOTIFY showConsoleChanged FINAL)
-    Q_PROPERTY(QString consoleText READ consoleText NOTIFY consoleTextChanged FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY documentChanged FINAL)
+    Q_PROPERTY(Choice language READ language NOTIFY documentChanged FINAL)
+    Q_PROPERTY(QString source READ source NOTIFY documentChanged FINAL)
+    Q_PROPERTY(QString lineCountText READ lineCountText NOTIFY documentChanged FINAL)
 
 public:
-    static constexpr int smallestFont = 9, usualFont = 13, largestFont = 28;
-
     explicit CodeViewModel(QObject *parent = nullptr);
-
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
-    bool isActive() const { return m_active; }
-    void setActive(bool active);
-    QVariant focusDocument() const { return m_focusDocument; }
-    void setFocusDocument(const QVariant &document);
 
     QAbstractItemModel *rows() { return &m_rows; }
     const QString &query() const { return m_query; }
     void setQuery(const QString &query);
     bool isEmpty() const { return m_isEmpty; }
-    bool findsNothing() const { return m_findsNothing; }
     int selectedRow() const { return m_selectedRow; }
 
-    QUuid selectedID() const { return m_selectedID; }
-    QVariant selectedVariant() const { return m_selectedID; }
-    QString title() const { return m_shown.title; }
-    QString language() const { return enumRawText(m_shown.language); }
-    QString languageText() const { return enumLabel(m_shown.language); }
-    QString source() const { return m_shown.source; }
-    QString lineCountText() const { return CodeRow::lineCountText(m_shown.lineCount()); }
+    QUuid selectedID() const { return m_document.id; }
+    QVariant selectedVariant() const { return m_document.id; }
+    QString title() const { return m_document.title; }
+    Choice language() const { return Choice::of(m_document.language); }
+    QString source() const { return m_document.source; }
+    QString lineCountText() const { return CodeRow::lineCountText(m_document.lineCount()); }
 
-    int fontSize() const { return m_fontSize; }
-    /// Keeps it within bounds.
-    void setFontSize(int size);
-    bool canShrink() const { return m_fontSize > smallestFont; }
-    bool canGrow() const { return m_fontSize < largestFont; }
-
-    CodeRun *result() { return &m_result; }
-    bool isRunning() const { return m_result.isRunning(); }
-    bool showConsole() const { return m_showConsole; }
-    void setShowConsole(bool shown);
-    QString consoleText() const;
-
-    /// Makes an untitled document and opens it. A query that hides it is taken back.
+    /// Makes an untitled document and opens it.
     Q_INVOKABLE void newDocument();
+    /// Opens a document. A query that hides it is taken back.
     Q_INVOKABLE void select(const QUuid &id);
     /// Opens the document so many rows further down, or the last one; the first one if none is open.
     Q_INVOKABLE void selectBy(int rows);
@@ -98,66 +56,42 @@ public:
     /// A blank title changes nothing.
     Q_INVOKABLE void rename(const QUuid &id, const QString &title);
     Q_INVOKABLE void setLanguage(const QString &raw);
-    Q_INVOKABLE void setSource(const QString &source);
+    /// @param caret where the caret stands after the change
+    Q_INVOKABLE void setSource(const QString &source, int caret = -1);
     Q_INVOKABLE void copySource() const;
-    /// Opens the console and runs the open document, unless a run is going.
+    /// "Untitled" for a blank title.
+    Q_INVOKABLE QString titleOf(const QUuid &id) const;
+    /// Opens the console and runs the open document, unless it is running.
     Q_INVOKABLE void runSnippet();
 
 signals:
-    void storeChanged();
-    void activeChanged();
-    void focusDocumentChanged();
+    void deskChanged();
     void queryChanged();
     void isEmptyChanged();
-    void findsNothingChanged();
     void selectedRowChanged();
+    void selectionAboutToChange();
     void selectionChanged();
-    void titleChanged();
-    void languageChanged();
-    void sourceChanged();
-    void wrapChanged();
-    void showLineNumbersChanged();
-    void fontSizeChanged();
-    void isRunningChanged();
-    void showConsoleChanged();
-    void consoleTextChanged();
+    void documentChanged();
+    /// Typing was undone or redone, and the caret belongs here.
+    void caretRestored(int caret);
+
+protected:
+    void start() override;
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
 
 private:
-    template <typename Edit>
-    void change(const QUuid &id, Edit edit);
-    void follow(const ChangeSet &changes);
-    void refresh();
-    /// Takes a query back that does not find the document.
-    void showInList(const CodeDocument &document);
-    /// Selects the document that is wanted, or another one when the present one is gone.
-    void syncSelection();
-    void layOut();
-    void updateRows();
+    /// The document as the store has it, which the screen may not show yet; null for an unknown one.
+    const CodeDocument *find(const QUuid &id) const { return store().codeDocuments().first(id); }
     void showDocument();
-    void locateSelection();
+    void layOut();
 
-    WorkspaceStore *m_store = nullptr;
-    bool m_active = true;
-    QUuid m_focusDocument;
-    /// Whether `m_focusDocument` has still to be opened.
-    bool m_focusWanted = false;
-
+    CodeDesk *m_desk = nullptr;
     KeyedListModel<CodeRow> m_rows;
     QString m_query;
     bool m_isEmpty = true;
-    bool m_findsNothing = false;
     int m_selectedRow = -1;
-
-    QUuid m_selectedID;
     /// The open document as it was told last.
-    CodeDocument m_shown;
-    bool m_wrap = false;
-    bool m_showLineNumbers = true;
-    int m_fontSize = usualFont;
-    CodeRun m_result;
-    bool m_showConsole = false;
-
-    CoalescedCall m_refresh;
-    bool m_layoutNeeded = true;
-    QSet<QUuid> m_changedDocuments;
+    CodeDocument m_document;
+    bool m_needsLayout = false;
 };

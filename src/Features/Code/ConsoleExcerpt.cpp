@@ -17,9 +17,15 @@ QString ConsoleExcerpt::of(const QString &output, qsizetype limit)
         tail = line + 1;
     else if (output.at(tail).isLowSurrogate())
         ++tail;
-    const QString omitted = QCoreApplication::translate(
-                                "ConsoleExcerpt", "… %1 characters are left out here; Copy takes them all …")
-                                .arg(QLocale(QLocale::English).toString(tail - head));
-    const QString gap = output.at(head - 1) == u'\n' ? QString() : QStringLiteral("\n");
-    return output.first(head) + gap + u'\n' + omitted + QStringLiteral("\n\n") + output.sliced(tail);
+    const QString end = output.at(head - 1) == u'\n' ? QString() : QStringLiteral("\n");
+    return output.first(head) + end + gap(tail - head) + output.sliced(tail);
+}
+
+QString ConsoleExcerpt::gap(qint64 omitted)
+{
+    return u'\n' +
+           QCoreApplication::translate("ConsoleExcerpt",
+                                       "… %1 characters are left out here; Copy takes them all …")
+               .arg(QLocale(QLocale::English).toString(omitted)) +
+           QStringLiteral("\n\n");
 }

@@ -7,4 +7,7 @@ namespace ConsoleExcerpt
 {
 /// @param limit about how many units are shown
 QString of(const QString &output, qsizetype limit);
+
+/// The lines that stand in the place of so many characters.
+QString gap(qint64 omitted);
 } // namespace ConsoleExcerpt

@@ -3,8 +3,8 @@ import QtQuick.Templates as T
 import Orvel.Code
 import Orvel.DesignSystem
 
-/// What a program has printed, to read and to select from. Of a very long output it shows the beginning and
-/// the end. It scrolls by itself.
+/// What a program has printed, to read and to select from. It scrolls by itself, and stays at the end of a text
+/// that grows.
 FocusScope {
     id: root
 
@@ -12,7 +12,7 @@ FocusScope {
     property color color: Theme.ovInk
     property int padding: Theme.space12
     property int topPadding: padding
-    readonly property real fullHeight: area.contentHeight + area.y + padding
+    readonly property real fullHeight: rows.textHeight + area.y + padding
     property alias input: area
 
     implicitHeight: fullHeight
@@ -25,13 +25,35 @@ FocusScope {
         targetRadius: Theme.cornerMark
     }
 
+    TextRows {
+        id: rows
+        anchors.fill: parent
+        color: area.color
+        document: area.textDocument
+        origin: Qt.point(area.x, area.y - flickable.contentY)
+        selectedTextColor: area.selectedTextColor
+        selectionColor: area.selectionColor
+        selectionEnd: area.selectionEnd
+        selectionStart: area.selectionStart
+        onShifted: distance => flickable.contentY += distance
+    }
+
     Flickable {
         id: flickable
+
+        property real knownHeight: 0
+
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         contentHeight: area.y + area.height
         contentWidth: width
+        onContentHeightChanged: {
+            const wasAtEnd = knownHeight > height && contentY > knownHeight - height - 2
+            knownHeight = contentHeight
+            if (wasAtEnd)
+                contentY = Math.max(0, contentHeight - height)
+        }
 
         T.ScrollBar.vertical: OVScrollBar { }
 
@@ -51,7 +73,7 @@ FocusScope {
             selectByMouse: true
             selectedTextColor: Theme.ovInk
             selectionColor: Theme.selection
-            text: excerpt.shown
+            text: root.text
             textFormat: TextEdit.PlainText
             width: flickable.width - 2 * x
             wrapMode: TextEdit.Wrap
@@ -63,11 +85,6 @@ FocusScope {
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             Keys.onUpPressed: flickable.flick(0, 600)
         }
-    }
-
-    ConsoleExcerptText {
-        id: excerpt
-        output: root.text
     }
 
     OVContextMenuArea {

@@ -131,7 +131,8 @@ QString Interpreters::printed(const QString &program, const QStringList &argumen
                                           .environment = m_options.environment,
                                           .timeout = scaled(questionTimeout),
                                           .grace = scaled(200ms),
-                                          .outputLimit = questionOutputLimit},
+                                          .outputLimit = questionOutputLimit,
+                                          .isIsolated = m_options.isIsolated},
                                          m_cancelled);
     return QString::fromUtf8(outcome.output);
 }

@@ -1,5 +1,7 @@
 #include "Features/Code/JsonText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -25,6 +27,8 @@ constexpr bool isDigit(char16_t unit)
 
 class Parser
 {
+    Q_DECLARE_TR_FUNCTIONS(JsonText)
+
 public:
     explicit Parser(QStringView text) : m_text(text) {}
 
@@ -61,18 +65,17 @@ private:
     {
         const QStringView before = m_text.first(m_at);
         const qsizetype line = before.count(u'\n') + 1, column = m_at - before.lastIndexOf(u'\n');
-        return QStringLiteral("line %1, column %2.").arg(line).arg(column);
+        return tr("line %1, column %2.").arg(line).arg(column);
     }
 
     QString unexpectedUnit() const
     {
         if (m_at >= m_text.size())
-            return QStringLiteral("the text ends too early, at ") + place();
+            return tr("the text ends too early, at %1").arg(place());
         if (unit() < u' ')
-            return QStringLiteral("unexpected control character at ") + place();
+            return tr("unexpected control character at %1").arg(place());
         const bool isPair = m_text[m_at].isHighSurrogate() && m_at + 1 < m_text.size();
-        return QStringLiteral("unexpected \u201c%1\u201d at ").arg(m_text.mid(m_at, isPair ? 2 : 1)) +
-               place();
+        return tr("unexpected \u201c%1\u201d at %2").arg(m_text.mid(m_at, isPair ? 2 : 1), place());
     }
 
     bool fail(const QString &error)
@@ -85,7 +88,7 @@ private:
     bool parseValue(Node &node, int depth)
     {
         if (depth > deepest)
-            return fail(QStringLiteral("too many brackets within each other, at ") + place());
+            return fail(tr("too many brackets within each other, at %1").arg(place()));
         skipBlanks();
         const qsizetype start = m_at;
         if (take(u'{'))
@@ -149,7 +152,7 @@ private:
             }
         }
         if (unit() == u'\n' || unit() == u'\r')
-            return fail(QStringLiteral("a string has to end in its line, at ") + place());
+            return fail(tr("a string has to end in its line, at %1").arg(place()));
         return take(u'"') || fail();
     }
 

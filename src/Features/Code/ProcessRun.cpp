@@ -1,6 +1,7 @@
 #include "Features/Code/ProcessRun.h"
 
 #include "Features/Code/FileDescriptor.h"
+#include "Features/Code/OrphanReaper.h"
 #include "Features/Code/ProcessSupervisor.h"
 
 #include <QFile>
@@ -15,6 +16,7 @@
 #include <string>
 #include <sys/socket.h>
 #include <sys/wait.h>
+#include <thread>
 #include <vector>
 
 namespace
@@ -25,8 +27,10 @@ using ProcessSupervisor::Child;
 using ProcessSupervisor::Command;
 using ProcessSupervisor::Report;
 
-/// What can't be killed within this time, since the system itself holds it, is left to the supervisor alone.
-constexpr auto longestCleanup = 5s;
+/// A supervisor that does not answer for so long was stopped by what it watches.
+constexpr std::chrono::milliseconds supervisorPatience = 3s, patienceWhenCancelled = 500ms;
+/// What can't be killed within this time is held by the system itself.
+constexpr auto killTimeout = 1s;
 /// As many as a full pipe can need.
 constexpr int mostLastReads = 32;
 
@@ -53,6 +57,8 @@ private:
 class Stream
 {
 public:
+    Stream(RunControl *control, RunControl::Stream name) : m_control(control), m_name(name) {}
+
     /// Gives the end to write into; not open if there are no files left.
     FileDescriptor open()
     {
@@ -81,6 +87,8 @@ public:
         const qsizetype kept = std::min(qsizetype(size), limit - bytes.size());
         bytes.append(buffer.data(), kept);
         isCut = isCut || kept < size;
+        if (m_control)
+            m_control->append(m_name, QByteArrayView(buffer.data(), kept));
         return true;
     }
 
@@ -88,16 +96,29 @@ public:
     bool isCut = false;
 
 private:
+    RunControl *m_control;
+    RunControl::Stream m_name;
     FileDescriptor m_file;
 };
 
 class Run
 {
 public:
-    Run(const ProcessRun::Request &request, int cancelled) : m_request(request), m_cancelled(cancelled) {}
+    Run(const ProcessRun::Request &request, int cancelled)
+        : m_request(request),
+          m_cancelled(cancelled),
+          m_stopped(request.control ? request.control->stopped() : -1),
+          m_output(request.control, RunControl::output),
+          m_errors(request.control, RunControl::errors),
+          m_isIsolated(request.isIsolated && ProcessSupervisor::canIsolate())
+    {
+    }
 
     ProcessRun::Outcome result()
     {
+        std::optional<OrphanReaper> reaper;
+        if (!m_isIsolated)
+            reaper.emplace();
         if (start()) {
             watch();
             finish();
@@ -135,54 +156,55 @@ private:
                           .output = output.number(),
                           .errors = errors.number(),
                           .channel = theirChannel.number(),
-                          .graceMilliseconds = int(m_request.grace.count())};
-
-        // The program's own signal handlers must not run in the fork.
-        sigset_t all, before;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &before);
-        m_supervisor = _Fork();
-        if (m_supervisor == 0)
-            ProcessSupervisor::supervise(child);
-        const int failure = errno;
-        pthread_sigmask(SIG_SETMASK, &before, nullptr);
+                          .graceMilliseconds = int(m_request.grace.count()),
+                          .isIsolated = m_isIsolated};
+        m_supervisor = ProcessSupervisor::start(child);
         if (m_supervisor < 0)
-            m_outcome.launchError = failure;
+            m_outcome.launchError = errno;
         return m_supervisor > 0;
     }
 
     void watch()
     {
-        Clock::time_point until = Clock::now() + m_request.timeout;
+        m_until = Clock::now() + m_request.timeout;
         while (m_channel.isOpen()) {
-            if (m_isEnded && (m_outcome.isTimedOut || (m_output.isAtEnd() && m_errors.isAtEnd())))
+            if (m_isEnded && (m_isTerminated || (m_output.isAtEnd() && m_errors.isAtEnd())))
                 return;
-            if (Clock::now() >= until) {
+            if (Clock::now() >= m_until) {
                 if (m_isEnded)
                     return;
+                if (m_isTerminated) {
+                    m_patience = {};
+                    return;
+                }
                 m_outcome.isTimedOut = true;
-                send(Command::terminate);
-                until = Clock::time_point::max();
+                terminate();
             }
             const bool hadEnded = m_isEnded;
-            if (!wait(until))
+            if (!wait()) {
+                m_patience = patienceWhenCancelled;
                 return;
+            }
             if (m_isEnded && !hadEnded)
-                until = Clock::now() + m_request.grace;
+                m_until = Clock::now() + m_request.grace;
         }
     }
 
-    /// Until something comes from the child. Returns false if the run was cancelled.
-    bool wait(Clock::time_point until)
+    void terminate()
     {
-        std::array<pollfd, 4> files{pollfd{m_cancelled, POLLIN, 0}, pollfd{m_channel.number(), POLLIN, 0},
+        m_isTerminated = true;
+        send(Command::terminate);
+        m_until = Clock::now() + m_request.grace + supervisorPatience;
+    }
+
+    /// Until something comes from the child. Returns false if the run was cancelled.
+    bool wait()
+    {
+        std::array<pollfd, 5> files{pollfd{m_cancelled, POLLIN, 0}, pollfd{m_channel.number(), POLLIN, 0},
                                     pollfd{m_output.number(), POLLIN, 0},
-                                    pollfd{m_errors.number(), POLLIN, 0}};
-        int milliseconds = -1;
-        if (until != Clock::time_point::max())
-            milliseconds = int(
-                std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(until - Clock::now())).count());
-        if (::poll(files.data(), files.size(), milliseconds) <= 0)
+                                    pollfd{m_errors.number(), POLLIN, 0}, pollfd{m_stopped, POLLIN, 0}};
+        const auto time = std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(m_until - Clock::now()));
+        if (::poll(files.data(), files.size(), int(time.count())) <= 0)
             return true;
         if (files[2].revents)
             m_output.read(m_request.outputLimit);
@@ -190,19 +212,24 @@ private:
             m_errors.read(m_request.outputLimit);
         if (files[1].revents)
             readReport();
+        if (files[4].revents) {
+            m_stopped = -1;
+            m_outcome.isStopped = !m_outcome.isTimedOut;
+            terminate();
+        }
         return files[0].revents == 0;
     }
 
     void readReport()
     {
         Report report;
-        if (::recv(m_channel.number(), &report, sizeof report, 0) != ssize_t(sizeof report)) {
+        if (::recv(m_channel.number(), &report, sizeof report, MSG_DONTWAIT) != ssize_t(sizeof report)) {
             m_channel.close();
             return;
         }
         switch (report.kind) {
         case Report::started:
-            m_child = report.value;
+            m_hasStarted = true;
             break;
         case Report::launchFailed:
             m_outcome.launchError = report.value;
@@ -215,47 +242,61 @@ private:
 
     void send(Command command) { ::send(m_channel.number(), &command, 1, MSG_NOSIGNAL); }
 
-    /// Waits until the supervisor has killed what is left and is gone itself.
+    /// Waits until the supervisor has killed what is left and is gone itself, and takes over if it can't.
     void finish()
     {
-        send(Command::finish);
-        const Clock::time_point until = Clock::now() + longestCleanup;
-        while (m_channel.isOpen() && Clock::now() < until) {
-            pollfd file{m_channel.number(), POLLIN, 0};
-            if (::poll(&file, 1, 100) > 0)
-                readReport();
-        }
-        if (!m_channel.isOpen()) {
-            int status = 0;
-            while (::waitpid(m_supervisor, &status, 0) < 0 && errno == EINTR) {
+        if (m_isIsolated) {
+            // All of its namespace goes with it.
+            ::kill(m_supervisor, SIGKILL);
+        } else {
+            send(Command::finish);
+            const Clock::time_point until = Clock::now() + m_patience;
+            while (m_channel.isOpen() && Clock::now() < until) {
+                pollfd file{m_channel.number(), POLLIN, 0};
+                if (::poll(&file, 1, 100) > 0)
+                    readReport();
             }
-            if (!m_isEnded)
-                endWithoutSupervisor();
+            ::kill(m_supervisor, SIGKILL);
         }
+        const Clock::time_point until = Clock::now() + killTimeout;
+        while (::waitpid(m_supervisor, nullptr, WNOHANG) == 0 && Clock::now() < until)
+            std::this_thread::sleep_for(1ms);
+        if (!m_isIsolated)
+            OrphanReaper::killOrphans(Clock::now() + killTimeout);
+        while (m_channel.isOpen())
+            readReport();
+        if (!m_isEnded)
+            endWithoutSupervisor();
         // All that can have written is dead; what it wrote lies in the pipes.
         for (Stream *stream : {&m_output, &m_errors})
             for (int i = 0; i < mostLastReads && stream->read(m_request.outputLimit); ++i) {
             }
     }
 
-    /// The supervisor had no files left to start with, or the child has killed it.
+    /// The supervisor had no files left to start with, or was killed by what it watched.
     void endWithoutSupervisor()
     {
         m_outcome.status = SIGKILL;
-        if (m_child > 0)
-            ::kill(-m_child, SIGKILL);
-        else if (!m_outcome.launchError)
+        if (!m_hasStarted && !m_outcome.launchError)
             m_outcome.launchError = EMFILE;
     }
 
     const ProcessRun::Request &m_request;
     int m_cancelled;
+    /// -1 once it was heard.
+    int m_stopped;
     ProcessRun::Outcome m_outcome;
     Stream m_output;
     Stream m_errors;
     FileDescriptor m_channel;
     pid_t m_supervisor = -1;
-    pid_t m_child = -1;
+    bool m_isIsolated;
+    /// How long the supervisor has for its end.
+    std::chrono::milliseconds m_patience = supervisorPatience;
+    Clock::time_point m_until;
+    /// Whether the child was asked to end.
+    bool m_isTerminated = false;
+    bool m_hasStarted = false;
     bool m_isEnded = false;
 };
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Features/Code/RunControl.h"
+
 #include <QByteArray>
 #include <QProcessEnvironment>
 #include <QString>
@@ -25,6 +27,10 @@ struct Request {
     qsizetype outputLimit = 0;
     /// Removed if this program is killed during the run; may be empty.
     QString scratchFolder;
+    /// Whether to use a PID namespace where the system allows it.
+    bool isIsolated = true;
+    /// Hears what is printed and can stop the run; may be null.
+    RunControl *control = nullptr;
 };
 
 struct Outcome {
@@ -33,6 +39,7 @@ struct Outcome {
     /// The exit status, or the number of the signal that ended it.
     int status = 0;
     bool isTimedOut = false;
+    bool isStopped = false;
     QByteArray output;
     QByteArray errors;
     /// Whether something was dropped.

@@ -1,16 +1,22 @@
 #include "Features/Code/ProcessSupervisor.h"
 
+#include "Features/Code/OrphanReaper.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstring>
 #include <ctime>
 #include <fcntl.h>
 #include <poll.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,6 +50,53 @@ void closeFrom(int first)
         ::close(number);
 }
 
+char *append(char *end, const char *text)
+{
+    while (*text)
+        *end++ = *text++;
+    return end;
+}
+
+char *append(char *end, id_t number)
+{
+    if (number >= 10)
+        end = append(end, number / 10);
+    *end++ = char('0' + number % 10);
+    return end;
+}
+
+bool writeFile(const char *path, const char *text)
+{
+    const int file = ::open(path, O_WRONLY | O_CLOEXEC);
+    const auto size = ssize_t(std::strlen(text));
+    const bool isWritten = ::write(file, text, std::size_t(size)) == size;
+    ::close(file);
+    return isWritten;
+}
+
+/// Makes the user the same one within the namespace as outside.
+bool mapID(const char *path, id_t id)
+{
+    std::array<char, 32> line{};
+    append(append(append(append(line.data(), id), " "), id), " 1");
+    return writeFile(path, line.data());
+}
+
+/// Like `fork`, but the new process is the first one of a PID namespace and sees only what is in there.
+pid_t forkIsolated()
+{
+    const uid_t user = geteuid();
+    const gid_t group = getegid();
+    const auto pid =
+        pid_t(syscall(SYS_clone, CLONE_NEWUSER | CLONE_NEWPID | CLONE_NEWNS | SIGCHLD, 0, 0, 0, 0));
+    // Its files in /proc belong to the user only if it could be dumped.
+    if (pid == 0 && !(prctl(PR_SET_DUMPABLE, 1) == 0 && writeFile("/proc/self/setgroups", "deny") &&
+                      mapID("/proc/self/uid_map", user) && mapID("/proc/self/gid_map", group) &&
+                      ::mount("proc", "/proc", "proc", MS_NOSUID | MS_NODEV | MS_NOEXEC, nullptr) == 0))
+        _exit(1);
+    return pid;
+}
+
 /// Puts the files in their places and closes all others.
 void arrangeFiles(const Child &child)
 {
@@ -72,13 +125,19 @@ void setHandling(void (*handler)(int))
         ::signal(number, handler);
 }
 
-[[noreturn]] void execute(const Child &child)
+void unblockSignals()
 {
-    setsid();
-    setHandling(SIG_DFL);
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void execute(const Child &child)
+{
+    setsid();
+    OrphanReaper::mark();
+    setHandling(SIG_DFL);
+    unblockSignals();
     if (::chdir(child.folder) == 0)
         execve(child.program, child.arguments, child.environment);
     report(Report::launchFailed, errno);
@@ -135,9 +194,9 @@ public:
     {
         // "/proc/PID/task/PID/children", written without the library's help.
         char *end = append(m_childrenPath.data(), "/proc/");
-        end = append(end, getpid());
+        end = append(end, id_t(getpid()));
         end = append(end, "/task/");
-        end = append(end, getpid());
+        end = append(end, id_t(getpid()));
         *append(end, "/children") = 0;
     }
 
@@ -182,29 +241,14 @@ private:
         }
     }
 
-    static char *append(char *end, const char *text)
-    {
-        while (*text)
-            *end++ = *text++;
-        return end;
-    }
-    static char *append(char *end, pid_t number)
-    {
-        if (number >= 10)
-            end = append(end, number / 10);
-        *end++ = char('0' + number % 10);
-        return end;
-    }
-
     pid_t m_child;
     int m_grace;
     bool m_isEnded = false;
     std::array<char, 64> m_childrenPath{};
     std::array<char, 32768> m_list{};
 };
-} // namespace
-
-void ProcessSupervisor::supervise(const Child &child)
+/// To be called in a fresh fork with all signals blocked.
+[[noreturn]] void supervise(const Child &child)
 {
     // Away from the terminal, whose signals are meant for the program.
     setsid();
@@ -212,6 +256,8 @@ void ProcessSupervisor::supervise(const Child &child)
     ::signal(SIGCHLD, SIG_DFL);
     arrangeFiles(child);
     prctl(PR_SET_CHILD_SUBREAPER, 1);
+    // It has a copy of all that the program knows.
+    prctl(PR_SET_DUMPABLE, 0);
 
     const pid_t pid = _Fork();
     if (pid == 0)
@@ -229,7 +275,52 @@ void ProcessSupervisor::supervise(const Child &child)
     supervisor.findChildren();
     const bool hasProgram = supervisor.watch();
     supervisor.killAll();
-    if (!hasProgram && *child.scratchFolder)
-        execl("/bin/rm", "rm", "-rf", "--", child.scratchFolder, nullptr);
+    if (!hasProgram && *child.scratchFolder) {
+        unblockSignals();
+        execl("/bin/sh", "sh", "-c", removeFolderScript, child.scratchFolder, nullptr);
+    }
     _exit(0);
+}
+
+/// The program's own signal handlers must not run in a fork.
+class SignalsBlocked
+{
+public:
+    SignalsBlocked()
+    {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &m_before);
+    }
+    ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    SignalsBlocked(const SignalsBlocked &) = delete;
+    SignalsBlocked &operator=(const SignalsBlocked &) = delete;
+
+private:
+    sigset_t m_before{};
+};
+} // namespace
+
+bool ProcessSupervisor::canIsolate()
+{
+    static const bool can = [] {
+        const SignalsBlocked blocked;
+        const pid_t pid = forkIsolated();
+        if (pid == 0)
+            _exit(0);
+        int status = -1;
+        while (pid > 0 && ::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+        }
+        return status == 0;
+    }();
+    return can;
+}
+
+pid_t ProcessSupervisor::start(const Child &child)
+{
+    const SignalsBlocked blocked;
+    const pid_t pid = child.isIsolated ? forkIsolated() : _Fork();
+    if (pid == 0)
+        supervise(child);
+    return pid;
 }

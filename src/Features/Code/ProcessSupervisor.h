@@ -1,7 +1,12 @@
 #pragma once
 
+#include <sys/types.h>
+
 /// The process between the program and a child it runs. It makes sure that nothing the child has started is
 /// left when the run is over, in whatever session or group it hides, and also when the program itself dies.
+///
+/// Where the system allows it, it is the first process of a PID namespace: the child can neither see nor
+/// signal anything outside, can't stop or kill the supervisor, and dies with it.
 ///
 /// It is a fork of the program that never executes anything else, so all its code does without locks and
 /// memory allocation.
@@ -22,6 +27,8 @@ struct Child {
     int channel = -1;
     /// Between asking the child to end and killing it.
     int graceMilliseconds = 1000;
+    /// Whether the supervisor gets namespaces of its own; only where `canIsolate()`.
+    bool isIsolated = false;
 };
 
 enum Command : char {
@@ -44,6 +51,15 @@ struct Report {
     int value = 0;
 };
 
-/// To be called in a fresh fork with all signals blocked. Ends the process when no descendant is left.
-[[noreturn]] void supervise(const Child &child);
+/// Whether this system lets an ordinary program make PID namespaces. Tried out once.
+bool canIsolate();
+
+/// Forks the supervisor. Its process ends when no descendant is left; killing it ends all descendants if it
+/// is isolated, else makes them children of this program's nearest subreaper.
+/// @return its process id, or -1 with `errno` set
+pid_t start(const Child &child);
+
+/// Removes a folder, whatever modes its contents have. To be given to `/bin/sh -c`, followed by the folder.
+constexpr const char *removeFolderScript =
+    "rm -rf -- \"$0\" || { chmod -R u+rwx -- \"$0\"; rm -rf -- \"$0\"; }";
 } // namespace ProcessSupervisor

@@ -3,12 +3,11 @@ import QtQuick.Layouts
 import Orvel.Code
 import Orvel.DesignSystem
 
-/// What the last run printed, under a line that tells how it went.
+/// What the run of a snippet prints, under a line that tells how it went.
 FocusScope {
     id: root
 
-    required property CodeViewModel viewModel
-    readonly property CodeRun result: viewModel.result
+    required property CodeRun run
     property bool didCopy: false
 
     Accessible.name: qsTr("Console")
@@ -44,16 +43,21 @@ FocusScope {
         }
 
         OVBadge {
-            symbol: root.result.statusSymbol
-            text: root.result.statusWord
-            tone: root.result.statusTone
-            visible: root.result.hasResult
+            symbol: root.run.statusSymbol
+            text: root.run.statusWord
+            tone: root.run.statusTone
+            visible: root.run.hasResult
+        }
+
+        OVBusyMark {
+            running: root.run.running
+            visible: running
         }
 
         OVText {
             color: Theme.ovInkSecondary
             role: OVText.Caption
-            text: root.result.durationText
+            text: root.run.durationText
             visible: text !== ""
         }
 
@@ -63,7 +67,7 @@ FocusScope {
             color: Theme.ovInkSecondary
             maximumLineCount: 1
             role: OVText.Caption
-            text: root.result.tool
+            text: root.run.tool
 
             HoverHandler {
                 id: toolPointer
@@ -72,7 +76,7 @@ FocusScope {
             OVToolTip {
                 shown: toolPointer.hovered && tool.text !== ""
                 target: tool
-                text: root.result.toolTip
+                text: root.run.toolTip
             }
         }
 
@@ -81,9 +85,9 @@ FocusScope {
             iconSize: Theme.iconRow
             symbol: root.didCopy ? "checkmark" : "doc.on.doc"
             text: root.didCopy ? qsTr("Copied") : qsTr("Copy output")
-            visible: root.result.output !== ""
+            visible: root.run.hasResult && root.run.output !== ""
             onClicked: {
-                root.result.copyOutput()
+                root.run.copyOutput()
                 root.didCopy = true
                 copied.restart()
             }
@@ -93,7 +97,7 @@ FocusScope {
             iconSize: Theme.iconRow
             symbol: "xmark"
             text: qsTr("Hide output")
-            onClicked: root.viewModel.showConsole = false
+            onClicked: CodeDesk.showConsole = false
         }
     }
 
@@ -102,9 +106,9 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: head.bottom
-        color: root.result.hasResult ? Theme.ovInk : Theme.ovInkSecondary
+        color: root.run.hasResult ? Theme.ovInk : Theme.ovInkSecondary
         focus: true
-        text: root.viewModel.consoleText
+        text: root.run.consoleText || qsTr("Run the snippet to see its output.")
         topPadding: Theme.space4
     }
 }

@@ -15,7 +15,7 @@ Item {
     readonly property bool canRun: CodeLanguageList.canRun(language)
 
     function stops(): list<Item> {
-        return run.running ? [languageButton, copyButton] : [languageButton, runButton, copyButton]
+        return [languageButton, runButton, copyButton]
     }
 
     implicitHeight: Theme.fieldHeight
@@ -62,18 +62,18 @@ Item {
         OVIconButton {
             id: runButton
             tabStop: false
-            color: root.canRun ? Theme.ovSuccess : Theme.ovInkTertiary
-            enabled: !root.run.running
+            color: root.run.running ? Theme.ovInk : root.canRun ? Theme.ovSuccess : Theme.ovInkTertiary
             filled: true
             iconSize: Theme.iconRow
             opacity: 1
-            symbol: root.run.running ? "" : "play"
-            text: root.canRun ? qsTr("Run code") : CodeLanguageList.unsupportedReason(root.language)
-            onClicked: root.editor.runInlineCode(root.blockID)
-
-            OVBusyMark {
-                anchors.centerIn: parent
-                running: root.run.running
+            symbol: root.run.running ? "stop" : "play"
+            text: root.run.running ? qsTr("Stop")
+                                   : root.canRun ? qsTr("Run code") : CodeLanguageList.unsupportedReason(root.language)
+            onClicked: {
+                if (root.run.running)
+                    root.run.stop()
+                else
+                    root.editor.runInlineCode(root.blockID)
             }
         }
 

@@ -26,6 +26,11 @@ Item {
 
     implicitHeight: head.height + (output.visible ? output.height : 0)
 
+    Keys.onEscapePressed: event => {
+        event.accepted = run.running
+        run.stop()
+    }
+
     OVDivider { width: parent.width }
 
     Row {
@@ -93,7 +98,7 @@ Item {
         height: Math.min(fullHeight, root.maximumHeight)
         padding: Theme.space12
         text: root.run.consoleText
-        visible: root.run.hasResult
+        visible: root.run.hasResult || root.run.output !== ""
         width: parent.width
         y: head.height - Theme.space8
     }

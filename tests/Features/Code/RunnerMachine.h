@@ -11,7 +11,7 @@
 #include <optional>
 
 /// A machine for a runner: a temporary folder, interpreters of its own, and a mark in the environment by
-/// which every process of a run can be found again.
+/// which every process of a run can be found again. A process without it can carry the mark as an argument.
 class RunnerMachine
 {
 public:
@@ -59,9 +59,13 @@ public:
         const QStringList pids =
             QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs);
         for (const QString &pid : pids) {
-            QFile file(QStringLiteral("/proc/%1/environ").arg(pid));
-            if (file.open(QIODevice::ReadOnly) && file.readAll().contains(m_mark.toLatin1()))
-                ++count;
+            for (const QString &name : {QStringLiteral("environ"), QStringLiteral("cmdline")}) {
+                QFile file(QStringLiteral("/proc/%1/%2").arg(pid, name));
+                if (file.open(QIODevice::ReadOnly) && file.readAll().contains(m_mark.toLatin1())) {
+                    ++count;
+                    break;
+                }
+            }
         }
         return count;
     }

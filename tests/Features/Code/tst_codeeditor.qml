@@ -69,6 +69,15 @@ Item {
                 keyClick(character)
         }
 
+        function find(from, matches) {
+            for (const child of Array.from(from.children).concat(from.contentItem ? [from.contentItem] : [])) {
+                const found = matches(child) ? child : find(child, matches)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
         function lines(count) {
             const all = []
             for (let i = 0; i < count; ++i)
@@ -110,13 +119,12 @@ Item {
             keyClick(Qt.Key_Backtab, Qt.ShiftModifier)
             compare(root.source, "if x:\n    b\n    d\ne\n\nc")
 
-            // Several lines go together, empty ones aside, and back by one undo.
+            // Several lines go together, empty ones aside.
             input.selectAll()
             keyClick(Qt.Key_Tab)
             compare(root.source, "    if x:\n        b\n        d\n    e\n\n    c")
-            keyClick(Qt.Key_Z, Qt.ControlModifier)
-            compare(root.source, "if x:\n    b\n    d\ne\n\nc")
             input.selectAll()
+            keyClick(Qt.Key_Backtab, Qt.ShiftModifier)
             keyClick(Qt.Key_Backtab, Qt.ShiftModifier)
             compare(root.source, "if x:\nb\nd\ne\n\nc")
         }
@@ -134,6 +142,101 @@ Item {
             input.cursorPosition = 2
             keyClick(Qt.Key_Return)
             compare(root.source, "  \n    \nb\nc")
+        }
+
+        function test_backspaceGoesToTheLastStop() {
+            const input = open("").editor.input
+            const after = (text, position) => {
+                root.source = text
+                input.cursorPosition = position
+                keyClick(Qt.Key_Backspace)
+                return root.source + "|" + input.cursorPosition
+            }
+            compare(after("        a", 8), "    a|4")
+            compare(after("       a", 7), "    a|4")
+            compare(after("      a", 5), "     a|4")
+            compare(after("   ", 3), "|0")
+            compare(after("  \t  a", 5), "  \ta|3")
+            compare(after("\ta", 1), "a|0")
+            compare(after("    a", 5), "    |4")
+            compare(after("a    ", 5), "a   |4")
+            compare(after("a\nb", 2), "ab|1")
+            root.source = "    a"
+            input.select(0, 3)
+            keyClick(Qt.Key_Backspace)
+            compare(root.source, " a")
+        }
+
+        function test_menuOpensAtTheCaret() {
+            const page = open(lines(40))
+            page.editor.input.cursorPosition = 30
+            const caret = page.editor.input.cursorRectangle
+            for (const [key, modifier] of [[Qt.Key_F10, Qt.ShiftModifier], [Qt.Key_Menu, Qt.NoModifier]]) {
+                keyClick(key, modifier)
+                const area = find(page.editor, child => child instanceof OVContextMenuArea)
+                tryVerify(() => area.openMenu?.opened)
+                const place = page.editor.input.mapToItem(area, caret.x, caret.y + caret.height)
+                fuzzyCompare(area.openMenu.x, place.x, 24)
+                fuzzyCompare(area.openMenu.y, place.y, 24)
+                area.openMenu.close()
+                tryVerify(() => !area.openMenu.visible)
+            }
+        }
+
+        /// Whether each row that is in view has something drawn in it.
+        function verifyRows(item, left, rowHeight, what) {
+            waitForRendering(item, 200)
+            const image = grabImage(item)
+            const ground = image.pixel(item.width - 3, item.height / 2)
+            let blank = 0
+            for (let y = 0; y < item.height; ++y) {
+                let isBlank = true
+                for (let x = left; x < left + 60 && isBlank; ++x)
+                    isBlank = Qt.colorEqual(image.pixel(x, y), ground)
+                blank = isBlank ? blank + 1 : 0
+                verify(blank < rowHeight, what + " is blank at " + y)
+            }
+        }
+
+        function test_longTextIsDrawnWhereverItIsScrolled() {
+            const page = open("wrapped ".repeat(900) + "\n" + lines(60) + "\n" + "long ".repeat(2000))
+            const view = page.editor.flickable
+            for (let part = 0; part <= 40; ++part) {
+                view.contentY = (view.contentHeight - view.height) * part / 40
+                verifyRows(page.editor, page.editor.width - view.width + 4, 24, "the text at " + view.contentY)
+            }
+        }
+
+        function test_consoleIsDrawnWhereverItIsScrolled() {
+            const console = createTemporaryQmlObject("import Orvel.Code; ConsoleText { width: 500; height: 300 }", root)
+            console.text = "line\n" + "wrapped ".repeat(2000) + "\n" + lines(500)
+            const view = find(console, child => child instanceof Flickable)
+            for (let part = 0; part <= 40; ++part) {
+                view.contentY = 14 + (view.contentHeight - view.height - 28) * part / 40
+                verifyRows(console, 12, 24, "the console at " + view.contentY)
+            }
+        }
+
+        function test_hugeTextOpensInTime_data() {
+            return [
+                { tag: "many lines", text: "let a = 1\n".repeat(400000), length: 4000000 },
+                { tag: "one line", text: "let a = 1; ".repeat(180000), length: 1980000 },
+                { tag: "long lines", text: ("let a = 1; ".repeat(400) + "\n").repeat(1000), length: 4401000 }
+            ]
+        }
+        function test_hugeTextOpensInTime(data) {
+            let longest = 0
+            let last = Date.now()
+            const clock = createTemporaryQmlObject("import QtQuick; Timer { interval: 1; repeat: true; running: true }", root)
+            clock.triggered.connect(() => {
+                longest = Math.max(longest, Date.now() - last)
+                last = Date.now()
+            })
+            const page = open(data.text)
+            tryVerify(() => !page.editor.isLoading, 60000)
+            compare(page.editor.input.length, data.length)
+            verify(longest < 5000, "a turn of the event loop took " + longest + " ms")
+            verifyRows(page.editor, page.editor.width - page.editor.flickable.width + 4, 24, "the text")
         }
 
         function test_tabLeavesWithControl() {
@@ -163,7 +266,7 @@ Item {
             const input = open("one\ntwo\nthree").editor.input
             input.cursorPosition = 10
             type("x")
-            // A change before the caret takes the caret along, and undo does not bring back what was before.
+            // A change before the caret takes the caret along. What is typed is the owner's to undo.
             root.source = "zero\n" + root.source
             compare(input.text, "zero\none\ntwo\nthxree")
             compare(input.cursorPosition, 16)

@@ -1,6 +1,8 @@
+#include "Features/Code/ProcessSupervisor.h"
 #include "RunnerMachine.h"
 
 #include <cerrno>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using Status = CodeRunResult::Status;
@@ -224,44 +226,71 @@ private slots:
 
     void aRunEndsWithAllItsProcesses_data()
     {
+        QTest::addColumn<bool>("isIsolated");
         QTest::addColumn<QString>("source");
         QTest::addColumn<QString>("output");
         QTest::addColumn<Status>("status");
-        const QString stopped = u"[stopped after 20s]"_s;
-        const auto row = [](const char *name, const QString &source, const QString &output,
-                            Status status = Status::timedOut) {
-            QTest::newRow(name) << source << output << status;
-        };
-        row("endless", u"printf before; while :; do :; done"_s, u"before\n"_s + stopped);
-        row("deaf to SIGTERM", u"trap '' TERM; while :; do sleep 1000; done"_s, stopped);
-        row("closed pipes", u"exec >&- 2>&-; sleep 1000; sleep 1000"_s, stopped);
-        row("fork bomb",
-            u"bomb() { [ $1 -eq 0 ] || { bomb $(($1 - 1)) & bomb $(($1 - 1)) & }; trap '' TERM; "
-            "while :; do sleep 1000; done; }; bomb 9"_s,
-            stopped);
-        row("sessions of their own",
-            u"setsid sh -c 'setsid sleep 1000 & exec sleep 1000' & setsid sleep 1000"_s, stopped);
-        row("a grandchild holds the pipe", u"sleep 1000 & echo done"_s, u"done\n"_s, Status::success);
-        row("grandchildren without parents", u"(setsid sleep 1000 &) ; (sleep 1000 &) ; echo done"_s,
-            u"done\n"_s, Status::success);
-        row("a grandchild has the last word", u"(sleep 0.1; echo late) & echo done"_s, u"done\nlate\n"_s,
-            Status::success);
-        row("the supervisor is killed", u"kill -9 $PPID; sleep 1000"_s, u"Exited with status 9."_s,
-            Status::failure);
+        const QString stopped = u"[stopped after 20s]"_s, killed = u"Exited with status 9."_s;
+        const QString daemon = u"setsid env -i sh -c 'while sleep 1; do :; done' $ORVEL_TEST_MARK & "_s;
+        for (const bool isIsolated : {false, true}) {
+            const auto row = [&](const char *name, const QString &source, const QString &output,
+                                 Status status = Status::timedOut) {
+                QTest::addRow("%s%s", name, isIsolated ? ", isolated" : "")
+                    << isIsolated << source << output << status;
+            };
+            row("endless", u"printf before; while :; do :; done"_s, u"before\n"_s + stopped);
+            row("deaf to SIGTERM", u"trap '' TERM; while :; do sleep 1000; done"_s, stopped);
+            row("closed pipes", u"exec >&- 2>&-; sleep 1000; sleep 1000"_s, stopped);
+            row("fork bomb",
+                u"bomb() { [ $1 -eq 0 ] || { bomb $(($1 - 1)) & bomb $(($1 - 1)) & }; trap '' TERM; "
+                "while :; do sleep 1000; done; }; bomb 9"_s,
+                stopped);
+            row("sessions of their own",
+                u"setsid sh -c 'setsid sleep 1000 & exec sleep 1000' & setsid sleep 1000"_s, stopped);
+            row("a grandchild holds the pipe", u"sleep 1000 & echo done"_s, u"done\n"_s, Status::success);
+            row("grandchildren without parents", u"(setsid sleep 1000 &) ; (sleep 1000 &) ; echo done"_s,
+                u"done\n"_s, Status::success);
+            row("a grandchild has the last word", u"(sleep 0.1; echo late) & echo done"_s, u"done\nlate\n"_s,
+                Status::success);
+            row("the supervisor is stopped", daemon + u"kill -STOP $PPID; sleep 1000"_s, stopped);
+            // The first process of a namespace can't be killed from within.
+            row("the supervisor is killed", daemon + u"sleep 0.2; kill -9 $PPID; sleep 1000"_s,
+                isIsolated ? stopped : killed, isIsolated ? Status::timedOut : Status::failure);
+            row("a locked folder", u"mkdir -p a/b; echo > a/b/c; chmod 0 a/b/c a/b a ."_s,
+                u"Finished with no output."_s, Status::success);
+            row("a deep folder", u"p=$(printf 'd/%.0s' $(seq 1500)); mkdir -p $p; cd $p; chmod 0 . .."_s,
+                u"Finished with no output."_s, Status::success);
+        }
     }
     void aRunEndsWithAllItsProcesses()
     {
+        QFETCH(bool, isIsolated);
         QFETCH(QString, source);
         QFETCH(QString, output);
         QFETCH(Status, status);
+        if (isIsolated && !ProcessSupervisor::canIsolate())
+            QSKIP("this system allows no namespaces");
         RunnerMachine machine;
+        machine.options.isIsolated = isIsolated;
         // A second and a half for what the table gives 20 seconds, 75 ms for the grace of one.
         machine.options.timeScale = 0.075;
-        if (QByteArray(QTest::currentDataTag()) == "a grandchild has the last word")
+        if (QByteArray(QTest::currentDataTag()).contains("last word"))
             machine.options.timeScale = 3;
         COMPARE_ANSWER(machine.answer(source, CodeLanguage::shell), status, output);
         QTRY_COMPARE(machine.processes(), 0);
         QCOMPARE(machine.scratchFolders(), QStringList());
+    }
+
+    void anIsolatedRunSeesNothingElse()
+    {
+        if (!ProcessSupervisor::canIsolate())
+            QSKIP("this system allows no namespaces");
+        const RunnerMachine machine;
+        const CodeRunResult result = machine.answer(
+            u"ls -d /proc/[0-9]* | grep -c .; id -u; kill -9 %1"_s.arg(::getpid()), CodeLanguage::shell);
+        const QStringList lines = result.output.split(u'\n');
+        QVERIFY2(lines[0].toInt() <= 4, qPrintable(result.output));
+        QCOMPARE(lines.value(1), QString::number(::geteuid()));
     }
 
     void aFloodIsCut()
@@ -305,6 +334,19 @@ private slots:
         QCOMPARE(machine.processes(), 0);
         QCOMPARE(machine.scratchFolders(), QStringList());
 
+        // Nor does a run hold up the program that has stopped its supervisor.
+        machine.options.isIsolated = false;
+        runner = std::make_unique<CodeRunner>(machine.options);
+        runner->run(u"kill -STOP $PPID; sleep 1000; sleep 1000"_s, CodeLanguage::shell, this,
+                    [&](const CodeRunResult &) { hasAnswer = true; });
+        QVERIFY(machine.waitForMoreProcessesThan(1));
+        QElapsedTimer timer;
+        timer.start();
+        runner.reset();
+        QVERIFY2(timer.elapsed() < 2500, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(machine.processes(), 0);
+        QCOMPARE(machine.scratchFolders(), QStringList());
+
         runner = std::make_unique<CodeRunner>(machine.options);
         auto context = std::make_unique<QObject>();
         runner->run(u"echo a"_s, CodeLanguage::shell, context.get(),
@@ -344,6 +386,9 @@ static int runUntilKilled(const QString &temporaryFolder)
 
 int main(int argc, char *argv[])
 {
+    // To one who may do everything, the modes of a folder mean nothing.
+    if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0))
+        return 1;
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--run-in"_s)

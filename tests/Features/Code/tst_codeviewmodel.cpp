@@ -16,12 +16,15 @@ private:
     /// The screen over a workspace of its own.
     struct Desk {
         TestWorkspace workspace;
+        OrvelSession session{&workspace.store(), &workspace.ui()};
+        CodeDesk desk;
         CodeViewModel code;
 
         Desk()
         {
             workspace.reset();
-            code.setStore(&workspace.store());
+            code.setProperty("desk", QVariant::fromValue(&desk));
+            code.setSession(&session);
         }
 
         QUuid add(const QString &title, CodeLanguage language = CodeLanguage::python,
@@ -37,13 +40,10 @@ private:
         {
             QCoreApplication::processEvents();
             QStringList titles;
-            for (int row = 0; row < code.rows()->rowCount(); ++row) {
-                const QModelIndex index = code.rows()->index(row, 0);
-                const auto value = [&](const char *role) {
-                    return index.data(code.rows()->roleNames().key(role)).toString();
-                };
-                titles.append(value("title") + (value("isSelected") == u"true" ? u"*"_s : QString()));
-            }
+            const int role = code.rows()->roleNames().key("title");
+            for (int row = 0; row < code.rows()->rowCount(); ++row)
+                titles.append(code.rows()->index(row, 0).data(role).toString() +
+                              (row == code.selectedRow() ? u"*"_s : QString()));
             return titles.join(u' ');
         }
     };
@@ -58,7 +58,6 @@ private slots:
         desk.code.runSnippet();
         desk.code.setSource(u"x"_s);
         desk.code.selectBy(1);
-        QVERIFY(!desk.code.isRunning());
 
         desk.add(u"a"_s);
         desk.add(u"b"_s);
@@ -71,17 +70,17 @@ private slots:
         Desk desk;
         desk.add(u"a"_s);
         const QUuid b = desk.add(u"b"_s), c = desk.add(u"c"_s);
-        desk.code.setFocusDocument(b);
+        desk.workspace.ui().setCodeDocumentID(b);
         QCOMPARE(desk.titles(), u"a b* c"_s);
         // It is wanted once; later the person goes where they like.
         desk.code.select(c);
         desk.add(u"d"_s);
         QCOMPARE(desk.titles(), u"a b c* d"_s);
-        desk.code.setFocusDocument(QUuid::createUuid());
+        desk.workspace.ui().setCodeDocumentID(QUuid::createUuid());
         QCOMPARE(desk.titles(), u"a b c* d"_s);
-        desk.code.setFocusDocument(c);
+        desk.workspace.ui().setCodeDocumentID(c);
         QCOMPARE(desk.titles(), u"a b c* d"_s);
-        desk.code.setFocusDocument(b);
+        desk.workspace.ui().setCodeDocumentID(b);
         QCOMPARE(desk.titles(), u"a b* c d"_s);
     }
 
@@ -119,7 +118,6 @@ private slots:
         QCOMPARE(found(u"script"_s), u"gamma"_s);
         QCOMPARE(desk.code.selectedRow(), -1);
         QCOMPARE(found(u"nothing"_s), QString());
-        QVERIFY(desk.code.findsNothing());
         QVERIFY(!desk.code.isEmpty());
         // What is edited stays in sight, and a new document shows whatever was looked for.
         QCOMPARE(found(u"print"_s), u"beta"_s);
@@ -129,10 +127,9 @@ private slots:
         desk.code.newDocument();
         QCOMPARE(desk.code.query(), QString());
         QCOMPARE(desk.titles(), u"alpha beta gamma Untitled*"_s);
-        QVERIFY(!desk.code.findsNothing());
         // So does one that is asked for from elsewhere.
         QCOMPARE(found(u"script"_s), u"gamma"_s);
-        desk.code.setFocusDocument(beta);
+        desk.workspace.ui().setCodeDocumentID(beta);
         QCOMPARE(desk.titles(), u"alpha beta* gamma Untitled"_s);
         QCOMPARE(desk.code.query(), QString());
     }
@@ -144,7 +141,6 @@ private slots:
         const QUuid other = desk.add(u"b"_s, CodeLanguage::css);
         QCoreApplication::processEvents();
         desk.workspace.clock().advance(std::chrono::hours(1));
-        QSignalSpy sources(&desk.code, &CodeViewModel::sourceChanged);
         QSignalSpy selections(&desk.code, &CodeViewModel::selectionChanged);
         desk.code.setSource(u"one\ntwo\n"_s);
         desk.code.rename(id, u"  first \n"_s);
@@ -155,7 +151,6 @@ private slots:
         QCOMPARE(desk.document(id)->language, CodeLanguage::json);
         QCOMPARE(desk.document(id)->updatedDate, desk.workspace.clock().now());
         QCOMPARE(desk.code.lineCountText(), u"3 lines"_s);
-        QCOMPARE(sources.count(), 1);
         QCOMPARE(selections.count(), 0);
         desk.code.rename(id, u"   "_s);
         QCOMPARE(desk.document(id)->title, u"first"_s);
@@ -163,12 +158,44 @@ private slots:
         desk.code.select(other);
         QCOMPARE(selections.count(), 1);
         QCOMPARE(desk.code.source(), QString());
-        QCOMPARE(desk.code.language(), u"css"_s);
+        QCOMPARE(desk.code.language().raw, u"css"_s);
         QCOMPARE(desk.code.lineCountText(), u"1 line"_s);
         desk.code.setSource(u"x"_s);
         QCOMPARE(desk.document(id)->source, u"one\ntwo\n"_s);
         desk.code.copySource();
         QCOMPARE(QGuiApplication::clipboard()->text(), u"x"_s);
+    }
+
+    void typingIsUndoneWhereItWas()
+    {
+        Desk desk;
+        const QUuid a = desk.add(u"a"_s, CodeLanguage::sql, u"select"_s);
+        const QUuid b = desk.add(u"b"_s);
+        QCoreApplication::processEvents();
+        desk.workspace.ui().setSelection(Destination::to(Destination::Kind::code));
+        QSignalSpy carets(&desk.code, &CodeViewModel::caretRestored);
+        desk.code.setSource(u"select 1"_s, 8);
+        desk.code.setSource(u"select 12"_s, 9);
+        desk.code.select(b);
+        desk.code.rename(b, u"c"_s);
+        desk.session.undo()->undo();
+        QCOMPARE(desk.titles(), u"a b*"_s);
+        QCOMPARE(carets.count(), 0);
+        // One step of typing: back to its document, with the caret where it began.
+        desk.session.undo()->undo();
+        QCOMPARE(desk.titles(), u"a* b"_s);
+        QCOMPARE(desk.document(a)->source, u"select"_s);
+        QCOMPARE(desk.code.source(), u"select"_s);
+        QCOMPARE(carets.count(), 1);
+        QCOMPARE(carets.takeFirst().first().toInt(), 6);
+        desk.session.undo()->redo();
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.code.source(), u"select 12"_s);
+        QCOMPARE(carets.takeFirst().first().toInt(), 9);
+        desk.code.deleteDocument(a);
+        QCOMPARE(desk.titles(), u"b*"_s);
+        desk.session.undo()->undo();
+        QCOMPARE(desk.titles(), u"a* b"_s);
     }
 
     void aCopyIsADocumentOfItsOwn()
@@ -178,7 +205,7 @@ private slots:
         desk.code.duplicate(id);
         QCOMPARE(desk.titles(), u"a a copy*"_s);
         QCOMPARE(desk.code.source(), u"select 1"_s);
-        QCOMPARE(desk.code.language(), u"sql"_s);
+        QCOMPARE(desk.code.language().raw, u"sql"_s);
         QCOMPARE(desk.document(desk.code.selectedID())->createdDate, desk.workspace.clock().now());
         desk.code.setSource(u"select 2"_s);
         QCOMPARE(desk.document(id)->source, u"select 1"_s);
@@ -198,40 +225,46 @@ private slots:
         QCOMPARE(desk.code.selectedRow(), 0);
     }
 
-    void oneRunAtATime()
+    void aRunBelongsToItsDocument()
     {
         Desk desk;
-        desk.add(u"a"_s, CodeLanguage::json, u"[1]"_s);
+        const QUuid a = desk.add(u"a"_s, CodeLanguage::json, u"[1]"_s);
         const QUuid b = desk.add(u"b"_s, CodeLanguage::json, u"["_s);
         QCoreApplication::processEvents();
-        QCOMPARE(desk.code.consoleText(), u"Run the snippet to see its output."_s);
-        QVERIFY(!desk.code.showConsole());
-        QSignalSpy results(desk.code.result(), &CodeRun::resultChanged);
+        CodeRun *const run = desk.desk.run(a);
+        QSignalSpy results(run, &CodeRun::resultChanged);
         desk.code.runSnippet();
         desk.code.runSnippet();
-        QVERIFY(desk.code.showConsole());
-        QVERIFY(desk.code.isRunning());
-        // Another document shows the result too, and has to wait for it.
+        QVERIFY(desk.desk.showConsole());
+        QVERIFY(run->isRunning());
         desk.code.select(b);
+        QVERIFY(!desk.desk.run(b)->isRunning());
         desk.code.runSnippet();
-        QTRY_VERIFY(!desk.code.isRunning());
+        QTRY_VERIFY(!run->isRunning() && !desk.desk.run(b)->isRunning());
         QCOMPARE(results.count(), 1);
-        QCOMPARE(desk.code.result()->statusWord(), u"Succeeded"_s);
-        desk.code.setSource({});
-        desk.code.runSnippet();
-        QTRY_VERIFY(!desk.code.isRunning());
-        QCOMPARE(desk.code.consoleText(), u"Nothing to run."_s);
+        QCOMPARE(desk.desk.run(a), run);
+        QCOMPARE(run->statusWord(), u"Succeeded"_s);
+        QCOMPARE(desk.desk.run(b)->statusWord(), u"Failed"_s);
+        // A document that is gone takes its run along.
+        const QPointer<CodeRun> gone = run;
+        desk.code.deleteDocument(a);
+        QTRY_VERIFY(!gone);
     }
 
-    void theTextHasBounds()
+    void theDeskKeepsWhatFits()
     {
-        CodeViewModel code;
-        code.setFontSize(1000);
-        QCOMPARE(code.fontSize(), CodeViewModel::largestFont);
-        QVERIFY(!code.canGrow());
-        code.setFontSize(-5);
-        QCOMPARE(code.fontSize(), CodeViewModel::smallestFont);
-        QVERIFY(!code.canShrink());
+        CodeDesk desk;
+        desk.setFontSize(1000);
+        QCOMPARE(desk.fontSize(), CodeDesk::largestFont);
+        QVERIFY(!desk.canGrow());
+        desk.setFontSize(-5);
+        QCOMPARE(desk.fontSize(), CodeDesk::smallestFont);
+        QVERIFY(!desk.canShrink());
+        const QUuid first = QUuid::createUuid();
+        const QPointer<CodeRun> run = desk.run(first);
+        for (int i = 0; i < 20; ++i)
+            desk.run(QUuid::createUuid());
+        QTRY_VERIFY(!run);
     }
 };
 

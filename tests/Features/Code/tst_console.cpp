@@ -75,6 +75,52 @@ private slots:
         QCOMPARE(run.consoleText(), QString());
     }
 
+    void aRunIsSeenAsItGoesAndCanBeStopped_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("willing") << u"echo first; echo error >&2; sleep 1000"_s;
+        QTest::newRow("deaf") << u"trap '' TERM; echo first; echo error >&2; while :; do sleep 1000; done"_s;
+        QTest::newRow("in the background") << u"echo first; echo error >&2; setsid sleep 1000"_s;
+    }
+    void aRunIsSeenAsItGoesAndCanBeStopped()
+    {
+        QFETCH(QString, source);
+        RunnerMachine machine;
+        machine.options.timeScale = 0.2;
+        CodeRun run(machine.options);
+        run.stop();
+        run.run(source, u"shell"_s);
+        QCOMPARE(run.consoleText(), u"Running…"_s);
+        QTRY_COMPARE(run.output(), u"first\nerror\n"_s);
+        QCOMPARE(run.consoleText(), run.output());
+        QVERIFY(run.isRunning());
+        QTRY_VERIFY(QRegularExpression(u"^\\d+\\.\\ds$"_s).match(run.durationText()).hasMatch());
+        run.stop();
+        run.stop();
+        QTRY_VERIFY(!run.isRunning());
+        QCOMPARE(run.statusWord(), u"Stopped"_s);
+        QCOMPARE(run.output(), u"first\nerror\n[stopped]"_s);
+        QTRY_COMPARE(machine.processes(), 0);
+    }
+
+    void aFloodIsShownInPortions()
+    {
+        RunnerMachine machine;
+        CodeRun run(machine.options);
+        QSignalSpy outputs(&run, &CodeRun::outputChanged);
+        QElapsedTimer timer;
+        timer.start();
+        run.run(u"echo start; yes 0123456789abcde"_s, u"shell"_s);
+        QTest::qWait(600);
+        QVERIFY(run.output().startsWith(u"start\n0123456789abcde\n"_s));
+        QVERIFY(run.output().contains(u" characters are left out here"_s));
+        QVERIFY(run.output().size() < 70'000);
+        QVERIFY2(outputs.count() <= timer.elapsed() / 33 + 3, qPrintable(QString::number(outputs.count())));
+        run.stop();
+        QTRY_VERIFY(!run.isRunning());
+        QVERIFY(run.output().endsWith(u"\n[stopped]"_s));
+    }
+
     void aRunEndsWithItsOwner()
     {
         RunnerMachine machine;

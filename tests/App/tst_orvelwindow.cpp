@@ -3,6 +3,7 @@
 #include "DesignSystem/OVTheme.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
+#include "Store/PageOperations.h"
 
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
@@ -417,6 +418,33 @@ private slots:
         press(u"Down"_s);
         press(u"Return"_s);
         QTRY_COMPARE(store().pages().size(), 1);
+    }
+
+    void undoAndRedoByKeysAndByToast()
+    {
+        open();
+        press(u"Ctrl+Shift+K"_s);
+        ui().select(u"settings"_s);
+        const Snapshot one = store().snapshot();
+        const QUuid page = PageOperations::create(store(), PageKind::page);
+        const Snapshot two = store().snapshot();
+        for (const QString &redo : {u"Ctrl+Y"_s, u"Ctrl+Shift+Z"_s}) {
+            press(u"Ctrl+Z"_s);
+            QCOMPARE(store().snapshot(), one);
+            press(redo);
+            QCOMPARE(store().snapshot(), two);
+        }
+
+        const auto shows = [this](const QString &text) {
+            return find(m_window->contentItem(), [&](QQuickItem *candidate) {
+                return candidate->isVisible() && candidate->property("text") == text;
+            });
+        };
+        PageOperations::remove(store(), page);
+        QTRY_VERIFY(shows(u"Page deleted"_s));
+        // The next action takes it away.
+        press(u"Ctrl+Shift+K"_s);
+        QTRY_VERIFY(!shows(u"Page deleted"_s));
     }
 
     void quitIsAskedOfTheApplication()

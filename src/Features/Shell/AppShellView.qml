@@ -44,6 +44,8 @@ FocusScope {
         id: top
 
         active: navigation.style === "tabsTop"
+        // A loader keeps the height of what it has dropped.
+        height: active ? implicitHeight : 0
         width: root.width
 
         sourceComponent: ShellTopArea { }
@@ -62,6 +64,7 @@ FocusScope {
         id: bottom
 
         anchors.bottom: parent.bottom
+        height: sourceComponent ? implicitHeight : 0
         sourceComponent: navigation.style === "tabsBottom" ? bottomTabs : navigation.style === "glassDock" ? dock : null
         width: root.width
     }

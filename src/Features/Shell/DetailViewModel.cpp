@@ -126,4 +126,6 @@ void DetailViewModel::showPlace(Screen &screen) const
         screen.properties = placeholder(QStringLiteral("doc.text"), page->title, {});
     else if (const Project *const project = m_store->projects().first(place.id))
         screen.properties = placeholder(QStringLiteral("target"), project->name, {});
+    else
+        screen.properties = placeholder(enumSymbol(OrvelModule::decks), enumLabel(OrvelModule::decks), {});
 }

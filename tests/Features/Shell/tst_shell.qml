@@ -232,6 +232,27 @@ Item {
             verify(one("Calendar", SidebarRow).visualFocus, "The keyboard goes on from a click")
         }
 
+        function test_aDeckTakesThePlaceOfTheLastScreen() {
+            Orvel.ui.select("tasks")
+            start()
+            one("Tasks", OVPageHeader)
+            Orvel.ui.selectDeck("{3f2504e0-4f89-11d3-9a0c-0305e82c3301}")
+            one("Decks", ModulePlaceholder)
+            gone("Tasks", OVPageHeader)
+        }
+
+        function test_noRoomIsLeftByAnotherStyle() {
+            start()
+            const host = all(view, item => item instanceof DetailHost)[0]
+            const before = Qt.rect(host.x, host.y, host.width, host.height)
+            for (const style of ["tabsTop", "tabsBottom", "glassDock", "sidebar"]) {
+                Workspace.setNavigation(style)
+                wait(20)
+            }
+            tryVerify(() => host.x === before.x)
+            compare(Qt.rect(host.x, host.y, host.width, host.height), before)
+        }
+
         function test_groupGoesWithItsLastModule() {
             for (const module of ["habits", "insights", "relax"])
                 Workspace.hideModule(module)

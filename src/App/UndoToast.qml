@@ -1,0 +1,22 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Session
+
+/// Tells what was just done, with a way to undo it, and what an undo did out of sight. The next action takes its place.
+OVToast {
+    id: toast
+
+    readonly property Connections undo: Connections {
+        target: Orvel.undo
+
+        function onMessageChanged() {
+            if (Orvel.undo.message !== "")
+                toast.show(Orvel.undo.message, Orvel.undo.messageOffersUndo ? qsTr("Undo") : "")
+            else
+                toast.close()
+        }
+    }
+
+    onAboutToHide: Orvel.undo.dismissMessage()
+    onActionTriggered: Orvel.undo.undo()
+}

@@ -93,4 +93,10 @@ function(orvel_add_qml_module name)
     target_link_libraries(${name} INTERFACE ${name}plugin)
     _orvel_check_tier(${name} "${ARG_TIER}" "${ARG_BUILDS_ON}" ${ARG_LINKS} ${ARG_BUILDS_ON})
     _orvel_precompile_tier("${ARG_TIER}" ${name} ${name}plugin)
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}plugin_autogen/mocs_compilation.cpp"
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    # The toolkit makes these of generated sources without objects.
+    get_property(generated DIRECTORY PROPERTY BUILDSYSTEM_TARGETS)
+    list(FILTER generated INCLUDE REGEX "^${name}(_resources_[0-9]+|plugin_init)$")
+    set_target_properties(${generated} PROPERTIES AUTOMOC OFF)
 endfunction()

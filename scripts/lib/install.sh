@@ -15,6 +15,7 @@ packages_test=(
     qml6-module-qttest sqlite3 unzip
 )
 packages_bench=(rapidjson-dev)
+packages_ci=(clang-tidy-19)
 packages_fuzz=(clang-19 libclang-rt-19-dev)
 
 # install_packages SET...: makes sure of the packages of these sets; without network when they are there.

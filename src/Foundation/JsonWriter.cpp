@@ -126,6 +126,11 @@ JsonWriter::JsonWriter(qsizetype expectedSize)
     grow(std::max<qsizetype>(expectedSize, 64));
 }
 
+JsonWriter::JsonWriter(Sink sink, qsizetype pieceSize) : JsonWriter(pieceSize)
+{
+    m_sink = std::move(sink);
+}
+
 void JsonWriter::beginObject()
 {
     open('{');
@@ -248,8 +253,19 @@ QByteArray JsonWriter::take()
     return std::exchange(m_bytes, QByteArray());
 }
 
+void JsonWriter::flush()
+{
+    m_sink(QByteArrayView(m_bytes.constData(), used()));
+    m_at = m_bytes.data();
+}
+
 void JsonWriter::grow(qsizetype bytes)
 {
+    if (m_sink && used() > 0) {
+        flush();
+        if (m_end - m_at >= bytes)
+            return;
+    }
     const qsizetype size = used();
     m_bytes.resize(std::max(m_bytes.size() * 2, size + bytes));
     m_at = m_bytes.data() + size;

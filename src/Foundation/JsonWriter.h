@@ -6,16 +6,23 @@
 #include <QStringView>
 #include <QUuid>
 
+#include <functional>
 #include <string_view>
 #include <utility>
 
 /// Streams compact JSON as UTF-8: no blanks, a slash written as `\/`, upper-case ids, keys in the order in
-/// which they are given. The caller keeps the brackets balanced.
+/// which they are given. The caller keeps the brackets balanced. The document is kept whole, or handed over
+/// in pieces as it grows.
 class JsonWriter
 {
 public:
     /// Reserves room for about this many bytes, so that a large document is not copied while it grows.
     explicit JsonWriter(qsizetype expectedSize = 4096);
+
+    /// Takes the next bytes of the document; they hold during the call only.
+    using Sink = std::function<void(QByteArrayView bytes)>;
+    /// Hands the document over in pieces of at most about this many bytes, instead of keeping it whole.
+    JsonWriter(Sink sink, qsizetype pieceSize);
 
     void beginObject();
     void endObject();
@@ -41,6 +48,8 @@ public:
 
     /// The document so far; the writer is empty afterwards.
     QByteArray take();
+    /// Hands over what the sink has not had yet.
+    void flush();
 
 private:
     /// Makes room for a value of at most this many bytes, puts the comma that it may need before it and
@@ -64,6 +73,7 @@ private:
     void close(char bracket);
     void escaped(QStringView value);
 
+    Sink m_sink;
     QByteArray m_bytes;
     /// Where the next byte goes, and the end of the room there is.
     char *m_at = nullptr;

@@ -1,5 +1,7 @@
 #include "Foundation/RecordDecoder.h"
 
+#include <QStringDecoder>
+
 #include <cmath>
 #include <cstring>
 #include <map>
@@ -53,7 +55,14 @@ std::size_t SharedTexts::slot(std::string_view utf8)
 
 QString SharedTexts::text(std::string_view utf8)
 {
-    const auto convert = [&] { return QString::fromUtf8(utf8.data(), qsizetype(utf8.size())); };
+    const auto convert = [&] {
+        const QByteArrayView bytes(utf8.data(), qsizetype(utf8.size()));
+        // At the start of a text U+FEFF belongs to the text, where `fromUtf8` would take it for a mark.
+        if (utf8.starts_with("\xef\xbb\xbf"))
+            return QString(
+                QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(bytes));
+        return QString::fromUtf8(bytes);
+    };
     if (utf8.size() > longest)
         return convert();
     Known &known = m_known[slot(utf8)];
@@ -62,6 +71,13 @@ QString SharedTexts::text(std::string_view utf8)
         known.size = utf8.copy(known.utf8.data(), longest);
     }
     return known.text;
+}
+
+void DecodeReport::addUnreadable(std::string_view key)
+{
+    const QString name = QString::fromUtf8(key.data(), qsizetype(key.size()));
+    if (!unreadableKeys.contains(name))
+        unreadableKeys.append(name);
 }
 
 bool RecordDecoder::read(Element json, bool &out, const DecodeContext &)

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QMap>
+#include <QStringList>
 #include <QUuid>
 
 #include <algorithm>
@@ -38,12 +39,23 @@ private:
     std::array<Known, places> m_known;
 };
 
+/// What a document holds that the records read from it do not: it would be lost if they were written back.
+struct DecodeReport {
+    /// The keys of tolerant records whose values were there but could not be read, each once.
+    QStringList unreadableKeys;
+    /// Whether some object has a key that its record does not know.
+    bool hasUnknownKeys = false;
+
+    void addUnreadable(std::string_view key);
+};
+
 /// What goes along with the reading of one document.
 struct DecodeContext {
     /// What a fresh record needs when a tolerant one has to be filled up.
     Timestamp now;
     std::function<QUuid()> makeId = &QUuid::createUuid;
     mutable SharedTexts texts = {};
+    mutable DecodeReport report = {};
 };
 
 /// Reads records from parsed JSON by walking their field lists. Every function fills its output and returns
@@ -122,6 +134,7 @@ struct FieldTable {
     struct Values {
         std::array<Element, size> elements;
         std::bitset<size> present;
+        bool hasUnknownKeys = false;
     };
 
     /// Calls `readField` with each field and its value, or null, until one call returns false; tells whether
@@ -158,8 +171,10 @@ struct FieldTable {
         }(std::make_index_sequence<size>());
         for (; member != end; ++member) {
             const std::size_t index = find(member.key());
-            if (index == size)
+            if (index == size) {
+                values->hasUnknownKeys = true;
                 continue;
+            }
             values->elements[index] = member.value();
             values->present.set(index);
         }
@@ -192,16 +207,22 @@ bool readTolerant(Element json, Record &out, const DecodeContext &context)
         using Value = typename std::decay_t<decltype(field)>::Value;
         // What can't be read keeps the value of the fresh record.
         Value read{};
-        if (!value || value->is_null() || !RecordDecoder::read(*value, read, context))
+        if (!value || value->is_null())
             return true;
+        if (!RecordDecoder::read(*value, read, context)) {
+            context.report.addUnreadable(field.name);
+            return true;
+        }
         out.*field.member = std::move(read);
         if constexpr (isIdentified)
             if constexpr (std::is_same_v<Value, QUuid>)
                 hasId |= &(out.*field.member) == &out.id;
         return true;
     };
-    if (values)
+    if (values) {
+        context.report.hasUnknownKeys |= values->hasUnknownKeys;
         Table::readEach(*values, readField);
+    }
     // Making an id is slow, and nearly every record has one.
     if constexpr (isIdentified)
         if (!hasId)
@@ -216,6 +237,7 @@ bool readStrict(Element json, Record &out, const DecodeContext &context)
     const auto values = Table::collect(json);
     if (!values)
         return false;
+    context.report.hasUnknownKeys |= values->hasUnknownKeys;
     return Table::readEach(*values, [&](const auto &field, const Element *value) {
         return value ? RecordDecoder::read(*value, out.*field.member, context)
                      : isOptional<typename std::decay_t<decltype(field)>::Value>;
@@ -227,9 +249,11 @@ bool read(Element json, Record &out, const DecodeContext &context)
 {
     if constexpr (TolerantRecord<Record>) {
         const bool isObject = readTolerant(json, out, context);
-        if constexpr (requires { requires Record::acceptsAnything; })
+        if constexpr (requires { requires Record::acceptsAnything; }) {
+            if (!isObject)
+                context.report.addUnreadable("record");
             return true;
-        else
+        } else
             return isObject;
     } else {
         return readStrict(json, out, context);

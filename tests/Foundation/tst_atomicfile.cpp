@@ -61,8 +61,9 @@ private slots:
     {
         const QStringList calls = callsOfOneWrite();
         QCOMPARE(contents(path()), m_new);
-        QCOMPARE(calls, (QStringList{u"open"_s, u"mkostemp"_s, u"write"_s, u"fsync"_s, u"close"_s,
-                                     u"rename"_s, u"fsync"_s, u"close"_s}));
+        QCOMPARE(calls, (QStringList{u"lstat"_s, u"open"_s, u"stat"_s, u"open"_s, u"fstat"_s, u"fchmod"_s,
+                                     u"write"_s, u"fsync"_s, u"fstat"_s, u"close"_s, u"rename"_s, u"fsync"_s,
+                                     u"close"_s}));
     }
 
     void everyCallFailsOnce_data()
@@ -76,6 +77,9 @@ private slots:
         QFETCH(int, error);
         const QStringList calls = callsOfOneWrite();
         const qsizetype rename = calls.indexOf(u"rename"_s), last = calls.size() - 1;
+        // Owner and mode are kept if that can be done, and closing the synced folder can lose nothing.
+        const QList<qsizetype> spared{calls.indexOf(u"stat"_s), calls.indexOf(u"fstat"_s),
+                                      calls.indexOf(u"fchmod"_s), last};
         for (qsizetype call = 0; call <= last; ++call) {
             put(path(), m_old);
             const auto outcome = [&] {
@@ -83,12 +87,11 @@ private slots:
                 return AtomicFile::write(path(), m_new);
             }();
             const QByteArray place = calls[call].toLatin1() + ' ' + QByteArray::number(call);
-            // By then the folder is synced, and closing it can lose nothing.
-            QVERIFY2(outcome.has_value() == (call == last), place.constData());
+            QVERIFY2(outcome.has_value() == spared.contains(call), place.constData());
             if (!outcome)
                 QVERIFY2(outcome.error().endsWith(u": "_s + qt_error_string(error)),
                          qPrintable(outcome.error()));
-            QVERIFY2(contents(path()) == (call > rename ? m_new : m_old), place.constData());
+            QVERIFY2(contents(path()) == (outcome || call > rename ? m_new : m_old), place.constData());
             QCOMPARE(names(), QStringList{u"file.json"_s});
             QVERIFY2(AtomicFile::write(path(), m_new), place.constData());
             QVERIFY2(contents(path()) == m_new, place.constData());
@@ -135,16 +138,31 @@ private slots:
         QVERIFY(AtomicFile::write(path(), m_new));
     }
 
-    void onlyTheOwnerReadsTheFile()
+    void anExistingFileKeepsItsMode_data()
     {
-        const mode_t mask = ::umask(0);
-        QVERIFY(QFile::setPermissions(path(), QFile::Permissions(0x6644)));
-        QCOMPARE(modeOf(path()), 0644U);
-        QVERIFY(AtomicFile::write(path(), m_new));
-        QVERIFY(AtomicFile::write(path(u"fresh"_s), m_new));
+        QTest::addColumn<int>("before");
+        QTest::addColumn<AtomicFile::Access>("access");
+        QTest::addColumn<int>("after");
+        QTest::newRow("private") << 0600 << AtomicFile::Access::umask << 0600;
+        QTest::newRow("shared") << 0664 << AtomicFile::Access::owner << 0664;
+        QTest::newRow("read-only") << 0444 << AtomicFile::Access::owner << 0644;
+        QTest::newRow("new and private") << 0 << AtomicFile::Access::owner << 0600;
+        QTest::newRow("new document") << 0 << AtomicFile::Access::umask << 0640;
+    }
+    void anExistingFileKeepsItsMode()
+    {
+        QFETCH(int, before);
+        QFETCH(AtomicFile::Access, access);
+        QFETCH(int, after);
+        if (before == 0)
+            QVERIFY(QFile::remove(path()));
+        else
+            QCOMPARE(::chmod(qPrintable(path()), mode_t(before)), 0);
+        const mode_t mask = ::umask(027);
+        const auto outcome = AtomicFile::write(path(), m_new, access);
         ::umask(mask);
-        QCOMPARE(modeOf(path()), 0600U);
-        QCOMPARE(modeOf(path(u"fresh"_s)), 0600U);
+        QVERIFY(outcome);
+        QCOMPARE(modeOf(path()), mode_t(after));
     }
 
     void linksStay_data()

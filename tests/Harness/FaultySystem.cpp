@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
@@ -41,7 +42,9 @@ int guardedOpenAt(const char *name, int folder, const char *path, int flags, mod
         errno = error;
         return -1;
     }
-    return real<int(int, const char *, int, ...)>(name)(folder, path, flags, mode);
+    const int file = real<int(int, const char *, int, ...)>(name)(folder, path, flags, mode);
+    FaultySystem::opened(file, path);
+    return file;
 }
 
 int guardedOpen(const char *name, const char *path, int flags, mode_t mode)
@@ -50,7 +53,9 @@ int guardedOpen(const char *name, const char *path, int flags, mode_t mode)
         errno = error;
         return -1;
     }
-    return real<int(const char *, int, ...)>(name)(path, flags, mode);
+    const int file = real<int(const char *, int, ...)>(name)(path, flags, mode);
+    FaultySystem::opened(file, path);
+    return file;
 }
 } // namespace
 
@@ -74,12 +79,33 @@ int FaultySystem::nextError(const char *name)
     const bool fails = current->m_fault == Fault::once          ? number == current->m_failingCall
                        : current->m_fault == Fault::fromThereOn ? number >= current->m_failingCall
                                                                 : false;
-    return fails ? current->m_error : 0;
+    return fails || current->m_refused.contains(current->m_calls.last()) ? current->m_error : 0;
 }
 
 std::size_t FaultySystem::allowedWrite(std::size_t bytes)
 {
     return current ? std::min(bytes, current->m_writeLimit) : bytes;
+}
+
+void FaultySystem::opened(int descriptor, const char *path)
+{
+    if (!current || descriptor < 0)
+        return;
+    current->m_files.insert(descriptor, current->m_opened);
+    current->m_effects.append({QStringLiteral("open"), current->m_opened++, path});
+}
+
+void FaultySystem::done(const char *name, int descriptor, QByteArray bytes)
+{
+    if (current)
+        current->m_effects.append(
+            {QString::fromLatin1(name), current->m_files.value(descriptor, -1), {}, {}, std::move(bytes)});
+}
+
+void FaultySystem::done(const char *name, const char *path, const char *target)
+{
+    if (current)
+        current->m_effects.append({QString::fromLatin1(name), -1, path, target});
 }
 
 // The program's own functions of these names come before those of the C library.
@@ -132,8 +158,41 @@ int mkostemp64(char *path, int flags)
 
 ssize_t write(int file, const void *bytes, std::size_t size)
 {
-    return guarded<ssize_t, int, const void *, std::size_t>("write", file, bytes,
-                                                            FaultySystem::allowedWrite(size));
+    const ssize_t written = guarded<ssize_t, int, const void *, std::size_t>(
+        "write", file, bytes, FaultySystem::allowedWrite(size));
+    if (written > 0)
+        FaultySystem::done("write", file, QByteArray(static_cast<const char *>(bytes), written));
+    return written;
+}
+
+ssize_t read(int file, void *bytes, std::size_t size)
+{
+    return guarded<ssize_t, int, void *, std::size_t>("read", file, bytes, size);
+}
+
+int stat(const char *path, struct stat *status) noexcept
+{
+    return guarded<int, const char *, struct stat *>("stat", path, status);
+}
+
+int lstat(const char *path, struct stat *status) noexcept
+{
+    return guarded<int, const char *, struct stat *>("lstat", path, status);
+}
+
+int fstat(int file, struct stat *status) noexcept
+{
+    return guarded<int, int, struct stat *>("fstat", file, status);
+}
+
+int fchown(int file, uid_t owner, gid_t group) noexcept
+{
+    return guarded<int, int, uid_t, gid_t>("fchown", file, owner, group);
+}
+
+int mkdir(const char *path, mode_t mode) noexcept
+{
+    return guarded<int, const char *, mode_t>("mkdir", path, mode);
 }
 
 int fchmod(int file, mode_t mode) noexcept
@@ -153,7 +212,10 @@ int ftruncate(int file, off_t size) noexcept
 
 int fsync(int file)
 {
-    return guarded<int, int>("fsync", file);
+    const int result = guarded<int, int>("fsync", file);
+    if (result == 0)
+        FaultySystem::done("fsync", file);
+    return result;
 }
 
 int fdatasync(int file)
@@ -163,7 +225,10 @@ int fdatasync(int file)
 
 int rename(const char *from, const char *to) noexcept
 {
-    return guarded<int, const char *, const char *>("rename", from, to);
+    const int result = guarded<int, const char *, const char *>("rename", from, to);
+    if (result == 0)
+        FaultySystem::done("rename", from, to);
+    return result;
 }
 
 int renameat(int fromFolder, const char *from, int toFolder, const char *to) noexcept
@@ -173,7 +238,10 @@ int renameat(int fromFolder, const char *from, int toFolder, const char *to) noe
 
 int link(const char *from, const char *to) noexcept
 {
-    return guarded<int, const char *, const char *>("link", from, to);
+    const int result = guarded<int, const char *, const char *>("link", from, to);
+    if (result == 0)
+        FaultySystem::done("link", from, to);
+    return result;
 }
 
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
@@ -184,7 +252,10 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
 
 int unlink(const char *path) noexcept
 {
-    return guarded<int, const char *>("unlink", path);
+    const int result = guarded<int, const char *>("unlink", path);
+    if (result == 0)
+        FaultySystem::done("unlink", path);
+    return result;
 }
 
 int unlinkat(int folder, const char *path, int flags) noexcept

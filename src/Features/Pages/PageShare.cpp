@@ -38,7 +38,9 @@ QString PageShare::fileName(const QString &title)
 
 std::expected<void, QString> PageShare::write(const Page &page, const QString &path)
 {
-    if (const auto written = AtomicFile::write(path, PageText::markdownExport(page).toUtf8()); !written)
+    const auto written =
+        AtomicFile::write(path, PageText::markdownExport(page).toUtf8(), AtomicFile::Access::umask);
+    if (!written)
         return std::unexpected(QStringLiteral("The page could not be saved: %1").arg(written.error()));
     return {};
 }

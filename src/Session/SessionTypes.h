@@ -16,6 +16,13 @@ struct WorkspaceStoreType {
     QML_UNCREATABLE("The application makes the store.")
 };
 
+struct SaveSchedulerType {
+    Q_GADGET
+    QML_FOREIGN(SaveScheduler)
+    QML_NAMED_ELEMENT(SaveScheduler)
+    QML_UNCREATABLE("The store makes its scheduler.")
+};
+
 struct UIStateType {
     Q_GADGET
     QML_FOREIGN(UIState)

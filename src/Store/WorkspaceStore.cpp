@@ -1,13 +1,8 @@
 #include "Store/WorkspaceStore.h"
 
-#include "Foundation/AtomicFile.h"
-#include "Store/SnapshotCodec.h"
-
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <cstdio>
 
 WorkspaceStore::Groups::Groups(const Clock &clock)
     : tasksByProject(&TaskItem::projectID),
@@ -30,17 +25,27 @@ void WorkspaceStore::Groups::follow(const WorkspaceStore &store, const ChangeSet
 WorkspaceStore::WorkspaceStore(Options options, QObject *parent)
     : QObject(parent),
       m_options(std::move(options)),
+      m_file(fileOptions(m_options)),
       m_history(m_options.undoLimits),
-      m_groups(*m_options.clock)
+      m_groups(*m_options.clock),
+      m_saves(&m_file, [this] { return snapshot(); },
+              {.quiet = m_options.saveDelay,
+               .longest = std::max(m_options.saveDelay, SaveScheduler::Delays().longest)})
 {
-    m_saveTimer.setSingleShot(true);
-    m_saveTimer.setInterval(m_options.saveDelay);
-    // The promise is half a second after the last change; a coarse timer would stretch it.
-    m_saveTimer.setTimerType(Qt::PreciseTimer);
-    connect(&m_saveTimer, &QTimer::timeout, this, &WorkspaceStore::saveNow);
     connect(m_options.clock, &Clock::dayChanged, this, [this] { m_groups.eventsByDay.forget(); });
-    AtomicFile::sweepLeftovers(m_options.filePath);
-    adopt(SnapshotCodec::decodeFile(m_options.filePath, now(), m_options.makeId).value_or(Snapshot()));
+    WorkspaceFile::Loaded loaded = m_file.load();
+    adopt(std::move(loaded.snapshot));
+    m_saves.setNotice(loaded.notice);
+}
+
+WorkspaceFile::Options WorkspaceStore::fileOptions(const Options &options)
+{
+    const QString beside = QFileInfo(options.filePath).dir().filePath(QStringLiteral("rescued"));
+    return {.path = options.filePath,
+            .rescueFolder = options.rescueFolder.isEmpty() ? beside : options.rescueFolder,
+            .now = [clock = options.clock] { return clock->now(); },
+            .makeId = options.makeId,
+            .checkLock = options.checkLock};
 }
 
 WorkspaceStore::~WorkspaceStore()
@@ -57,6 +62,14 @@ QString WorkspaceStore::defaultFilePath()
     // If this fails, so does the first save, and that says why.
     QDir().mkpath(folder);
     return folder + QStringLiteral("/workspace.json");
+}
+
+QString WorkspaceStore::defaultRescueFolder()
+{
+    QString place = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(place))
+        place = QDir::homePath() + QStringLiteral("/.local/state");
+    return place + QStringLiteral("/Orvel/rescued");
 }
 
 BookLibrary WorkspaceStore::bookLibrary() const
@@ -116,7 +129,7 @@ void WorkspaceStore::end()
 
 void WorkspaceStore::announce(const ChangeSet &changes)
 {
-    scheduleSave();
+    m_saves.schedule();
     emit changed(changes);
 }
 
@@ -144,21 +157,6 @@ const UndoStep *WorkspaceStore::redo()
     m_groups.follow(*this, changes);
     announce(changes);
     return step;
-}
-
-void WorkspaceStore::scheduleSave()
-{
-    m_saveTimer.start();
-}
-
-void WorkspaceStore::saveNow()
-{
-    m_saveTimer.stop();
-    const auto written = AtomicFile::write(m_options.filePath, SnapshotCodec::encode(snapshot()));
-    if (written)
-        return;
-    std::printf("[Orvel] Failed to save workspace snapshot: %s\n", qUtf8Printable(written.error()));
-    std::fflush(stdout);
 }
 
 void WorkspaceStore::resetEverything(bool keepOnboarding)

@@ -4,10 +4,9 @@
 #include "Store/Action.h"
 #include "Store/BookLibrary.h"
 #include "Store/RecordGroups.h"
-#include "Store/Snapshot.h"
+#include "Store/SaveScheduler.h"
 
 #include <QObject>
-#include <QTimer>
 
 /// The one object that owns the whole workspace: one list for each kind of record, the settings, the undo
 /// history, and the file they are saved in. What the product does with records are free functions beside it,
@@ -17,16 +16,20 @@
 class WorkspaceStore : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(SaveScheduler *saves READ saves CONSTANT FINAL)
 
 public:
     struct Options {
-        /// The workspace file; its folder has to exist by the time of the first save.
         QString filePath;
         /// Lives longer than the store.
         const Clock *clock = nullptr;
-        std::chrono::milliseconds saveDelay{500};
+        /// From the last change to the save.
+        std::chrono::milliseconds saveDelay = SaveScheduler::Delays().quiet;
         std::function<QUuid()> makeId = &QUuid::createUuid;
         UndoHistory::Limits undoLimits = {};
+        /// See `WorkspaceFile`; empty stands for "rescued" beside the workspace file.
+        QString rescueFolder = {};
+        std::function<std::expected<void, QString>()> checkLock = {};
     };
     using Lists = UndoHistory::Lists;
 
@@ -37,8 +40,11 @@ public:
     /// "Orvel/workspace.json" in the user's data folder, or in the temporary folder if there is none. The
     /// folder is made.
     static QString defaultFilePath();
+    /// "Orvel/rescued" in the user's folder for the state of programs.
+    static QString defaultRescueFolder();
 
     const QString &filePath() const { return m_options.filePath; }
+    SaveScheduler *saves() { return &m_saves; }
     /// The texts of the downloaded books, in "Books" beside the workspace file.
     BookLibrary bookLibrary() const;
     const Clock &clock() const { return *m_options.clock; }
@@ -86,8 +92,10 @@ public:
     /// Tells where the user is, which steps remember.
     void setPlaceSource(std::function<Destination()> place) { m_place = std::move(place); }
 
-    /// Saves at once. A failure is printed as one line; the next save tries again.
-    void saveNow();
+    /// Each change is saved soon by itself; see `SaveScheduler` for this and the following.
+    void saveSoon() { m_saves.saveSoon(); }
+    bool saveNow() { return m_saves.saveNow(); }
+    void saveAtExit() { m_saves.saveAtExit(); }
     /// Erases the workspace, the texts of the books, the undo history and all settings, and saves.
     void resetEverything(bool keepOnboarding);
 
@@ -144,17 +152,20 @@ private:
     bool begin(const std::function<void(UndoStep &)> &describe);
     void end();
     void announce(const ChangeSet &changes);
-    void scheduleSave();
     void adopt(Snapshot snapshot);
 
+    static WorkspaceFile::Options fileOptions(const Options &options);
+
     Options m_options;
-    QTimer m_saveTimer;
+    WorkspaceFile m_file;
     AppSettings m_settings;
     Lists m_lists;
     UndoHistory m_history;
     OpenAction m_action;
     std::function<Destination()> m_place = [] { return Destination(); };
     mutable Groups m_groups;
+    // Goes first, since it may still be writing.
+    SaveScheduler m_saves;
 };
 
 template <typename Record>

@@ -1,19 +1,15 @@
-#include "Harness/FaultySystem.h"
 #include "Harness/ManualClock.h"
 #include "SampleSnapshot.h"
 #include "Store/SnapshotCodec.h"
-#include "Store/TaskOperations.h"
+#include "Store/WorkspaceStore.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <random>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using Fault = FaultySystem::Fault;
 
 class SaveSurvivalTest : public QObject
 {
@@ -44,28 +40,10 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// What the call prints to standard output.
-    template <typename Call>
-    QByteArray printed(Call call) const
-    {
-        QTemporaryFile output;
-        if (!output.open())
-            return "no place for the output";
-        std::fflush(stdout);
-        const int before = ::dup(STDOUT_FILENO);
-        ::dup2(output.handle(), STDOUT_FILENO);
-        call();
-        std::fflush(stdout);
-        ::dup2(before, STDOUT_FILENO);
-        ::close(before);
-        output.seek(0);
-        return output.readAll();
-    }
-
     /// The one generation that the whole file belongs to, or -1 if it is torn, mixed or gone.
     qint64 generationInFile() const
     {
-        const auto snapshot = SnapshotCodec::decodeFile(path(), m_clock.now(), &QUuid::createUuid);
+        const auto snapshot = SnapshotCodec::decode(fileBytes(), m_clock.now(), &QUuid::createUuid);
         if (!snapshot || snapshot->list<TaskItem>().isEmpty() ||
             snapshot->list<TaskItem>().size() != snapshot->list<Page>().size())
             return -1;
@@ -119,94 +97,6 @@ private slots:
         QVERIFY(killedWithinASave > 0);
     }
 
-    void everySystemCallFailsOnce_data()
-    {
-        QTest::addColumn<int>("error");
-        for (const int error : {EIO, ENOSPC, EDQUOT})
-            QTest::newRow(::strerrorname_np(error)) << error;
-    }
-    void everySystemCallFailsOnce()
-    {
-        QFETCH(int, error);
-        const QByteArray old = SnapshotCodec::encode(SampleSnapshot::make());
-        put(old);
-        const auto store = open();
-        TaskOperations::rename(*store, SampleSnapshot::id(5), u"Changed"_s);
-        const QByteArray next = SnapshotCodec::encode(store->snapshot());
-        const QStringList calls = [&] {
-            const FaultySystem system;
-            store->saveNow();
-            return system.calls();
-        }();
-        QCOMPARE(fileBytes(), next);
-        // The last call closes the folder, after everything is on disk.
-        for (qsizetype call = 0; call < calls.size() - 1; ++call) {
-            put(old);
-            const QByteArray line = printed([&] {
-                const FaultySystem system(Fault::once, call, error);
-                store->saveNow();
-            });
-            QVERIFY2(line.startsWith("[Orvel] Failed to save workspace snapshot: "), line.constData());
-            QVERIFY2(line.endsWith(qt_error_string(error).toUtf8() + '\n'), line.constData());
-            QCOMPARE(line.count('\n'), 1);
-            QCOMPARE(fileBytes(), call > calls.indexOf(u"rename"_s) ? next : old);
-            QCOMPARE(names(), QStringList{u"workspace.json"_s});
-
-            QCOMPARE(printed([&] { store->saveNow(); }), QByteArray());
-            QCOMPARE(fileBytes(), next);
-        }
-    }
-
-    void aMissingFolderFailsUntilItIsBack()
-    {
-        const auto store = open();
-        TaskOperations::create(*store, u"Kept"_s, TaskPriority::low, {});
-        QVERIFY(QDir().rmdir(m_folder->path()));
-        QCOMPARE(printed([&] { store->saveNow(); }),
-                 "[Orvel] Failed to save workspace snapshot: open folder: " +
-                     qt_error_string(ENOENT).toUtf8() + '\n');
-        QVERIFY(QDir().mkdir(m_folder->path()));
-        store->saveNow();
-        QCOMPARE(open()->tasks().size(), 1);
-    }
-
-    void aFileReplacedMeanwhileIsReplacedWhole()
-    {
-        const auto store = open();
-        TaskOperations::create(*store, u"Mine"_s, TaskPriority::low, {});
-        const QString other = m_folder->filePath(u"other"_s);
-        QVERIFY(QFile::rename((put("theirs"), path()), other));
-        QVERIFY(QFile::link(u"other"_s, path()));
-        store->saveNow();
-        QVERIFY(QFileInfo(path()).isSymLink());
-        QCOMPARE(fileBytes(), SnapshotCodec::encode(store->snapshot()));
-    }
-
-    void unreadablePlacesGiveAnEmptyWorkspace()
-    {
-        QVERIFY(QDir().mkdir(path()));
-        const auto store = open();
-        QCOMPARE(store->snapshot(), Snapshot());
-        QVERIFY(printed([&] { store->saveNow(); }).endsWith(qt_error_string(EISDIR).toUtf8() + '\n'));
-        QCOMPARE(names(), QStringList{u"workspace.json"_s});
-        QVERIFY(QDir().rmdir(path()));
-
-        put(SnapshotCodec::encode(SampleSnapshot::make()));
-        QVERIFY(QFile::setPermissions(path(), QFile::Permissions()));
-        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
-        const bool isRoot = ::geteuid() == 0;
-        // Root may read everything, so for the moment this process is someone else.
-        if (isRoot && ::seteuid(65534) != 0)
-            QSKIP("cannot become an ordinary user");
-        const auto unread = open();
-        const QByteArray line = printed([&] { unread->saveNow(); });
-        if (isRoot)
-            QCOMPARE(::seteuid(0), 0);
-        QCOMPARE(unread->snapshot(), Snapshot());
-        QCOMPARE(line, QByteArray());
-        QCOMPARE(fileBytes(), SnapshotCodec::encode(Snapshot()));
-    }
-
     void twoHundredMegabytesLoad()
     {
 #ifdef __SANITIZE_ADDRESS__
@@ -223,14 +113,6 @@ private slots:
         QVERIFY2(bytes.size() > 200'000'000, qPrintable(QString::number(bytes.size())));
         put(bytes);
         QVERIFY(open()->snapshot() == large);
-    }
-
-    void aNestingBombGivesAnEmptyWorkspace()
-    {
-        for (const QByteArray &open : {"["_ba, "{\"tasks\":"_ba}) {
-            put(open.repeated(5'000'000));
-            QCOMPARE(this->open()->snapshot(), Snapshot());
-        }
     }
 };
 

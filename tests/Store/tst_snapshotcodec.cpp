@@ -90,10 +90,8 @@ private slots:
         QTest::newRow("null") << "null"_ba << false;
         QTest::newRow("cut off") << R"({"tasks":[)"_ba << false;
         QTest::newRow("text behind") << "{} x"_ba << false;
-        QTest::newRow("invalid UTF-8") << "{\"x\":\"\xff\"}"_ba << false;
         QTest::newRow("raw NUL") << QByteArray("{\"x\":\"a\0b\"}", 11) << false;
-        QTest::newRow("nesting bomb")
-            << R"({"x":)"_ba + QByteArray(200000, '[') + QByteArray(200000, ']') + "}" << false;
+        QTest::newRow("nesting bomb") << R"({"x":)"_ba + QByteArray(200000, '[') << false;
     }
     void failsOnlyWithoutATopLevelObject()
     {
@@ -158,6 +156,99 @@ private slots:
             Snapshot::fields());
         QVERIFY(expected != whole);
         QCOMPARE(decoded(sampleWith(path, value)), expected);
+    }
+
+    /// What power cuts, other programs and other versions leave. Each costs at most what it touches.
+    void smallDamageCostsLittle_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QByteArray>("readAs");
+        QTest::addColumn<bool>("isLossy");
+        const QByteArray sample = SnapshotCodec::encode(SampleSnapshot::make());
+        const auto with = [&](const QByteArray &from, const QByteArray &to) {
+            QByteArray bytes = sample;
+            bytes.replace(from, to);
+            return bytes != sample ? bytes : QByteArray("the sample has changed");
+        };
+        const auto utf16 = [&](QStringConverter::Encoding encoding) -> QByteArray {
+            return QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(QString::fromUtf8(sample));
+        };
+        const auto unknown = [&](const QByteArray &value) {
+            return "{\"later\":" + value + ',' + sample.sliced(1);
+        };
+        QTest::newRow("mark") << "\xef\xbb\xbf" + sample << sample << false;
+        QTest::newRow("NULs and blanks")
+            << " \r\n" + sample + QByteArray(5000, '\0') + "\n " << sample << false;
+        QTest::newRow("UTF-16, little endian") << utf16(QStringConverter::Utf16LE) << sample << false;
+        QTest::newRow("UTF-16, big endian") << utf16(QStringConverter::Utf16BE) << sample << false;
+        QTest::newRow("bad UTF-8") << with("Letter", "L\xfftter") << with("Letter", "L\xef\xbf\xbdtter")
+                                   << true;
+        QTest::newRow("cut UTF-8") << with("Letter", "Letter\xe2\x82")
+                                   << with("Letter", "Letter\xef\xbf\xbd\xef\xbf\xbd") << true;
+        QTest::newRow("half a pair") << with("Letter", "L\\ud83dr") << with("Letter", "L\xef\xbf\xbdr")
+                                     << true;
+        QTest::newRow("large integer nobody knows") << unknown("[123456789012345678901]") << sample << true;
+        QTest::newRow("large negative one") << unknown("-9223372036854775809") << sample << true;
+        QTest::newRow("number beyond all") << unknown("{\"x\":-1e400}") << sample << true;
+        QTest::newRow("integer of 400 digits") << unknown(QByteArray(400, '7')) << sample << true;
+        QTest::newRow("depth nobody knows")
+            << unknown(QByteArray(1100, '[') + QByteArray(1100, ']')) << sample << true;
+        QTest::newRow("large integer for a double")
+            << with("\"progress\":0.5", "\"progress\":300000000000000000000")
+            << with("\"progress\":0.5", "\"progress\":3e20") << true;
+        QTest::newRow("number beyond all for a double")
+            << with("\"progress\":0.5", "\"progress\":1e400")
+            << with("\"progress\":0.5", "\"progress\":1.7976931348623157e308") << true;
+        QTest::newRow("large integer for an integer")
+            << with("\"lastLocation\":12", "\"lastLocation\":12345678901234567890123")
+            << with("\"lastLocation\":12", "\"lastLocation\":null") << true;
+        QTest::newRow("largest integer beside bad UTF-8")
+            << with("\"lastLocation\":12", "\"lastLocation\":9223372036854775807,\"x\":\"\xff\"")
+            << with("\"lastLocation\":12", "\"lastLocation\":9223372036854775807") << true;
+    }
+    void smallDamageCostsLittle()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QByteArray, readAs);
+        QFETCH(bool, isLossy);
+        SnapshotCodec::Buffer buffer(std::size_t(json.size()));
+        std::ranges::copy(json, buffer.data());
+        const auto read = SnapshotCodec::decode(buffer, now, &freshId);
+        QVERIFY2(read, qPrintable(read ? QString() : read.error()));
+        QCOMPARE(read->snapshot, decoded(readAs));
+        QCOMPARE(read->isLossy(), isLossy);
+    }
+
+    /// U+FEFF begins a text like any other character; only the file's own mark is none of its text.
+    void aMarkWithinATextIsText()
+    {
+        Snapshot sample = SampleSnapshot::make();
+        const QChar mark(QChar::ByteOrderMark);
+        sample.list<TaskItem>()[0].title = mark + u"short"_s;
+        sample.list<TaskItem>()[0].notes =
+            QString(2, mark) + u"a text that is too long to be shared with others"_s;
+        sample.list<TaskItem>()[1].title = mark;
+        sample.list<DBRow>()[0].values.insert(mark + u"key"_s, mark + u"value"_s);
+        QCOMPARE(decoded(SnapshotCodec::encode(sample)), sample);
+    }
+
+    /// In pieces come the same bytes as whole, whatever lies across the ends of pieces.
+    void pieces()
+    {
+        Snapshot large = SampleSnapshot::make();
+        for (int i = 0; i < 3000; ++i) {
+            large.list<TaskItem>().append(large.list<TaskItem>().first());
+            large.list<TaskItem>().last().notes = u"a/\"é€😀\n"_s.repeated(i % 97 == 0 ? 20'000 : i % 50);
+        }
+        QByteArray joined;
+        qsizetype longest = 0, pieces = 0;
+        SnapshotCodec::encode(large, [&](QByteArrayView piece) {
+            joined += piece;
+            longest = std::max(longest, piece.size());
+            ++pieces;
+        });
+        QCOMPARE(joined, SnapshotCodec::encode(large));
+        QVERIFY(pieces > joined.size() / 300'000 && longest < 300'000);
     }
 
     void optionalFieldsMayBeAbsentOrNull()

@@ -279,9 +279,9 @@ private slots:
             }
             if (i % 200 == 0) {
                 store->saveNow();
-                const auto reread =
-                    SnapshotCodec::decodeFile(store->filePath(), m_clock.now(), &QUuid::createUuid);
-                QCOMPARE(SnapshotCodec::encode(reread.value()), encoded(*store));
+                WorkspaceFile file(
+                    {.path = store->filePath(), .rescueFolder = {}, .now = [this] { return m_clock.now(); }});
+                QCOMPARE(SnapshotCodec::encode(file.load().snapshot), encoded(*store));
             }
         }
         while (done.size() > 1 && store->undo()) {

@@ -1,5 +1,19 @@
 #include "App/SavePoints.h"
 
+#include <QSemaphore>
+#include <QThread>
+
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+SavePoints *current = nullptr;
+} // namespace
+
 SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplication *application)
     : m_store(store), m_clock(clock)
 {
@@ -9,7 +23,32 @@ SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplicatio
     connect(
         application, &QGuiApplication::commitDataRequest, this, [this] { m_store->saveNow(); },
         Qt::DirectConnection);
-    connect(application, &QCoreApplication::aboutToQuit, this, [this] { m_store->saveNow(); });
+    connect(application, &QCoreApplication::aboutToQuit, m_store, &WorkspaceStore::saveAtExit);
+
+    // Toolkit and display libraries call `exit` when the display is gone, without a word before.
+    static const bool isRegistered = std::atexit([] {
+                                         if (current)
+                                             current->saveAtExit();
+                                     }) == 0;
+    if (!isRegistered)
+        qWarning("A lost connection to the display will lose the last changes.");
+    current = this;
+}
+
+SavePoints::~SavePoints()
+{
+    current = nullptr;
+}
+
+void SavePoints::surviveFailedWrites()
+{
+    // A handler that does nothing, rather than SIG_IGN, which the processes started would inherit.
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        sigaction(number, &action, nullptr);
 }
 
 void SavePoints::applicationStateChanged(Qt::ApplicationState state)
@@ -17,5 +56,22 @@ void SavePoints::applicationStateChanged(Qt::ApplicationState state)
     if (state == Qt::ApplicationActive)
         m_clock->check();
     else
-        m_store->saveNow();
+        m_store->saveSoon();
+}
+
+void SavePoints::saveAtExit()
+{
+    if (QThread::currentThread() == thread()) {
+        m_store->saveAtExit();
+        return;
+    }
+    // The thread that draws may be the first to notice. The workspace belongs to the main thread, which goes
+    // on meanwhile, or is about to notice as well.
+    static constexpr auto patience = 5s;
+    const auto saved = std::make_shared<QSemaphore>();
+    QMetaObject::invokeMethod(m_store, [store = m_store, saved] {
+        store->saveAtExit();
+        saved->release();
+    });
+    saved->tryAcquire(1, patience / 1ms);
 }

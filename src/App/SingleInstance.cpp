@@ -2,17 +2,13 @@
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QThread>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -27,16 +23,19 @@ constexpr qint64 longestRequest = 4096;
 
 SingleInstance::Options SingleInstance::Options::forWorkspace(const QString &filePath)
 {
-    const QFileInfo folder(QFileInfo(filePath).path());
-    const QByteArray place = QFile::encodeName(folder.canonicalFilePath());
-    const QByteArray name = QCryptographicHash::hash(place, QCryptographicHash::Sha256).toHex().first(16);
-    return {.lockPath = folder.filePath() + QStringLiteral("/workspace.lock"),
+    const auto target = AtomicFile::realPath(filePath);
+    const QFileInfo file(target ? QFile::decodeName(target->c_str()) : filePath);
+    const QString lockName = file.completeBaseName() + QStringLiteral(".lock");
+    const QString place = QFileInfo(file.path()).canonicalFilePath() + u'/' + lockName;
+    const QByteArray name =
+        QCryptographicHash::hash(QFile::encodeName(place), QCryptographicHash::Sha256).toHex().first(16);
+    return {.lockPath = file.dir().filePath(lockName),
             .socketPath = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
                           QStringLiteral("/orvel-%1.socket").arg(QString::fromLatin1(name))};
 }
 
 SingleInstance::SingleInstance(Options options, QObject *parent)
-    : QObject(parent), m_options(std::move(options))
+    : QObject(parent), m_options(std::move(options)), m_lock(m_options.lockPath)
 {
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::greet);
 }
@@ -44,8 +43,6 @@ SingleInstance::SingleInstance(Options options, QObject *parent)
 SingleInstance::~SingleInstance()
 {
     m_server.close();
-    if (m_lockFile >= 0)
-        ::close(m_lockFile);
 }
 
 std::expected<SingleInstance::Role, QString> SingleInstance::start(const QByteArray &activationToken)
@@ -53,15 +50,15 @@ std::expected<SingleInstance::Role, QString> SingleInstance::start(const QByteAr
     const QDeadlineTimer deadline(m_options.patience);
     // The other start may be on its way up, not listening yet, or on its way out, about to release the lock.
     do {
-        const Lock state = lock();
-        if (state == Lock::held) {
+        const FileLock::State state = m_lock.acquire();
+        if (state == FileLock::State::held) {
             listen();
             return Role::writer;
         }
         if (ask(activationToken, deadline.remainingTimeAsDuration() / 1ms * 1ms))
             return Role::visitor;
         // Where no lock can be made nothing can be written either, and only an answer proves another start.
-        if (state == Lock::impossible) {
+        if (state == FileLock::State::impossible) {
             listen();
             return Role::writer;
         }
@@ -71,16 +68,11 @@ std::expected<SingleInstance::Role, QString> SingleInstance::start(const QByteAr
         QStringLiteral("Orvel is already running but does not answer; end it and start Orvel again."));
 }
 
-SingleInstance::Lock SingleInstance::lock()
+std::expected<void, QString> SingleInstance::checkLock()
 {
-    if (m_lockFile < 0)
-        m_lockFile =
-            ::open(QFile::encodeName(m_options.lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (m_lockFile < 0)
-        return Lock::impossible;
-    if (::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0)
-        return Lock::held;
-    return errno == EWOULDBLOCK || errno == EINTR ? Lock::taken : Lock::impossible;
+    if (m_lock.check() == FileLock::State::taken)
+        return std::unexpected(tr("another Orvel is writing this workspace"));
+    return {};
 }
 
 void SingleInstance::listen()

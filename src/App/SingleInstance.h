@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Foundation/FileLock.h"
+
 #include <QLocalServer>
 #include <QObject>
 
@@ -21,7 +23,8 @@ public:
         /// How long a later start waits for the answer of the first.
         std::chrono::milliseconds patience{5000};
 
-        /// The lock beside the workspace file, the socket in the session's runtime folder.
+        /// The lock beside the file that is really written, behind all links; the socket in the session's
+        /// runtime folder.
         static Options forWorkspace(const QString &filePath);
     };
 
@@ -35,6 +38,11 @@ public:
     explicit SingleInstance(Options options, QObject *parent = nullptr);
     ~SingleInstance() override;
 
+    /// Whether this process may still write: it may not if the lock was lost to another start, as happens
+    /// when its file or its folder is replaced. The error is a part of a sentence for the user. May be called
+    /// on another thread once `start` has returned, one call at a time.
+    std::expected<void, QString> checkLock();
+
     /// Finds out who this process is. The error is a sentence for the person.
     /// @param activationToken the desktop's permission to come to the front, handed to the first start
     std::expected<Role, QString> start(const QByteArray &activationToken = {});
@@ -44,14 +52,11 @@ signals:
     void raiseRequested(const QByteArray &activationToken);
 
 private:
-    enum class Lock { held, taken, impossible };
-
-    Lock lock();
     void listen();
     void greet();
     bool ask(const QByteArray &activationToken, std::chrono::milliseconds patience) const;
 
     Options m_options;
-    int m_lockFile = -1;
+    FileLock m_lock;
     QLocalServer m_server;
 };

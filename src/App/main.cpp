@@ -75,6 +75,7 @@ int main(int argc, char *argv[])
     if (const auto code = PathExchange::serve(argc, argv))
         return *code;
     const LogFile log({.folder = LogFile::defaultFolder()});
+    SavePoints::surviveFailedWrites();
     QGuiApplication application(argc, argv);
     application.setApplicationVersion(QStringLiteral(ORVEL_VERSION));
     application.setApplicationName(QStringLiteral("Orvel"));
@@ -98,7 +99,10 @@ int main(int argc, char *argv[])
                      [] { QCoreApplication::exit(); });
 
     SystemClock clock;
-    WorkspaceStore store({.filePath = filePath, .clock = &clock});
+    WorkspaceStore store({.filePath = filePath,
+                          .clock = &clock,
+                          .rescueFolder = WorkspaceStore::defaultRescueFolder(),
+                          .checkLock = [&instance] { return instance.checkLock(); }});
     SavePoints savePoints(&store, &clock, &application);
     SystemAppearance desktop;
     desktop.followPortal(&QDBusConnection::sessionBus);

@@ -7,6 +7,7 @@
 /// signal. Argument: the workspace file.
 int main(int argc, char *argv[])
 {
+    SavePoints::surviveFailedWrites();
     QGuiApplication application(argc, argv);
     TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::received, &application,

@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,7 +37,7 @@ private slots:
         const auto savesOn = [&](const QString &name, const auto &event) {
             store.changeSettings([&](AppSettings &settings) { settings.userName = name; });
             event();
-            return savedName(name.toUtf8());
+            return QTest::qWaitFor([&] { return savedName(name.toUtf8()); }, 500);
         };
         QVERIFY(savesOn(u"inactive"_s, [] { emit qApp->applicationStateChanged(Qt::ApplicationInactive); }));
         QVERIFY(savesOn(u"hidden"_s, [] { emit qApp->applicationStateChanged(Qt::ApplicationHidden); }));
@@ -77,6 +78,63 @@ private slots:
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
         QVERIFY(savedName("Ada"));
+    }
+
+    void aLostDisplaySavesFirst()
+    {
+        QProcess server;
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        if (!server.waitForStarted())
+            QSKIP("there is no Xvfb");
+        while (!server.canReadLine())
+            QVERIFY(server.waitForReadyRead());
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(server.readLine().trimmed()));
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(SAVE_POINTS_PROBE), {path()});
+        while (!program.canReadLine())
+            QVERIFY2(program.waitForReadyRead(), program.readAllStandardError().constData());
+        QVERIFY(!QFile::exists(path()));
+        server.kill();
+        QVERIFY(server.waitForFinished());
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QVERIFY(savedName("Ada"));
+    }
+
+    /// Neither a failed save nor the line that tells it ends the program.
+    void failedWritesAreSurvived_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("isLimited");
+        QTest::newRow("nobody reads the output") << u"/dev/null"_s << false;
+        QTest::newRow("a limit of the file's size") << m_folder.filePath(u"limited.json"_s) << true;
+    }
+    void failedWritesAreSurvived()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isLimited);
+        const QTemporaryDir temporary;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"TMPDIR"_s, temporary.path());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        if (isLimited)
+            program.setChildProcessModifier([] {
+                const rlimit limit{100, 100};
+                ::setrlimit(RLIMIT_FSIZE, &limit);
+            });
+        program.start(QStringLiteral(SAVE_POINTS_PROBE), {path});
+        while (!program.canReadLine())
+            QVERIFY(program.waitForReadyRead());
+        program.closeReadChannel(QProcess::StandardOutput);
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QCOMPARE(QDir(temporary.path()).entryList(QDir::Files).size(), isLimited ? 0 : 1);
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -144,6 +145,59 @@ private slots:
         QCOMPARE(instance.start(), SingleInstance::Role::writer);
     }
 
+    void aLockIsLostWithItsFile_data()
+    {
+        QTest::addColumn<QString>("event");
+        for (const char *event : {"file removed", "file replaced", "folder replaced"})
+            QTest::newRow(event) << QString::fromLatin1(event);
+    }
+    void aLockIsLostWithItsFile()
+    {
+        QFETCH(QString, event);
+        const QTemporaryDir folder;
+        const QString data = folder.filePath(u"data"_s), path = data + u"/workspace.lock"_s;
+        QVERIFY(QDir().mkdir(data));
+        SingleInstance first({.lockPath = path, .socketPath = folder.filePath(u"socket"_s)});
+        QCOMPARE(first.start(), SingleInstance::Role::writer);
+        QVERIFY(first.checkLock());
+        if (event == u"file removed"_s) {
+            QVERIFY(QFile::remove(path));
+        } else if (event == u"file replaced"_s) {
+            QFile other(path + u".other"_s);
+            QVERIFY(other.open(QIODevice::WriteOnly));
+            QCOMPARE(std::rename(qPrintable(other.fileName()), qPrintable(path)), 0);
+        } else {
+            QVERIFY(QFile::rename(data, folder.filePath(u"away"_s)));
+            QVERIFY(QDir().mkdir(data));
+        }
+        {
+            FileLock second(path);
+            QCOMPARE(second.acquire(), FileLock::State::held);
+            QCOMPARE(first.checkLock().error(), u"another Orvel is writing this workspace"_s);
+        }
+        QVERIFY2(first.checkLock(), "it is free again");
+        QCOMPARE(FileLock(path).acquire(), FileLock::State::taken);
+    }
+
+    /// As a start as root leaves it.
+    void aLockThatCanNotBeOpenedIsReplaced()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can make it");
+        static constexpr uid_t nobody = 65534;
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"workspace.lock"_s);
+        FileLock roots(path);
+        QCOMPARE(roots.acquire(), FileLock::State::held);
+        QCOMPARE(::chown(qPrintable(folder.path()), nobody, gid_t(-1)), 0);
+        QCOMPARE(::seteuid(nobody), 0);
+        FileLock users(path);
+        const auto state = users.acquire();
+        QCOMPARE(::seteuid(0), 0);
+        QCOMPARE(state, FileLock::State::held);
+        QCOMPARE(roots.check(), FileLock::State::taken);
+    }
+
     void eachFolderHasItsOwnPlaces()
     {
         QDir(m_folder.path()).mkpath(u"a"_s);
@@ -155,6 +209,10 @@ private slots:
         QCOMPARE(places(u"a"_s).lockPath, m_folder.filePath(u"a/workspace.lock"_s));
         QVERIFY(places(u"a"_s).socketPath != places(u"b"_s).socketPath);
         QCOMPARE(places(u"link"_s).socketPath, places(u"a"_s).socketPath);
+        // Two homes whose files are links to one.
+        QVERIFY(QFile::link(u"../a/workspace.json"_s, m_folder.filePath(u"b/workspace.json"_s)));
+        QCOMPARE(QFileInfo(places(u"b"_s).lockPath).dir().canonicalPath(), m_folder.filePath(u"a"_s));
+        QCOMPARE(places(u"b"_s).socketPath, places(u"a"_s).socketPath);
     }
 };
 

@@ -8,8 +8,13 @@ FocusScope {
     id: root
 
     AppShellView {
-        anchors.fill: parent
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: saveProblem.top }
         focus: true
+    }
+
+    SaveProblemLine {
+        id: saveProblem
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
     // The presenter, while `Orvel.ui.presentingDeckID` names a deck.

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <cstdio>
 #include <fcntl.h>
@@ -36,14 +37,14 @@ void settleHeap()
 void benchLoad(Comparison &comparison, const QString &size, int rounds, const QString &path,
                const QByteArray &bytes)
 {
-    const Timestamp now =
-        std::chrono::time_point_cast<std::chrono::milliseconds>(std::chrono::system_clock::now());
+    const SystemClock clock;
     const auto times = Comparison::alternate(
         rounds,
         [&] {
-            std::expected<Snapshot, QString> snapshot;
+            WorkspaceFile file({.path = path, .rescueFolder = {}, .now = [&clock] { return clock.now(); }});
+            WorkspaceFile::Loaded loaded;
             settleHeap();
-            return timed([&] { snapshot = SnapshotCodec::decodeFile(path, now, &QUuid::createUuid); });
+            return timed([&] { loaded = file.load(); });
         },
         [&] {
             QJsonDocument document;
@@ -51,18 +52,22 @@ void benchLoad(Comparison &comparison, const QString &size, int rounds, const QS
             return timed([&] { document = QJsonDocument::fromJson(bytes); });
         });
     comparison.timeAtMost(QStringLiteral("load %1, against QJsonDocument::fromJson").arg(size),
-                          Comparison::best(times.ours), Comparison::best(times.baseline), 0.35);
+                          Comparison::best(times.ours), Comparison::best(times.baseline), 0.3);
 }
 
 void benchEncode(Comparison &comparison, const QString &size, int rounds, const Snapshot &workspace)
 {
     RapidJsonEncoder rapidJson(workspace);
     const qsizetype bytes = SnapshotCodec::encode(workspace).size();
+    QByteArray json(bytes, Qt::Uninitialized);
     const auto times = Comparison::alternate(
         rounds,
         [&] {
-            QByteArray json;
-            return timed([&] { json = SnapshotCodec::encode(workspace); });
+            char *to = json.data();
+            return timed([&] {
+                SnapshotCodec::encode(workspace,
+                                      [&](QByteArrayView piece) { to = std::ranges::copy(piece, to).out; });
+            });
         },
         [&] {
             std::optional<rapidjson::StringBuffer> json;
@@ -88,18 +93,85 @@ void saveBare(const Snapshot &workspace, const QByteArray &folder)
     ::close(directory);
 }
 
+/// Figures of the process in kilobytes, such as VmRSS.
+double processFigure(const QByteArray &name)
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly))
+        for (const QByteArray &line : status.readAll().split('\n'))
+            if (line.startsWith(name + ':'))
+                return line.sliced(name.size() + 1).simplified().split(' ').first().toDouble();
+    fail("the system tells nothing of its memory");
+    return 0;
+}
+
+/// From now on VmHWM is counted anew.
+void forgetPeak()
+{
+    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write("5") != 1)
+        fail("cannot forget the peak of memory");
+}
+
+template <typename Record>
+void touch(WorkspaceStore &store)
+{
+    const QList<Record> &records = store.list<Record>().all();
+    store.change<Record>(records.at(records.size() / 2).id,
+                         [](Record &record) { record.updatedDate += std::chrono::seconds(1); });
+}
+
+/// The longest that the main thread is busy with a save: with its start, its end, or a change of a record
+/// that the save is about to write.
+void benchBlocking(Comparison &comparison, const QString &size, int rounds, WorkspaceStore &store,
+                   qsizetype fileSize)
+{
+    QList<Comparison::Duration> longest;
+    double memory = 0;
+    // The first change of a list makes its index.
+    touch<TaskItem>(store), touch<Page>(store), touch<DBRow>(store);
+    store.saveNow();
+    for (int round = 0; round < rounds; ++round) {
+        const double before = processFigure("VmRSS");
+        forgetPeak();
+        touch<TaskItem>(store);
+        auto worst = timed([&] { store.saveSoon(); });
+        // What is changed now is still being written.
+        worst = std::max(worst, timed([&] { touch<DBRow>(store); }));
+        worst = std::max(worst, timed([&] { touch<TaskItem>(store); }));
+        worst = std::max(worst, timed([&] { touch<Page>(store); }));
+        for (int wait = 0; wait < 100; ++wait) {
+            QThread::msleep(10);
+            worst = std::max(worst, timed([] { QCoreApplication::processEvents(); }));
+        }
+        longest.append(worst);
+        memory = std::max(memory, processFigure("VmHWM") - before);
+        store.saveNow();
+    }
+    comparison.timeUnder(QStringLiteral("save %1, blocks the window").arg(size),
+                         Comparison::quantile(longest, 0.5), Comparison::quantile(longest, 1),
+                         std::chrono::milliseconds(4));
+    comparison.figureAtMost(QStringLiteral("save %1, further memory against the file").arg(size),
+                            QStringLiteral("MB"), memory / 1024, double(fileSize) / megabyte, 0.3);
+}
+
 void benchSave(Comparison &comparison, const QString &size, int rounds, const QString &path,
-               const Snapshot &workspace)
+               const Snapshot &workspace, qsizetype fileSize)
 {
     const SystemClock clock;
-    WorkspaceStore store({.filePath = path, .clock = &clock});
+    WorkspaceStore store({.filePath = path, .clock = &clock, .saveDelay = std::chrono::hours(1)});
     const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
     const auto times = Comparison::alternate(
-        rounds, [&] { return timed([&] { store.saveNow(); }); },
+        rounds,
+        [&] {
+            touch<TaskItem>(store);
+            return timed([&] { store.saveNow(); });
+        },
         [&] { return timed([&] { saveBare(workspace, folder); }); });
     comparison.timeAtMost(QStringLiteral("save %1, against bare system calls").arg(size),
                           Comparison::quantile(times.ours, 0.5), Comparison::quantile(times.baseline, 0.5),
                           1.5);
+    benchBlocking(comparison, size, std::min(rounds, 5), store, fileSize);
 }
 } // namespace
 
@@ -123,7 +195,7 @@ int main(int argc, char *argv[])
             fail("the workspace does not survive its own file");
         benchLoad(comparison, size, rounds, path, bytes);
         benchEncode(comparison, size, rounds, workspace);
-        benchSave(comparison, size, rounds, path, workspace);
+        benchSave(comparison, size, rounds, path, workspace, bytes.size());
     }
     return comparison.exitCode();
 }

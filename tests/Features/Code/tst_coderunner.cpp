@@ -258,7 +258,7 @@ private slots:
                 isIsolated ? stopped : killed, isIsolated ? Status::timedOut : Status::failure);
             row("a locked folder", u"mkdir -p a/b; echo > a/b/c; chmod 0 a/b/c a/b a ."_s,
                 u"Finished with no output."_s, Status::success);
-            row("a deep folder", u"p=$(printf 'd/%.0s' $(seq 1500)); mkdir -p $p; cd $p; chmod 0 . .."_s,
+            row("a deep folder", u"p=$(printf 'd/%.0s' $(seq 1500)); mkdir -p $p; cd $p; chmod 0 ."_s,
                 u"Finished with no output."_s, Status::success);
         }
     }

@@ -5,8 +5,10 @@
 #include "Support/OrvelNavigation.h"
 
 #include <QKeySequence>
+#include <QSet>
+#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

@@ -3,9 +3,13 @@
 #include "Harness/TestPackage.h"
 #include "Support/Updates/AppBundle.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 

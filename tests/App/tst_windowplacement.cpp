@@ -1,8 +1,10 @@
 #include "App/WindowPlacement.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

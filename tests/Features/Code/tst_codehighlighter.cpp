@@ -2,10 +2,11 @@
 #include "Features/Code/CodeSyntax.h"
 #include "RandomSource.h"
 
+#include <QCoreApplication>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
-#include <QtTest>
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 #include "Harness/RegexTokenizer.h"
 #include "RandomSource.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

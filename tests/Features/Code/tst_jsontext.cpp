@@ -1,7 +1,7 @@
 #include "Features/Code/JsonText.h"
 
 #include <QJsonDocument>
-#include <QtTest>
+#include <QTest>
 
 #include <random>
 #include <simdjson.h>

@@ -2,7 +2,11 @@
 #include "Features/Databases/DBValue.h"
 #include "Support/DatabaseTemplates.h"
 
-#include <QtTest>
+#include <QLocale>
+#include <QSet>
+#include <QTest>
+#include <QTimeZone>
+#include <QUuid>
 
 #include <algorithm>
 #include <memory>

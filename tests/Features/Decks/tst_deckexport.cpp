@@ -2,10 +2,13 @@
 #include "Features/Decks/DeckOutline.h"
 #include "SampleSlides.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

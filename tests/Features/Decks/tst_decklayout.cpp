@@ -1,7 +1,8 @@
 #include "Features/Decks/DeckLayout.h"
 #include "SampleSlides.h"
 
-#include <QtTest>
+#include <QFile>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -3,10 +3,13 @@
 #include "Features/Decks/SlidePainter.h"
 #include "SampleSlides.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QXmlStreamReader>
-#include <QtTest>
 
 using namespace Qt::StringLiterals;
 

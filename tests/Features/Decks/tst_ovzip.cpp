@@ -1,8 +1,11 @@
 #include "Features/Decks/OVZip.h"
 
+#include <QDateTime>
+#include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

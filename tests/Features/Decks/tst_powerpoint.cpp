@@ -4,11 +4,14 @@
 #include "Features/Decks/PowerPointWriter.h"
 #include "SampleSlides.h"
 
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include <QMap>
 #include <QSet>
+#include <QTest>
 #include <QXmlStreamReader>
 #include <QtEndian>
-#include <QtTest>
 
 #include <random>
 

@@ -6,7 +6,8 @@
 #include <QFontInfo>
 #include <QImage>
 #include <QPainter>
-#include <QtTest>
+#include <QSet>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "Store/StarterContent.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

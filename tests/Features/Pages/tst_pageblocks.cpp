@@ -1,7 +1,11 @@
 #include "Features/Pages/BlockRow.h"
 #include "Features/Pages/PageBlocks.h"
 
-#include <QtTest>
+#include <QHash>
+#include <QRandomGenerator>
+#include <QSet>
+#include <QTest>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 

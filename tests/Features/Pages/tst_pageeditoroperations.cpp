@@ -1,11 +1,15 @@
 #include "Features/Pages/PageEditorViewModel.h"
 #include "Harness/TestWorkspace.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
+#include <QSet>
+#include <QTest>
+#include <QUuid>
 
 #include <random>
 

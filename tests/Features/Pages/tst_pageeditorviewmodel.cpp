@@ -1,8 +1,13 @@
 #include "Features/Pages/PageEditorViewModel.h"
 #include "Harness/TestWorkspace.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
-#include <QtTest>
+#include <QCoreApplication>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,9 @@
 #include "Store/PageOperations.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
+#include <QTimeZone>
+#include <QUuid>
 
 class PageHeaderViewModelTest : public QObject
 {

@@ -4,11 +4,15 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
 #include <QUrlQuery>
-#include <QtTest>
+#include <QUuid>
 
 namespace
 {

@@ -3,7 +3,8 @@
 #include "Store/PageOperations.h"
 
 #include <QAbstractItemModelTester>
-#include <QtTest>
+#include <QTest>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "Features/Palette/ShortcutsViewModel.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

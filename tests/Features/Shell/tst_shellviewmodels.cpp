@@ -4,8 +4,11 @@
 #include "Features/Shell/ScreenTable.h"
 #include "Harness/TestWorkspace.h"
 
+#include <QCoreApplication>
 #include <QFile>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUuid>
 
 /// What stands around the detail pane, and what it shows.
 class ShellViewModelsTest : public QObject

@@ -4,8 +4,12 @@
 #include "Store/PageOperations.h"
 #include "Store/TaskOperations.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
-#include <QtTest>
+#include <QCoreApplication>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUuid>
 
 class SidebarViewModelTest : public QObject
 {

@@ -2,7 +2,9 @@
 #include "Harness/ManualClock.h"
 #include "Support/OVDate.h"
 
-#include <QtTest>
+#include <QDateTime>
+#include <QTest>
+#include <QTimeZone>
 
 using namespace std::chrono_literals;
 

@@ -89,27 +89,6 @@ FileIdentity::FileIdentity(const struct stat &status)
 {
 }
 
-FileDescriptor::FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1))
-{
-}
-
-FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
-{
-    std::swap(m_number, other.m_number);
-    return *this;
-}
-
-FileDescriptor::~FileDescriptor()
-{
-    if (isOpen())
-        ::close(m_number);
-}
-
-bool FileDescriptor::close()
-{
-    return ::close(std::exchange(m_number, -1)) == 0 || errno == EINTR;
-}
-
 std::expected<Path, FileError> AtomicFile::realPath(const QString &path)
 {
     static constexpr int longestChain = 40;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Foundation/FileDescriptor.h"
+
 #include <QByteArrayView>
 #include <QString>
 
@@ -30,24 +32,6 @@ struct FileIdentity {
     FileIdentity() = default;
     explicit FileIdentity(const struct stat &status);
     bool operator==(const FileIdentity &) const = default;
-};
-
-/// An open file of the system, closed at the end of its life.
-class FileDescriptor
-{
-public:
-    explicit FileDescriptor(int number = -1) : m_number(number) {}
-    FileDescriptor(FileDescriptor &&other) noexcept;
-    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
-    ~FileDescriptor();
-
-    bool isOpen() const { return m_number >= 0; }
-    int number() const { return m_number; }
-    /// Tells whether all went well. The descriptor is gone whatever the answer is.
-    bool close();
-
-private:
-    int m_number;
 };
 
 /// Replaces whole files durably: after a success the new bytes survive a power cut, after a failure or a

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Features/Code/FileDescriptor.h"
 #include "Features/Code/Interpreters.h"
 #include "Features/Code/RunControl.h"
+#include "Foundation/FileDescriptor.h"
 
 #include <QObject>
 #include <QThreadPool>

@@ -1,8 +1,8 @@
 #include "Features/Code/ProcessRun.h"
 
-#include "Features/Code/FileDescriptor.h"
 #include "Features/Code/OrphanReaper.h"
 #include "Features/Code/ProcessSupervisor.h"
+#include "Foundation/FileDescriptor.h"
 
 #include <QFile>
 

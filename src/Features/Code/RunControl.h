@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Features/Code/FileDescriptor.h"
+#include "Foundation/FileDescriptor.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "Features/Code/ScratchFolder.h"
 
-#include "Features/Code/FileDescriptor.h"
 #include "Features/Code/ProcessSupervisor.h"
+#include "Foundation/FileDescriptor.h"
 
 #include <QDir>
 #include <QFile>

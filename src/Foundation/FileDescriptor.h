@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
-
+#include <cerrno>
 #include <unistd.h>
 #include <utility>
 
@@ -9,8 +8,7 @@
 class FileDescriptor
 {
 public:
-    FileDescriptor() = default;
-    explicit FileDescriptor(int number) : m_number(number) {}
+    explicit FileDescriptor(int number = -1) : m_number(number) {}
     FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
     FileDescriptor &operator=(FileDescriptor &&other) noexcept
     {
@@ -21,12 +19,9 @@ public:
 
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
-    void close()
-    {
-        if (isOpen())
-            ::close(std::exchange(m_number, -1));
-    }
+    /// Tells whether all went well. The descriptor is gone whatever the answer is.
+    bool close() { return !isOpen() || ::close(std::exchange(m_number, -1)) == 0 || errno == EINTR; }
 
 private:
-    int m_number = -1;
+    int m_number;
 };

@@ -13,6 +13,11 @@ OVMenu {
     signal undoRequested()
     signal redoRequested()
 
+    /// What the menu's entry does, for a field that pastes in its own way.
+    function paste() {
+        target.paste()
+    }
+
     OVMenuItem {
         text: qsTr("Undo")
         symbol: "arrow.uturn.backward"
@@ -52,7 +57,7 @@ OVMenu {
         symbol: "doc.on.clipboard"
         shortcutText: qsTr("Ctrl V")
         enabled: menu.target.canPaste && !menu.target.readOnly
-        onTriggered: menu.target.paste()
+        onTriggered: menu.paste()
     }
 
     OVMenuSeparator { }

@@ -25,4 +25,14 @@ QString shown(QStringView text, qsizetype maxLength = maxShownLength);
 
 /// The same for a title, with "Untitled" in place of one that is blank.
 QString shownTitle(QStringView title);
+
+/// The text with a line feed for every line break, wherever it was pasted from.
+inline QString withLineFeeds(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (QChar &character : text)
+        if (character == u'\r' || character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
+            character = u'\n';
+    return text;
+}
 } // namespace LineText

@@ -1,34 +1,44 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// What a row shows at its left under the pointer: a button for a new block below, and the handle that opens
-/// the block's menu.
+/// What a row shows at its left under the pointer: a button for a new block below, and the grip, which drags the
+/// block and opens its menu.
 Row {
     id: root
 
     signal insertRequested()
     signal menuRequested(from: Item)
+    /// The grip is dragged to this height in the window.
+    signal dragged(sceneY: real)
+    signal dropped()
 
-    OVIconButton {
+    component Tool: OVIconButton {
         tabStop: false
         iconSize: Theme.iconRow
         implicitHeight: Theme.space24
         implicitWidth: Theme.space24
         radius: Theme.cornerMark
+    }
+
+    Tool {
         symbol: "plus"
         text: qsTr("Add a block below")
         onClicked: root.insertRequested()
     }
 
-    OVIconButton {
-        id: handle
-        tabStop: false
-        iconSize: Theme.iconRow
-        implicitHeight: Theme.space24
-        implicitWidth: Theme.space24
-        radius: Theme.cornerMark
+    Tool {
+        id: grip
         symbol: "line.3.horizontal"
         text: qsTr("Block menu")
-        onClicked: root.menuRequested(handle)
+        onClicked: root.menuRequested(grip)
+
+        DragHandler {
+            id: drag
+            cursorShape: Qt.ClosedHandCursor
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
+            target: null
+            onActiveChanged: if (!active) root.dropped()
+            onCentroidChanged: if (active) root.dragged(centroid.scenePosition.y)
+        }
     }
 }

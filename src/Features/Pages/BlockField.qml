@@ -20,21 +20,8 @@ TextEdit {
     property int gapAbove: Theme.space4
     property int gapBelow: Theme.space4
 
-    /// Whether Up or Down would leave the text.
-    function isOnOuterLine(direction: int): bool {
-        const outer = positionToRectangle(direction < 0 ? 0 : length)
-        const caret = cursorRectangle
-        return direction < 0 ? caret.y < outer.y + outer.height / 2 : caret.y + caret.height / 2 > outer.y
-    }
-
-    /// Puts the caret on the first or last line, as near to this place across as can be.
-    function enter(direction: int, column: real) {
-        const line = positionToRectangle(direction > 0 ? 0 : length)
-        cursorPosition = positionAt(column, line.y + line.height / 2)
-        forceActiveFocus(Qt.OtherFocusReason)
-    }
-
-    bottomPadding: gapBelow + lead - extraHeight
+    // A TextEdit without text is as high as its font, without any distance between lines.
+    bottomPadding: gapBelow + lead - (length > 0 ? extraHeight : Math.ceil(metrics.height) - Math.ceil(metrics.lineSpacing))
     color: Theme.ovInk
     font.family: Theme.fontFamily
     font.pixelSize: Theme.sizeReading
@@ -49,10 +36,6 @@ TextEdit {
     Accessible.role: Accessible.EditableText
 
     cursorDelegate: OVCaret { }
-    onActiveFocusChanged: {
-        if (activeFocus)
-            editor.blockFocused(blockID)
-    }
 
     FieldText {
         id: content
@@ -90,7 +73,14 @@ TextEdit {
         // A Loader of this Qt version cannot make a bound component.
         // qmllint disable unqualified
         menu: Component {
-            OVTextMenu { target: field }
+            OVTextMenu {
+                target: field
+
+                function paste() {
+                    if (!field.editor.pasteLong(field.blockID, field.selectionStart, field.selectionEnd))
+                        field.paste()
+                }
+            }
         }
         // qmllint enable unqualified
     }

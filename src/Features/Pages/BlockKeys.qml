@@ -14,16 +14,20 @@ QtObject {
     /// Keys leave the block upwards (-1) or downwards (1).
     signal departed(direction: int)
     signal tabbed(forward: bool)
+    /// Goes to the first or the last block, as the key says.
     signal jumped(key: int)
+    /// Goes on by the height of the view, upwards (-1) or downwards (1).
+    signal pageTurned(direction: int)
     signal menuRequested()
 
     function handle(event: KeyEvent) {
         const control = (event.modifiers & Qt.ControlModifier) !== 0
         const shift = (event.modifiers & Qt.ShiftModifier) !== 0
-        if (event.key !== Qt.Key_Up && event.key !== Qt.Key_Down)
+        if (![Qt.Key_Up, Qt.Key_Down, Qt.Key_PageUp, Qt.Key_PageDown].includes(event.key))
             caret.column = -1
+        caret.typing = true
         event.accepted = !(event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
-                && (actOnBlock(event.key, control, shift)
+                && (event.matches(StandardKey.Paste) ? paste() : actOnBlock(event.key, control, shift)
                     || (!part.hasOwnKeys && actOnText(event.key, control, shift)))
     }
 
@@ -36,6 +40,12 @@ QtObject {
             tabbed(forward)
     }
 
+    /// Takes a text that is too long for the field to paste it.
+    function paste(): bool {
+        const field = part.input
+        return field?.activeFocus === true && editor.pasteLong(blockID, field.selectionStart, field.selectionEnd)
+    }
+
     /// Does what a key means for any block; false for any other.
     function actOnBlock(key: int, control: bool, shift: bool): bool {
         switch (key) {
@@ -44,6 +54,14 @@ QtObject {
             if (control && shift)
                 editor.moveBlock(blockID, key === Qt.Key_Up ? -1 : 1)
             return control && shift
+        case Qt.Key_PageUp:
+        case Qt.Key_PageDown: {
+            const direction = key === Qt.Key_PageUp ? -1 : 1
+            if (control || shift || !part.leavesByPage(direction))
+                return false
+            pageTurned(direction)
+            return true
+        }
         case Qt.Key_Tab:
         case Qt.Key_Backtab:
             if (control)
@@ -77,11 +95,6 @@ QtObject {
             departed(direction)
             return true
         }
-        case Qt.Key_PageUp:
-        case Qt.Key_PageDown:
-            if (!shift)
-                jumped(key)
-            return !shift
         case Qt.Key_Tab:
             tab(!shift)
             return true

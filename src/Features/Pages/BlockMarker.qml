@@ -12,6 +12,8 @@ Item {
     required property string label
     required property string marker
     required property string numberText
+    /// As wide as any number of the list.
+    required property string widestNumber
     required property bool isChecked
     required property int tone
     required property string toneSymbol
@@ -43,11 +45,24 @@ Item {
 
     Component {
         id: number
-        OVText {
-            color: Theme.ovInkSecondary
-            font.pixelSize: Theme.sizeReading
-            leftPadding: Theme.space4
-            text: root.numberText
+        Item {
+            implicitWidth: Theme.space4 + Math.ceil(widest.advanceWidth)
+
+            TextMetrics {
+                id: widest
+                font: shown.font
+                text: root.widestNumber
+            }
+
+            OVText {
+                id: shown
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.space8
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.ovInkSecondary
+                font.pixelSize: Theme.sizeReading
+                text: root.numberText
+            }
         }
     }
 

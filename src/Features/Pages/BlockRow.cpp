@@ -1,15 +1,27 @@
 #include "Features/Pages/BlockRow.h"
 
-#include "Features/Pages/PageBlocks.h"
+#include <QLocale>
 
-QList<BlockRow> BlockRow::ofBlocks(const QList<Block> &blocks)
+QList<BlockRow> BlockRow::ofBlocks(const QList<Block> &blocks, const ShownParts &parts)
 {
-    const QList<int> numbers = PageBlocks::numbers(blocks);
-    QList<BlockRow> rows;
-    rows.reserve(blocks.size());
-    for (qsizetype i = 0; i < blocks.size(); ++i)
-        rows.append({blocks[i].id, blocks[i], numbers[i], i == 0, i == blocks.size() - 1});
+    const QList<PageBlocks::Number> numbers = PageBlocks::numbers(blocks);
+    QList<BlockRow> rows(blocks.size());
+    for (qsizetype i = 0; i < blocks.size(); ++i) {
+        rows[i].setBlock(blocks[i], parts);
+        rows[i].number = numbers[i];
+        rows[i].isFirst = i == 0;
+        rows[i].isLast = i == blocks.size() - 1;
+    }
     return rows;
+}
+
+void BlockRow::setBlock(const Block &next, const ShownParts &parts)
+{
+    id = next.id;
+    block = next;
+    part = parts.of(next);
+    text = next.type == BlockType::divider ? QString() : part.in(next.text);
+    codeLines = next.type == BlockType::code ? PageBlocks::codeLineCount(next.text) : 0;
 }
 
 QString BlockRow::body() const
@@ -24,9 +36,14 @@ QString BlockRow::body() const
     }
 }
 
-QString BlockRow::text() const
+QString BlockRow::partText() const
 {
-    return block.type == BlockType::divider ? QString() : block.text;
+    if (text.size() == block.text.size() || block.type == BlockType::divider)
+        return {};
+    const QLocale english(QLocale::English);
+    return QObject::tr("Characters %1–%2 of %3")
+        .arg(english.toString(part.begin + 1), english.toString(part.end),
+             english.toString(block.text.size()));
 }
 
 QString BlockRow::placeholder() const
@@ -78,16 +95,20 @@ QString BlockRow::marker() const
 
 QString BlockRow::numberText() const
 {
-    return number > 0 ? QStringLiteral("%1.").arg(number) : QString();
+    return number.number > 0 ? QStringLiteral("%1.").arg(number.number) : QString();
+}
+
+QString BlockRow::widestNumber() const
+{
+    return number.number > 0 ? QString(QString::number(number.count).size(), u'0') + u'.' : QString();
 }
 
 QString BlockRow::lineCountText() const
 {
-    return block.type == BlockType::code ? QObject::tr("%1 lines").arg(PageBlocks::codeLineCount(block.text))
-                                         : QString();
+    return block.type == BlockType::code ? QObject::tr("%1 lines").arg(codeLines) : QString();
 }
 
 int BlockRow::codeHeight() const
 {
-    return block.type == BlockType::code ? PageBlocks::codeEditorHeight(block.text) : 0;
+    return block.type == BlockType::code ? PageBlocks::codeEditorHeight(codeLines) : 0;
 }

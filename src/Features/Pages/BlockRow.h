@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Models/Block.h"
+#include "Features/Pages/PageBlocks.h"
+#include "Features/Pages/ShownParts.h"
 
-#include <QList>
 #include <QObject>
 
 /// A block of a page as its row shows it. Positions stand for the cases of the tables of type and tone, in
@@ -14,7 +14,10 @@ struct BlockRow {
     Q_PROPERTY(QString typeLabel READ typeLabel FINAL)
     /// Which body shows the block: "text", "code" or "divider".
     Q_PROPERTY(QString body READ body FINAL)
-    Q_PROPERTY(QString blockText READ text FINAL)
+    /// The text as far as it is shown.
+    Q_PROPERTY(QString blockText MEMBER text FINAL)
+    /// "Characters 1–16,000 of 5,242,880" if that is not the whole text, else empty.
+    Q_PROPERTY(QString partText READ partText FINAL)
     Q_PROPERTY(QString placeholder READ placeholder FINAL)
     /// 1 to 3 for a heading, else 0.
     Q_PROPERTY(int headingLevel READ headingLevel FINAL)
@@ -22,6 +25,8 @@ struct BlockRow {
     Q_PROPERTY(QString marker READ marker FINAL)
     /// "3." for a numbered block, else empty.
     Q_PROPERTY(QString numberText READ numberText FINAL)
+    /// As wide as any number of the list.
+    Q_PROPERTY(QString widestNumber READ widestNumber FINAL)
     Q_PROPERTY(bool isChecked READ isChecked FINAL)
     Q_PROPERTY(int tone READ tone FINAL)
     Q_PROPERTY(QString toneSymbol READ toneSymbol FINAL)
@@ -37,23 +42,29 @@ struct BlockRow {
 public:
     QUuid id;
     Block block;
-    int number = 0;
+    PageBlocks::Number number;
     bool isFirst = false;
     bool isLast = false;
+    ShownParts::Part part;
+    /// Of a divider there is none to show.
+    QString text;
+    /// Of a code block.
+    int codeLines = 0;
 
     bool operator==(const BlockRow &) const = default;
 
-    static QList<BlockRow> ofBlocks(const QList<Block> &blocks);
+    static QList<BlockRow> ofBlocks(const QList<Block> &blocks, const ShownParts &parts);
+    void setBlock(const Block &next, const ShownParts &parts);
 
     int typeIndex() const { return int(block.type); }
     QString typeLabel() const { return enumLabel(block.type); }
     QString body() const;
-    /// Of a divider there is none to show.
-    QString text() const;
+    QString partText() const;
     QString placeholder() const;
     int headingLevel() const;
     QString marker() const;
     QString numberText() const;
+    QString widestNumber() const;
     bool isChecked() const { return block.type == BlockType::checklist && block.checked; }
     int tone() const { return int(block.tone); }
     QString toneSymbol() const { return enumSymbol(block.tone); }

@@ -15,32 +15,37 @@ ScreenListRow {
     required property int headingLevel
     required property string marker
     required property string numberText
+    required property string widestNumber
     required property bool isChecked
     required property int tone
     required property string toneSymbol
     required property string language
+    required property string partText
     required property string lineCountText
     required property int codeHeight
     required property bool canMoveUp
     required property bool canMoveDown
     required property PageEditorViewModel editor
     required property BlockCaret caret
-    /// Whether the menu of this block is open.
-    property bool menuShown: false
+    /// Whether the block is dragged or its menu is open.
+    property bool isHeld: false
 
     /// Where the caret last stood in the text, for another body that takes it over.
     property int caretPosition: 0
 
     readonly property BlockBody part: loader.item as BlockBody
-    readonly property bool chromeShown: pointer.hovered || activeFocus || menuShown
+    readonly property bool chromeShown: isHeld || (pointer.hovered && !caret.typing)
 
     /// Keys leave the block upwards (-1) or downwards (1).
     signal departed(direction: int)
     signal tabbed(forward: bool)
     signal jumped(key: int)
-    signal caretMoved(field: Item, caret: rect)
+    signal pageTurned(direction: int)
+    signal caretMoved()
     signal menuRequested(from: Item)
     signal toneMenuRequested(from: Item)
+    signal dragged(sceneY: real)
+    signal dropped()
 
     function leaveBackwards(): bool {
         if (!part.hasOwnKeys)
@@ -49,7 +54,7 @@ ScreenListRow {
     }
 
     fadesIn: false
-    onCaretMoved: field => caretPosition = (field as TextEdit)?.cursorPosition ?? caretPosition
+    onCaretMoved: caretPosition = part.input?.cursorPosition ?? caretPosition
     rowHeight: Math.ceil(loader.height)
     Accessible.name: typeLabel
     Accessible.role: Accessible.ListItem
@@ -65,6 +70,7 @@ ScreenListRow {
         onDeparted: direction => row.departed(direction)
         onJumped: key => row.jumped(key)
         onMenuRequested: row.menuRequested(row)
+        onPageTurned: direction => row.pageTurned(direction)
         onTabbed: forward => row.tabbed(forward)
     }
 
@@ -87,6 +93,8 @@ ScreenListRow {
         // qmllint disable unqualified
         sourceComponent: BlockChrome {
             onInsertRequested: row.editor.insertBlock(row.blockID)
+            onDragged: sceneY => row.dragged(sceneY)
+            onDropped: row.dropped()
             onMenuRequested: from => row.menuRequested(from)
         }
         // qmllint enable unqualified
@@ -104,11 +112,13 @@ ScreenListRow {
             label: row.typeLabel
             marker: row.marker
             numberText: row.numberText
+            partText: row.partText
             placeholder: row.placeholder
             storedText: row.blockText
             tone: row.tone
             toneSymbol: row.toneSymbol
-            onCaretMoved: (field, caret) => row.caretMoved(field, caret)
+            widestNumber: row.widestNumber
+            onCaretMoved: row.caretMoved()
             onToneMenuRequested: from => row.toneMenuRequested(from)
         }
     }
@@ -119,7 +129,7 @@ ScreenListRow {
             blockID: row.blockID
             editor: row.editor
             keyTarget: row
-            onCaretMoved: (field, caret) => row.caretMoved(field, caret)
+            onCaretMoved: row.caretMoved()
         }
     }
 
@@ -132,9 +142,10 @@ ScreenListRow {
             keyTarget: row
             language: row.language
             lineCountText: row.lineCountText
+            partText: row.partText
             placeholder: row.placeholder
             storedText: row.blockText
-            onCaretMoved: (field, caret) => row.caretMoved(field, caret)
+            onCaretMoved: row.caretMoved()
             onDeparted: direction => row.departed(direction)
         }
     }

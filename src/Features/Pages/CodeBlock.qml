@@ -12,6 +12,7 @@ BlockBody {
     required property string language
     required property string lineCountText
     required property int codeHeight
+    required property string partText
     readonly property CodeRun run: editor.codeRun(blockID)
 
     /// An arrow key leads out of the text, upwards (-1) or downwards (1).
@@ -21,34 +22,15 @@ BlockBody {
         return bar.stops().concat([code], result.active ? (result.item as CodeConsole).stops() : [])
     }
 
-    function columnIn(item: Item): real {
-        return code.input.mapToItem(item, code.input.cursorRectangle.x, 0).x
-    }
-
-    function enter(direction: int, item: Item, column: real) {
-        const text = code.input
-        const line = text.positionToRectangle(direction > 0 ? 0 : text.length)
-        text.cursorPosition = text.positionAt(text.mapFromItem(item, column, 0).x, line.y + line.height / 2)
-        code.forceFocus()
-    }
-
-    function placeCaret(caret: int) {
-        code.input.cursorPosition = Math.min(caret, code.input.length)
-    }
-
-    function focusAt(caret: int) {
-        if (caret >= 0)
-            placeCaret(caret)
-        code.forceFocus()
-    }
-
-    function focusAtEnd() {
-        focusAt(code.input.length)
+    function leavesByPage(direction: int): bool {
+        const view = code.flickable
+        return !hasOwnKeys || (direction < 0 ? view.contentY <= 0 : view.contentY >= view.contentHeight - view.height - 1)
     }
 
     firstLineCenter: card.y + bar.height / 2
     hasOwnKeys: code.activeFocus
     implicitHeight: card.height + 2 * Theme.space8
+    input: code.input
 
     Keys.onPressed: event => {
         if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && event.modifiers === Qt.ControlModifier) {
@@ -87,7 +69,8 @@ BlockBody {
                 id: code
                 accessibleName: root.placeholder
                 focus: true
-                height: Math.round(root.codeHeight * Theme.fontScale)
+                // Lines that wrap get room as well, up to the height of the longest text.
+                height: Math.max(scaled(root.codeHeight), Math.min(Math.ceil(fullHeight), scaled(root.editor.maxCodeHeight)))
                 keyTarget: root.keyTarget
                 language: root.language
                 placeholder: root.placeholder
@@ -95,23 +78,21 @@ BlockBody {
                 text: root.storedText
                 verticalPadding: Theme.space16
                 width: parent.width
-                onActiveFocusChanged: {
-                    if (activeFocus)
-                        root.editor.blockFocused(root.blockID)
-                    else
-                        root.editor.blockLeft(root.blockID)
-                }
                 onEdited: text => root.editor.setText(root.blockID, text)
                 onLeftDown: root.departed(1)
                 onLeftUp: root.departed(-1)
 
-                Connections {
-                    target: code.input
-                    function onCursorRectangleChanged() {
-                        if (code.activeFocus && root.isReady)
-                            root.caretMoved(code.input, code.input.cursorRectangle)
-                    }
+                function scaled(height: int): int {
+                    return Math.round(height * Theme.fontScale)
                 }
+            }
+
+            BlockPart {
+                editor: root.editor
+                blockID: root.blockID
+                leftPadding: Theme.space12
+                text: root.partText
+                width: parent.width
             }
 
             Loader {

@@ -11,14 +11,7 @@ BlockBody {
     Accessible.name: qsTr("Divider")
     Accessible.role: Accessible.Separator
     Keys.forwardTo: [root.keyTarget]
-    onActiveFocusChanged: {
-        if (!activeFocus) {
-            root.editor.blockLeft(root.blockID)
-            return
-        }
-        root.editor.blockFocused(root.blockID)
-        root.caretMoved(root, Qt.rect(0, 0, width, height))
-    }
+    onActiveFocusChanged: tellFocus(activeFocus)
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter

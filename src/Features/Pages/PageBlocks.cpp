@@ -4,57 +4,24 @@
 
 namespace PageBlocks
 {
-namespace
-{
-constexpr int linesBeforeScrolling = 16;
-constexpr int codeLineHeight = 20;
-constexpr int codeFrameHeight = 38;
-
-/// The part of a text that an edit has put in.
-struct Edit {
-    qsizetype begin;
-    qsizetype end;
-};
-
-Edit insertedPart(const QString &before, const QString &after)
-{
-    const qsizetype shorter = std::min(before.size(), after.size());
-    qsizetype begin = 0;
-    while (begin < shorter && before[begin] == after[begin])
-        ++begin;
-    qsizetype tail = 0;
-    while (tail < shorter - begin && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
-        ++tail;
-    return {begin, after.size() - tail};
-}
-} // namespace
-
 qsizetype indexOf(const QList<Block> &blocks, const QUuid &id)
 {
     const auto found = std::ranges::find(blocks, id, &Block::id);
     return found == blocks.end() ? -1 : found - blocks.begin();
 }
 
-QList<int> numbers(const QList<Block> &blocks)
+QList<Number> numbers(const QList<Block> &blocks)
 {
-    QList<int> numbers;
-    numbers.reserve(blocks.size());
+    QList<Number> numbers(blocks.size());
     int last = 0;
-    for (const Block &block : blocks) {
-        last = block.type == BlockType::numbered ? last + 1 : 0;
-        numbers.append(last);
+    for (qsizetype i = 0; i < blocks.size(); ++i) {
+        last = blocks[i].type == BlockType::numbered ? last + 1 : 0;
+        numbers[i].number = last;
     }
+    for (qsizetype i = blocks.size() - 1; i >= 0; --i)
+        if (numbers[i].number > 0)
+            numbers[i].count = std::max(numbers[i].number, i + 1 < blocks.size() ? numbers[i + 1].count : 0);
     return numbers;
-}
-
-std::optional<int> numberLabel(qsizetype index, const QList<Block> &blocks)
-{
-    if (index < 0 || index >= blocks.size() || blocks[index].type != BlockType::numbered)
-        return std::nullopt;
-    int count = 0;
-    for (qsizetype i = index; i >= 0 && blocks[i].type == BlockType::numbered; --i)
-        ++count;
-    return count;
 }
 
 QList<BlockType> slashMatches(const QString &text)
@@ -79,9 +46,9 @@ int codeLineCount(const QString &text)
     return int(text.count(u'\n')) + 1;
 }
 
-int codeEditorHeight(const QString &text)
+int codeEditorHeight(int lines)
 {
-    return codeFrameHeight + codeLineHeight * std::min(codeLineCount(text), linesBeforeScrolling);
+    return std::min(38 + 20 * lines, maxCodeEditorHeight);
 }
 
 bool insertAfter(QList<Block> &blocks, const QUuid &id, const Block &block)
@@ -118,7 +85,7 @@ void move(QList<Block> &blocks, const QUuid &id, int delta)
     const qsizetype index = indexOf(blocks, id);
     const qsizetype target = index + delta;
     if (index >= 0 && target >= 0 && target < blocks.size())
-        blocks.swapItemsAt(index, target);
+        blocks.move(index, target);
 }
 
 void changeType(Block &block, BlockType type)
@@ -127,16 +94,27 @@ void changeType(Block &block, BlockType type)
     block.checked = block.checked && type == BlockType::checklist;
 }
 
-std::optional<Lines> brokenLines(const QString &before, const QString &after)
+TextEdit editBetween(const QString &before, const QString &after)
 {
-    const Edit edit = insertedPart(before, after);
-    QStringList lines = after.sliced(edit.begin, edit.end - edit.begin).split(u'\n');
+    const qsizetype shorter = std::min(before.size(), after.size());
+    qsizetype begin = 0;
+    while (begin < shorter && before[begin] == after[begin])
+        ++begin;
+    qsizetype tail = 0;
+    while (tail < shorter - begin && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
+        ++tail;
+    return {begin, before.size() - tail, after.sliced(begin, after.size() - tail - begin)};
+}
+
+std::optional<Lines> brokenLines(const QString &before, const TextEdit &edit)
+{
+    QStringList lines = edit.inserted.split(u'\n');
     if (lines.size() == 1)
         return std::nullopt;
-    const QString tail = after.sliced(edit.end);
+    const QString tail = before.sliced(edit.end);
     if (lines.last().isEmpty() && tail.isEmpty())
         lines.removeLast();
-    const QString first = after.first(edit.begin) + lines.takeFirst();
+    const QString first = before.first(edit.begin) + lines.takeFirst();
     if (lines.isEmpty())
         return Lines{first, {}};
     const qsizetype caret = lines.last().size();

@@ -15,7 +15,7 @@ FocusScope {
     /// A page that nobody has named yet is waiting for its name.
     readonly property bool wantsKeyboard: (list.above as PageHeader).isUnnamed
 
-    // A page that has its name keeps its words safe from keys meant for something else.
+    // A page that has its name takes the keys that lead into it; no other key changes it before.
     Component.onCompleted: list.focus = wantsKeyboard
 
     Accessible.name: title
@@ -34,10 +34,10 @@ FocusScope {
         anchors.fill: parent
         focus: true
 
-        Keys.onDownPressed: event => {
+        Keys.onPressed: event => {
             event.accepted = Window.activeFocusItem === place
             if (event.accepted)
-                list.focusFirst()
+                list.enterByKey(event)
         }
     }
 

@@ -1,7 +1,7 @@
 #include "Features/Pages/PageEditorViewModel.h"
 
-#include "Features/Pages/PageBlocks.h"
 #include "Foundation/EnumChoices.h"
+#include "Foundation/LineText.h"
 #include "Models/CodeLanguage.h"
 
 #include <QClipboard>
@@ -148,26 +148,47 @@ void PageEditorViewModel::dismissSlash()
 QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text)
 {
     const Block *const before = block(blockID);
-    if (!before || before->text == text)
+    if (!before)
         return text;
-    const auto lines =
-        before->type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before->text, text);
-    if (!lines) {
-        changeBlock(blockID, [&](Block &block) { block.text = text; });
+    const ShownParts::Part part = m_parts.of(*before);
+    PageBlocks::TextEdit edit = PageBlocks::editBetween(part.in(before->text), text);
+    if (edit.begin == edit.end && edit.inserted.isEmpty())
         return text;
-    }
-    QUuid last = blockID;
-    changeList([&](Page &page) {
-        qsizetype index = PageBlocks::indexOf(page.content, blockID);
-        page.content[index].text = lines->first;
-        for (const QString &line : lines->rest) {
-            page.content.insert(++index, freshBlock(line));
-            last = page.content[index].id;
-        }
-    });
-    if (last != blockID)
-        requestFocus(last, int(lines->caret));
-    return lines->first;
+    edit.begin += part.begin;
+    edit.end += part.begin;
+    const Place caret = editText(*before, edit);
+    if (caret.blockID != blockID)
+        requestFocus(caret.blockID, caret.position);
+    const Block *const after = block(blockID);
+    return after ? m_parts.of(*after).in(after->text) : text;
+}
+
+bool PageEditorViewModel::pasteLong(const QUuid &blockID, int selectionStart, int selectionEnd)
+{
+    const Block *const target = block(blockID);
+    const QString pasted = LineText::withLineFeeds(QGuiApplication::clipboard()->text());
+    if (!target || pasted.size() <= ShownParts::maxTextLength)
+        return false;
+    const qsizetype begin = m_parts.of(*target).begin;
+    const Place caret = editText(*target, {begin + selectionStart, begin + selectionEnd, pasted});
+    requestFocus(caret.blockID, caret.position);
+    return true;
+}
+
+bool PageEditorViewModel::hasPart(const QUuid &blockID, int direction) const
+{
+    const Block *const found = block(blockID);
+    return found && ShownParts(m_parts).step(*found, direction);
+}
+
+bool PageEditorViewModel::showPart(const QUuid &blockID, int direction)
+{
+    const Block *const found = block(blockID);
+    if (!found || !m_parts.step(*found, direction))
+        return false;
+    const ShownParts::Part part = m_parts.of(*found);
+    requestFocus(blockID, direction > 0 ? part.begin : part.end);
+    return true;
 }
 
 void PageEditorViewModel::toggleChecked(const QUuid &blockID)
@@ -228,6 +249,8 @@ void PageEditorViewModel::refresh()
         m_title = shown->title;
         emit titleChanged();
     }
+    if (const Block *const wanted = block(m_wantedFocus); wanted && m_wantedCaret >= 0)
+        m_parts.show(*wanted, m_wantedCaret);
     showBlocks(shown->content);
     showSlashMenu();
     giveFocus();
@@ -238,10 +261,10 @@ void PageEditorViewModel::showBlocks(const QList<Block> &blocks)
     const auto sameList = [](const Block &a, const Block &b) { return a.id == b.id && a.type == b.type; };
     if (std::ranges::equal(m_blocks, blocks, sameList)) {
         for (qsizetype i = 0; i < blocks.size(); ++i)
-            if (m_blocks[i] != blocks[i])
-                m_rows.changeRow(blocks[i].id, [&](BlockRow &row) { row.block = blocks[i]; });
+            if (m_blocks[i] != blocks[i] || blocks[i].id == m_wantedFocus)
+                m_rows.changeRow(blocks[i].id, [&](BlockRow &row) { row.setBlock(blocks[i], m_parts); });
     } else {
-        m_rows.setRows(BlockRow::ofBlocks(blocks));
+        m_rows.setRows(BlockRow::ofBlocks(blocks, m_parts));
     }
     m_blocks = blocks;
     dropRuns();
@@ -273,7 +296,7 @@ void PageEditorViewModel::showSlashMenu()
     emit slashTypesChanged();
 }
 
-void PageEditorViewModel::requestFocus(const QUuid &blockID, int caret)
+void PageEditorViewModel::requestFocus(const QUuid &blockID, qsizetype caret)
 {
     m_wantedFocus = blockID;
     m_wantedCaret = caret;
@@ -285,7 +308,8 @@ void PageEditorViewModel::giveFocus()
 {
     const auto row = std::ranges::find(m_rows.rows(), std::exchange(m_wantedFocus, {}), &BlockRow::id);
     if (row != m_rows.rows().end())
-        emit focusRequested(int(row - m_rows.rows().begin()), m_wantedCaret);
+        emit focusRequested(int(row - m_rows.rows().begin()),
+                            int(m_wantedCaret < 0 ? -1 : m_wantedCaret - row->part.begin));
 }
 
 const Page *PageEditorViewModel::page() const
@@ -326,4 +350,31 @@ void PageEditorViewModel::changeBlock(const QUuid &blockID, Edit edit)
         if (index >= 0)
             edit(page.content[index]);
     });
+}
+
+PageEditorViewModel::Place PageEditorViewModel::editText(const Block before, const PageBlocks::TextEdit &edit)
+{
+    const ShownParts::Part part = m_parts.of(before);
+    auto lines = before.type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before.text, edit);
+    Place caret{before.id, edit.begin + edit.inserted.size()};
+    const auto write = [&](Block &block) {
+        block.text = lines ? lines->first
+                           : QString(before.text).replace(edit.begin, edit.end - edit.begin, edit.inserted);
+        const qsizetype behind = lines ? 0 : before.text.size() - part.end;
+        m_parts.keep(block, {part.begin, block.text.size() - behind});
+        caret.position = std::min(caret.position, block.text.size());
+    };
+    if (!lines || lines->rest.isEmpty()) {
+        changeBlock(before.id, write);
+        return caret;
+    }
+    changeList([&](Page &page) {
+        qsizetype index = PageBlocks::indexOf(page.content, before.id);
+        write(page.content[index]);
+        page.content.insert(index + 1, lines->rest.size(), Block());
+        for (const QString &line : lines->rest)
+            page.content[++index] = freshBlock(line);
+        caret = {page.content[index].id, lines->caret};
+    });
+    return caret;
 }

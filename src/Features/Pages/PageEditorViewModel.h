@@ -25,6 +25,9 @@ class PageEditorViewModel : public QObject
     /// The types that the slash menu offers below the focused block; empty while it is closed.
     Q_PROPERTY(QList<int> slashTypes READ slashTypes NOTIFY slashTypesChanged FINAL)
 
+    /// Before any scaling.
+    Q_PROPERTY(int maxCodeHeight READ maxCodeHeight CONSTANT FINAL)
+
     Q_PROPERTY(QList<QString> typeLabels READ typeLabels CONSTANT FINAL)
     Q_PROPERTY(QList<QString> typeSymbols READ typeSymbols CONSTANT FINAL)
     Q_PROPERTY(QList<QString> toneLabels READ toneLabels CONSTANT FINAL)
@@ -41,6 +44,7 @@ public:
     QAbstractItemModel *rows() { return &m_rows; }
     const QList<int> &slashTypes() const { return m_slashTypes; }
 
+    static int maxCodeHeight() { return PageBlocks::maxCodeEditorHeight; }
     static QStringList typeLabels();
     static QStringList typeSymbols();
     static QStringList toneLabels();
@@ -59,7 +63,7 @@ public:
     Q_INVOKABLE void duplicateBlock(const QUuid &blockID);
     /// A page is never left without a block. If the block had the focus, its neighbour gets it.
     Q_INVOKABLE void deleteBlock(const QUuid &blockID);
-    /// @param delta -1 for up, 1 for down; beyond either end the block stays
+    /// Moves the block by as many places, downwards if positive; beyond either end it stays.
     Q_INVOKABLE void moveBlock(const QUuid &blockID, int delta);
     /// Keeps the text and focuses the block.
     Q_INVOKABLE void changeType(const QUuid &blockID, int type);
@@ -68,9 +72,16 @@ public:
     /// Closes the slash menu until the text changes.
     Q_INVOKABLE void dismissSlash();
 
-    /// Writes the text of a block. Lines that the edit brings into a block of one line become blocks of their
-    /// own, the last of which gets the focus. Returns what the block holds then.
+    /// Writes the text of a block as far as it is shown. Lines that the edit brings into a block of one line
+    /// become blocks of their own, the last of which gets the focus. Returns what the block shows then.
     Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text);
+    /// Puts the clipboard in the place of the selection, if a field should not have to lay out so much text;
+    /// else it does nothing and returns false. The positions count in what is shown.
+    Q_INVOKABLE bool pasteLong(const QUuid &blockID, int selectionStart, int selectionEnd);
+    /// Whether the text goes on before (-1) or after (1) what is shown of it.
+    Q_INVOKABLE bool hasPart(const QUuid &blockID, int direction) const;
+    /// Goes to the part before (-1) or after (1) the one that is shown; false if there is none.
+    Q_INVOKABLE bool showPart(const QUuid &blockID, int direction);
     Q_INVOKABLE void toggleChecked(const QUuid &blockID);
     Q_INVOKABLE void setTone(const QUuid &blockID, int tone);
     /// @param language the raw text of a language
@@ -90,16 +101,21 @@ signals:
     void isZenChanged();
     void slashTypesChanged();
     /// The block of this row shall have the focus; sent once the row exists.
-    /// @param caret where the caret goes in its text; -1 leaves it where it is
+    /// @param caret where the caret goes in what is shown of its text; -1 leaves it where it is
     void focusRequested(int row, int caret);
 
 private:
+    struct Place {
+        QUuid blockID;
+        qsizetype position = 0;
+    };
+
     void follow(const ChangeSet &changes);
     void refresh();
     void showBlocks(const QList<Block> &blocks);
     void dropRuns();
     void showSlashMenu();
-    void requestFocus(const QUuid &blockID, int caret);
+    void requestFocus(const QUuid &blockID, qsizetype caret);
     void giveFocus();
 
     const Page *page() const;
@@ -113,12 +129,15 @@ private:
     void changeList(Edit edit);
     template <typename Edit>
     void changeBlock(const QUuid &blockID, Edit edit);
+    /// Changes the text of a block, and the part of it that is shown. Returns where the caret belongs then.
+    Place editText(Block before, const PageBlocks::TextEdit &edit);
 
     WorkspaceStore *m_store = nullptr;
     QUuid m_pageID;
     QString m_title;
     /// As the rows show them.
     QList<Block> m_blocks;
+    ShownParts m_parts;
     KeyedListModel<BlockRow> m_rows;
     bool m_isZen = false;
 
@@ -129,7 +148,8 @@ private:
     QHash<QUuid, CodeRun *> m_runs;
 
     QUuid m_wantedFocus;
-    int m_wantedCaret = -1;
+    /// In the whole text; -1 to leave it where it is.
+    qsizetype m_wantedCaret = -1;
     CoalescedCall m_refresh;
     BeforeNextKey m_beforeNextKey;
 };

@@ -33,6 +33,11 @@ FocusScope {
         pageID: root.pageID
         store: Orvel.store
         ui: Orvel.ui
+        onTitleCut: message => toast.show(message)
+    }
+
+    OVToast {
+        id: toast
     }
 
     Column {
@@ -51,6 +56,7 @@ FocusScope {
             PageTopBar {
                 header: header
                 width: parent.width
+                onMessage: text => toast.show(text)
                 onZenRequested: root.zenRequested()
             }
 

@@ -37,7 +37,13 @@ void PageHeaderViewModel::setPageID(const QUuid &pageID)
 
 QString PageHeaderViewModel::setTitle(const QString &title)
 {
-    PageOperations::rename(*m_store, m_pageID, LineText::singleLine(title));
+    qsizetype length = std::min(title.size(), std::max(maxTitleLength, m_face.title.size()));
+    const bool isCut = length < title.size();
+    if (isCut && title[length].isLowSurrogate())
+        --length;
+    PageOperations::rename(*m_store, m_pageID, LineText::singleLine(title.first(length)));
+    if (isCut)
+        emit titleCut(tr("The title was too long and has been cut to %1 characters.").arg(length));
     return m_face.title;
 }
 

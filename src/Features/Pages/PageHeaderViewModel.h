@@ -41,7 +41,10 @@ public:
     void setPageID(const QUuid &pageID);
 
     const QString &title() const { return m_face.title; }
-    /// Gives the page this title, on one line. Returns the title that the page then has.
+    /// The longest title that can be written; one that is longer already may stay as long as it is.
+    static constexpr qsizetype maxTitleLength = 1000;
+    /// Gives the page this title, on one line and cut where it is too long. Returns the title that the page
+    /// then has.
     Q_INVOKABLE QString setTitle(const QString &title);
     bool isUnnamed() const { return m_face.title == Page().title; }
     const QString &icon() const { return m_face.icon; }
@@ -68,6 +71,8 @@ signals:
     void storeChanged();
     void pageIDChanged();
     void titleChanged();
+    /// A text that was written or pasted into the title was too long for it.
+    void titleCut(const QString &message);
     void iconChanged();
     void isFavoriteChanged();
     void kindChanged();

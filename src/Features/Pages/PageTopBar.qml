@@ -12,6 +12,8 @@ Item {
     readonly property real overhang: (Theme.iconButtonSize - Theme.iconButton) / 2
 
     signal zenRequested()
+    /// A sentence on how something went.
+    signal message(text: string)
 
     implicitHeight: Math.max(back.implicitHeight, actions.implicitHeight)
 
@@ -20,7 +22,7 @@ Item {
 
         pageID: root.header.pageID
         store: Orvel.store
-        onMessage: text => toast.show(text)
+        onMessage: text => root.message(text)
     }
 
     Row {
@@ -102,9 +104,5 @@ Item {
             symbol: "ellipsis"
             text: qsTr("More")
         }
-    }
-
-    OVToast {
-        id: toast
     }
 }

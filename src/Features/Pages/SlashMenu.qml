@@ -14,18 +14,25 @@ T.Popup {
     /// Where the block begins in its row.
     property real column: 0
 
+    /// Rows that have to fit below the block, unless there is less room above it.
+    readonly property int leastRows: 5
+    property bool isAbove: false
+    property real room: 0
+
+    /// Chooses the side once, so that the menu stays where it is while its list gets shorter.
     function place() {
-        const top = parent.mapToItem(null, 0, 0).y
-        const below = parent.Window.height - top - parent.height
-        const fits = below >= implicitHeight + 2 * Theme.space8 || below >= top
-        height = Math.min(implicitHeight, (fits ? below : top) - 2 * Theme.space8)
-        y = fits ? parent.height : -height
+        const above = parent.mapToItem(null, 0, 0).y - 2 * Theme.space8
+        const below = parent.Window.height - above - parent.height - 4 * Theme.space8
+        isAbove = below < Math.min(implicitHeight, leastRows * Theme.rowHeight) && below < above
+        room = isAbove ? above : below
     }
 
     bottomPadding: Theme.space4
     closePolicy: T.Popup.NoAutoClose
     focus: false
-    implicitHeight: contentHeight + topPadding + bottomPadding
+    height: Math.min(implicitHeight, room)
+    // The heading and the types, of which the list would only estimate the height.
+    implicitHeight: (1 + editor.slashTypes.length) * Theme.rowHeight + topPadding + bottomPadding
     implicitWidth: Theme.menuWidth + Theme.space48 + leftPadding + rightPadding
     leftPadding: Theme.space4
     margins: Theme.space8
@@ -34,9 +41,9 @@ T.Popup {
     topPadding: Theme.space4
     transformOrigin: T.Popup.TopLeft
     x: column
+    y: isAbove ? -height : parent.height
 
     onAboutToShow: place()
-    onImplicitHeightChanged: if (visible) place()
 
     background: OVPopupSurface { }
     enter: OVEnter { }
@@ -45,7 +52,6 @@ T.Popup {
         id: list
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
-        implicitHeight: contentHeight
         interactive: contentHeight > height
         model: root.editor.slashTypes
         T.ScrollBar.vertical: OVScrollBar { }

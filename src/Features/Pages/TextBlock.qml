@@ -12,9 +12,11 @@ BlockBody {
     required property int headingLevel
     required property string marker
     required property string numberText
+    required property string widestNumber
     required property bool isChecked
     required property int tone
     required property string toneSymbol
+    required property string partText
 
     readonly property bool isCallout: marker === "tone"
     readonly property int headingSize: [Theme.sizeReading, Theme.sizeHeading1, Theme.sizeHeading2, Theme.sizeHeading3][headingLevel]
@@ -29,34 +31,9 @@ BlockBody {
         return control ? [control, field] : [field]
     }
 
-    function leaves(direction: int): bool {
-        return !field.activeFocus || (!field.inputMethodComposing && field.isOnOuterLine(direction))
-    }
-
-    function columnIn(item: Item): real {
-        return field.mapToItem(item, field.cursorRectangle.x, 0).x
-    }
-
-    function enter(direction: int, item: Item, column: real) {
-        field.enter(direction, field.mapFromItem(item, column, 0).x)
-    }
-
-    function placeCaret(caret: int) {
-        field.cursorPosition = Math.min(caret, field.length)
-    }
-
-    function focusAt(caret: int) {
-        if (caret >= 0)
-            placeCaret(caret)
-        field.forceActiveFocus(Qt.OtherFocusReason)
-    }
-
-    function focusAtEnd() {
-        focusAt(field.length)
-    }
-
     firstLineCenter: mark.y + mark.height / 2
-    implicitHeight: field.implicitHeight + (isCallout ? Theme.space4 * 2 : 0)
+    implicitHeight: field.implicitHeight + (isCallout ? Theme.space4 * 2 : 0) + part.height
+    input: field
 
     Rectangle {
         anchors.bottomMargin: Theme.space4
@@ -89,6 +66,7 @@ BlockBody {
         label: root.storedText === "" ? root.label : root.storedText
         marker: root.marker
         numberText: root.numberText
+        widestNumber: root.widestNumber
         tone: root.tone
         toneSymbol: root.toneSymbol
         width: root.markerWidth
@@ -119,13 +97,15 @@ BlockBody {
         y: root.isCallout ? Theme.space4 : 0
         Accessible.name: root.label
         Keys.forwardTo: [root.keyTarget]
-        onActiveFocusChanged: {
-            if (!activeFocus)
-                root.editor.blockLeft(blockID)
-        }
-        onCursorRectangleChanged: {
-            if (activeFocus && root.isReady)
-                root.caretMoved(field, cursorRectangle)
-        }
+    }
+
+    BlockPart {
+        id: part
+        editor: root.editor
+        anchors.left: field.left
+        anchors.right: parent.right
+        anchors.top: field.bottom
+        blockID: root.blockID
+        text: root.partText
     }
 }

@@ -48,6 +48,7 @@ private slots:
     void breaksLines();
     void keepsAnySequenceOfOperationsSound();
     void changesTypes();
+    void showsPartsOfLongTexts();
     void showsRows();
 };
 
@@ -55,21 +56,22 @@ void PageBlocksTest::numbersLists_data()
 {
     QTest::addColumn<QString>("blocks");
     QTest::addColumn<QList<int>>("numbers");
-    QTest::newRow("none") << u"ptd"_s << QList{0, 0, 0};
-    QTest::newRow("one list") << u"nnn"_s << QList{1, 2, 3};
-    QTest::newRow("starts again after any other type") << u"nnpnndn"_s << QList{1, 2, 0, 1, 2, 0, 1};
+    QTest::addColumn<QList<int>>("counts");
+    QTest::newRow("none") << u"ptd"_s << QList{0, 0, 0} << QList{0, 0, 0};
+    QTest::newRow("one list") << u"nnn"_s << QList{1, 2, 3} << QList{3, 3, 3};
+    QTest::newRow("starts again after any other type")
+        << u"nnpnndn"_s << QList{1, 2, 0, 1, 2, 0, 1} << QList{2, 2, 0, 2, 2, 0, 1};
 }
 
 void PageBlocksTest::numbersLists()
 {
     QFETCH(QString, blocks);
     QFETCH(QList<int>, numbers);
-    const QList<Block> list = blocksOf(blocks);
-    QCOMPARE(PageBlocks::numbers(list), numbers);
-    for (qsizetype i = 0; i < list.size(); ++i)
-        QCOMPARE(PageBlocks::numberLabel(i, list).value_or(0), numbers[i]);
-    QVERIFY(!PageBlocks::numberLabel(-1, list));
-    QVERIFY(!PageBlocks::numberLabel(list.size(), list));
+    QFETCH(QList<int>, counts);
+    const QList<PageBlocks::Number> found = PageBlocks::numbers(blocksOf(blocks));
+    QCOMPARE(found.size(), numbers.size());
+    for (qsizetype i = 0; i < found.size(); ++i)
+        QCOMPARE(found[i], (PageBlocks::Number{numbers[i], counts[i]}));
 }
 
 void PageBlocksTest::offersTypes_data()
@@ -111,7 +113,7 @@ void PageBlocksTest::measuresCode()
 {
     QFETCH(QString, text);
     QTEST(PageBlocks::codeLineCount(text), "lines");
-    QTEST(PageBlocks::codeEditorHeight(text), "height");
+    QTEST(PageBlocks::codeEditorHeight(PageBlocks::codeLineCount(text)), "height");
 }
 
 void PageBlocksTest::breaksLines_data()
@@ -137,7 +139,7 @@ void PageBlocksTest::breaksLines()
     QFETCH(QString, before);
     QFETCH(QString, after);
     QFETCH(int, caret);
-    const auto broken = PageBlocks::brokenLines(before, after);
+    const auto broken = PageBlocks::brokenLines(before, PageBlocks::editBetween(before, after));
     QTEST(broken ? (QStringList{broken->first} + broken->rest).join(u'|') : u"-"_s, "lines");
     if (broken)
         QCOMPARE(int(broken->caret), caret);
@@ -154,7 +156,7 @@ void PageBlocksTest::keepsAnySequenceOfOperationsSound()
         const QUuid id = random.bounded(10) == 0 ? QUuid::createUuid() : blocks[index].id;
         const bool isKnown = id == blocks[index].id;
         const Block fresh{.id = QUuid::createUuid(), .text = QString::number(step)};
-        const int delta = random.bounded(2) == 0 ? -1 : 1;
+        const int delta = int(random.bounded(7)) - 3;
         switch (random.bounded(4)) {
         case 0:
             QCOMPARE(PageBlocks::insertAfter(blocks, id, fresh), isKnown);
@@ -176,7 +178,7 @@ void PageBlocksTest::keepsAnySequenceOfOperationsSound()
         default:
             PageBlocks::move(blocks, id, delta);
             if (isKnown && index + delta >= 0 && index + delta < model.size())
-                model.swapItemsAt(index, index + delta);
+                model.move(index, index + delta);
         }
         QStringList texts;
         QSet<QUuid> ids;
@@ -201,11 +203,47 @@ void PageBlocksTest::changesTypes()
     QCOMPARE(block.text, u"milk"_s);
 }
 
+void PageBlocksTest::showsPartsOfLongTexts()
+{
+    ShownParts parts;
+    Block block{.id = QUuid::createUuid(), .text = QString(ShownParts::maxTextLength, u'a')};
+    const auto shown = [&] { return parts.of(block); };
+    QCOMPARE(shown(), (ShownParts::Part{0, block.text.size()}));
+    QVERIFY(!parts.step(block, 1));
+
+    // Going through it from end to end and back, the parts are bounded and leave nothing out.
+    block.text = u"word 👩‍👩‍👧 "_s.repeated(20'000);
+    QString read = shown().in(block.text);
+    while (parts.step(block, 1)) {
+        QVERIFY(shown().end - shown().begin <= ShownParts::maxTextLength);
+        QVERIFY(block.text[shown().begin - 1] == u' ');
+        read += shown().in(block.text);
+    }
+    QVERIFY(read == block.text);
+    read = shown().in(block.text);
+    while (parts.step(block, -1))
+        read.prepend(shown().in(block.text));
+    QVERIFY(read == block.text);
+
+    parts.show(block, 100'000);
+    QVERIFY(shown().begin <= 100'000 && shown().end >= 100'000);
+    const ShownParts::Part kept = shown();
+    parts.show(block, 100'010);
+    QCOMPARE(shown(), kept);
+    block.text.truncate(50'000);
+    QVERIFY(shown().end <= block.text.size());
+    QVERIFY(shown().end > shown().begin);
+    block.text.truncate(10);
+    QCOMPARE(shown(), (ShownParts::Part{0, 10}));
+    block.text = QString::fromUcs4(U"😀").repeated(20'000);
+    QVERIFY(!shown().in(block.text).back().isHighSurrogate());
+}
+
 void PageBlocksTest::showsRows()
 {
     QList<Block> blocks = blocksOf(u"npd"_s);
     blocks[1].checked = true;
-    const QList<BlockRow> rows = BlockRow::ofBlocks(blocks);
+    const QList<BlockRow> rows = BlockRow::ofBlocks(blocks, {});
     QCOMPARE(rows[0].numberText(), u"1."_s);
     QVERIFY(!rows[0].canMoveUp() && rows[0].canMoveDown());
     QVERIFY(rows[2].canMoveUp() && !rows[2].canMoveDown());

@@ -569,6 +569,241 @@ Item {
             compare(texts(), "one|/t")
         }
 
+        /// Where the caret stands in the list, in its pixels.
+        function caretTop() {
+            return focused().mapToItem(root.view.list, 0, focused().cursorRectangle.y).y
+        }
+
+        function caretIsInView(room) {
+            tryVerify(() => caretTop() >= room
+                            && caretTop() + focused().cursorRectangle.height <= root.view.list.height - room,
+                      2000, "The caret keeps " + room + " pixels, at " + caretTop())
+        }
+
+        function numberedTexts(count) {
+            return Array.from({ length: count }, (_, index) => "Block " + index)
+        }
+
+        function test_emptyBlocksAreAsHighAsFilledOnes_data() {
+            return ["paragraph", "heading1", "heading3", "bulleted", "quote", "callout"].map(type => ({ tag: type }))
+        }
+
+        function test_emptyBlocksAreAsHighAsFilledOnes(data) {
+            open([{ type: data.tag, text: "" }, "below"])
+            const empty = field("")
+            const place = () => field("below").mapToItem(root, 0, 0).y
+            const before = place()
+            mouseClick(empty, 4, empty.height / 2)
+            type("x")
+            waitForRendering(root.view)
+            compare(place(), before)
+            keyClick(Qt.Key_Backspace)
+            waitForRendering(root.view)
+            compare(place(), before)
+            Composer.compose("ほ")
+            compare(place(), before)
+        }
+
+        function test_returnAtTheLowerEdgeKeepsRoom() {
+            open(numberedTexts(60))
+            edit("Block 3")
+            for (let i = 0; i < 30; ++i) {
+                keyClick(Qt.Key_Return)
+                at("", 0)
+                caretIsInView(Theme.space24)
+            }
+        }
+
+        function test_aPastedLongLineStaysInView() {
+            open(numberedTexts(300))
+            root.view.list.focusBlock(150, 0)
+            at("Block 150", 0)
+            caretIsInView(0)
+            for (let i = 0; i < 3; ++i) {
+                Composer.copy("word ".repeat(1500))
+                keyClick(Qt.Key_V, Qt.ControlModifier)
+                wait(50)
+                caretIsInView(Theme.space24)
+                verify(focused().text.endsWith("Block 150"))
+                compare(root.view.list.currentIndex, 150)
+            }
+        }
+
+        function test_pageDownGoesByTheView() {
+            const blocks = numberedTexts(200)
+            blocks.splice(10, 0, { type: "code", text: "let a = 1" })
+            blocks.splice(30, 0, "word ".repeat(2000).trim())
+            open(blocks)
+            const list = root.view.list
+            edit("Block 9")
+            keyClick(Qt.Key_Down)
+            const code = focused()
+            compare(code.text, "let a = 1")
+            const line = () => focused().mapToItem(list.contentItem, 0, focused().cursorRectangle.y).y
+            keyClick(Qt.Key_PageDown)
+            verify(focused() !== code, "A short code block lets Page Down through")
+            for (let i = 0; i < 8; ++i) {
+                const before = line()
+                keyClick(Qt.Key_PageDown)
+                caretIsInView(0)
+                const distance = line() - before
+                verify(distance > list.height * 0.7 && distance < list.height * 1.1, "By " + distance)
+            }
+            const before = line()
+            keyClick(Qt.Key_PageUp)
+            caretIsInView(0)
+            verify(before - line() > list.height * 0.7)
+            for (let i = 0; i < 40; ++i)
+                keyClick(Qt.Key_PageDown)
+            at("Block 199")
+            for (let i = 0; i < 40; ++i)
+                keyClick(Qt.Key_PageUp)
+            at("Block 0")
+        }
+
+        function test_slashMenuStandsBelowAndStays() {
+            open(numberedTexts(40))
+            edit("Block 5")
+            keyClick(Qt.Key_Return)
+            type("/")
+            const menu = named("BASIC BLOCKS", OVText)
+            const top = () => menu.mapToItem(root, 0, 0).y
+            wait(300)
+            const block = focused()
+            verify(top() >= block.mapToItem(root, 0, block.height).y - 1, "It stands below")
+            const before = top()
+            for (const key of ["h", "e", "a"]) {
+                type(key)
+                wait(50)
+                compare(top(), before)
+            }
+        }
+
+        function test_codeBlocksShowWrappedLines() {
+            open([{ type: "code", text: "let sum = one + two // ".repeat(20) }, "below"])
+            const code = one(item => item instanceof CodeEditor)
+            verify(code.input.lineCount > 3)
+            verify(code.height >= code.fullHeight, code.height + " of " + code.fullHeight)
+            verify(code.height < 2 * code.fullHeight)
+        }
+
+        function test_numberedListsHaveOneEdge() {
+            open(numberedTexts(12).map(text => ({ type: "numbered", text })))
+            compare(new Set(fields().map(item => item.mapToItem(root, 0, 0).x)).size, 1)
+        }
+
+        function test_toolsOfABlockShowUnderThePointerAlone() {
+            open(["one", "two"])
+            const tools = () => all(root.parent, item => item instanceof OVIconButton && item.text === "Block menu").length
+            const target = edit("two")
+            mouseMove(target, 20, 10)
+            tryVerify(() => tools() === 1)
+            type("x")
+            tryVerify(() => tools() === 0)
+            keyClick(Qt.Key_Up)
+            compare(tools(), 0)
+            mouseMove(target, 30, 10)
+            tryVerify(() => tools() === 1)
+        }
+
+        function test_dragsABlockByItsGrip() {
+            open(["one", "two", "three", "four"])
+            const target = field("one")
+            mouseMove(target, 20, 10)
+            const grip = named("Block menu", OVIconButton)
+            const y = text => field(text).mapToItem(grip, 0, field(text).height).y
+            mousePress(grip)
+            for (let step = 1; step <= 5; ++step)
+                mouseMove(grip, 12, y("three") * step / 5 - 4, -1, Qt.LeftButton)
+            compare(texts(), "one|two|three|four")
+            mouseRelease(grip, 12, y("three") - 4)
+            tryVerify(() => texts() === "two|three|one|four")
+            compare(all(root.parent, item => item instanceof OVMenuItem).length, 0)
+            wait(Theme.durationRemoval + 50)
+            mouseMove(field("four"), 20, 10)
+            const last = named("Block menu", OVIconButton)
+            const from = last.mapToItem(root, 12, 12)
+            mousePress(root, from.x, from.y)
+            for (let step = 1; step <= 5; ++step)
+                mouseMove(root, from.x, from.y - 20 * step, -1, Qt.LeftButton)
+            keyClick(Qt.Key_Escape)
+            mouseRelease(root, from.x, from.y - 100)
+            compare(texts(), "two|three|one|four")
+        }
+
+        function test_aNamedPageTakesKeysAtOnce_data() {
+            return [
+                { tag: "down", key: Qt.Key_Down, text: "one" },
+                { tag: "return", key: Qt.Key_Return, text: "one" },
+                { tag: "end", key: Qt.Key_End, modifiers: Qt.ControlModifier, text: "Block 89" },
+                { tag: "page down", key: Qt.Key_PageDown, text: "Block" }
+            ]
+        }
+
+        function test_aNamedPageTakesKeysAtOnce(data) {
+            const id = Workspace.addPageOf([{ text: "one" }].concat(numberedTexts(90).map(text => ({ text }))))
+            Workspace.renamePage(id, "Named")
+            root.view = createTemporaryObject(screen, root, { pageID: id })
+            root.view.forceActiveFocus()
+            waitForRendering(root.view)
+            const before = saved()
+            keyClick("x")
+            keyClick(Qt.Key_Delete)
+            compare(saved(), before)
+            keyClick(data.key, data.modifiers ?? Qt.NoModifier)
+            tryVerify(() => focused() instanceof BlockField && focused().text.startsWith(data.text))
+            compare(saved(), before)
+        }
+
+        function test_clicksBesideABlockPlaceTheCaret() {
+            open(["one two three", { type: "code", text: "let a" }])
+            const text = field("one two three")
+            const list = root.view.list
+            const y = text.mapToItem(list, 0, text.height / 2).y
+            mouseClick(list, list.width - 40, y)
+            at("one two three", 13)
+            mouseClick(list, 20, y)
+            at("one two three", 0)
+            mouseClick(list, list.width / 2, list.height - 8)
+            compare(focused().text, "let a")
+            compare(focused().cursorPosition, 5)
+        }
+
+        function test_longTextsAreShownInParts() {
+            const pasted = "word ".repeat(100000)
+            open(["ab", "end"])
+            const text = edit("ab", 1)
+            Composer.copy(pasted)
+            const start = Date.now()
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            tryVerify(() => focused().cursorPosition === focused().length - 1)
+            verify(Date.now() - start < 3000, "Only a part is laid out")
+            verify(focused().length < 20000)
+            type("!")
+            verify(texts() === "a" + pasted + "!b|end")
+            click(named("Earlier text", OVIconButton))
+            tryVerify(() => focused() instanceof BlockField && focused().cursorPosition === focused().length)
+            const earlier = focused().text
+            type("?")
+            verify(texts().includes(earlier + "?"))
+            keyClick(Qt.Key_Down)
+            tryVerify(() => focused().text.endsWith("!b") && focused().cursorPosition === 0)
+            keyClick(Qt.Key_Up)
+            tryVerify(() => focused().text.endsWith("?") && focused().cursorPosition === focused().length)
+        }
+
+        function test_aTooLongTitleIsCutAndSaid() {
+            open(["one"])
+            const title = one(item => item instanceof PageTitleField)
+            mouseClick(title)
+            Composer.copy("title ".repeat(1000))
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            compare(saved().title.length, 1000)
+            compare(title.text.length, 1000)
+            one(item => item.text === "The title was too long and has been cut to 1000 characters.")
+        }
+
         function test_staysInPlaceInALongPage() {
             const blocks = []
             for (let i = 0; i < 2000; ++i)

@@ -3,7 +3,9 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -37,6 +39,9 @@ private slots:
     void dismissesTheSlashMenu();
     void writesOneRowForAKey();
     void breaksPastedLines();
+    void showsLongTextsInParts();
+    void pastesLongTexts_data();
+    void pastesLongTexts();
     void keepsUnknownLanguages();
     void standsStillWithoutItsPage();
     void dropsTheRunsOfDeletedBlocks();
@@ -238,6 +243,71 @@ void PageEditorViewModelTest::breaksPastedLines()
     QCOMPARE(m_focus->takeFirst(), (QVariantList{1, 1}));
     m_model->setText(id(2), u"x\ny"_s);
     QCOMPARE(texts(), u"a1|2b|x\ny"_s);
+}
+
+void PageEditorViewModelTest::showsLongTextsInParts()
+{
+    const QString text = u"one two three "_s.repeated(10'000);
+    open({text, u"b"_s});
+    const auto shown = [this] { return role(0, "blockText").toString(); };
+    const qsizetype first = shown().size();
+    QVERIFY(first <= ShownParts::maxTextLength);
+    QCOMPARE(role(0, "partText").toString(), u"Characters 1–%L1 of 140,000"_s.arg(first));
+    QVERIFY(!m_model->hasPart(id(0), -1));
+    QVERIFY(!m_model->showPart(id(0), -1));
+
+    QVERIFY(m_model->showPart(id(0), 1));
+    finishTurn();
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{0, 0}));
+    QVERIFY(text.sliced(first).startsWith(shown()));
+    QCOMPARE(m_model->setText(id(0), u"new "_s + shown()), u"new "_s + shown());
+    QCOMPARE(page().content[0].text, QString(text).insert(first, u"new "_s));
+    finishTurn();
+    QVERIFY(shown().startsWith(u"new "_s));
+
+    // A line feed takes along all that stands behind it.
+    QCOMPARE(m_model->setText(id(0), QString(shown()).replace(0, 4, u"x\ny"_s)), u"x"_s);
+    finishTurn();
+    QCOMPARE(page().content[0].text, text.first(first) + u'x');
+    QCOMPARE(page().content[1].text, u'y' + text.sliced(first));
+    QCOMPARE(m_focus->takeFirst(), (QVariantList{1, 1}));
+}
+
+void PageEditorViewModelTest::pastesLongTexts_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("pasted");
+    QTest::addColumn<int>("blocks");
+    QTest::addColumn<int>("focusedBlock");
+    const QString line = u"A line of some length."_s;
+    QTest::newRow("short") << u"paragraph"_s << line << 2 << -1;
+    QTest::newRow("one line") << u"paragraph"_s << line.repeated(50'000) << 2 << 0;
+    QTest::newRow("lines") << u"paragraph"_s << (line + u"\r\n"_s).repeated(50'000) << 50'002 << 50'000;
+    QTest::newRow("code") << u"code"_s << (line + u'\n').repeated(50'000) << 2 << 0;
+}
+
+void PageEditorViewModelTest::pastesLongTexts()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, pasted);
+    QFETCH(int, blocks);
+    QFETCH(int, focusedBlock);
+    openBlocks({QVariantMap{{u"text"_s, u"abcd"_s}, {u"type"_s, type}}, QVariantMap{{u"text"_s, u"end"_s}}});
+    QGuiApplication::clipboard()->setText(pasted);
+    QCOMPARE(m_model->pasteLong(id(0), 1, 3), focusedBlock >= 0);
+    finishTurn();
+    QCOMPARE(page().content.size(), blocks);
+    if (focusedBlock < 0)
+        return;
+    QString whole = page().content[0].text;
+    for (int i = 1; i < blocks - 1; ++i)
+        whole += u'\n' + page().content[i].text;
+    QVERIFY(whole == u'a' + pasted.replace(u"\r\n"_s, u"\n"_s) + u'd');
+    const QVariantList focus = m_focus->takeFirst();
+    QCOMPARE(focus[0].toInt(), focusedBlock);
+    const QString shown = role(focusedBlock, "blockText").toString();
+    QVERIFY(shown.size() <= ShownParts::maxCodeLength);
+    QVERIFY(shown.sliced(focus[1].toInt()).startsWith(u'd'));
 }
 
 void PageEditorViewModelTest::keepsUnknownLanguages()

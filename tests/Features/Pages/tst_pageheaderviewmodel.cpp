@@ -107,6 +107,16 @@ void PageHeaderViewModelTest::titlesStayOnOneLine()
     QCOMPARE(page().title, QStringLiteral("one two three "));
     QCOMPARE(m_header->setTitle({}), QString());
     QCOMPARE(page().title, QString());
+
+    QSignalSpy cut(m_header.get(), &PageHeaderViewModel::titleCut);
+    QCOMPARE(m_header->setTitle(QString(1000, u'a')).size(), 1000);
+    QVERIFY(cut.isEmpty());
+    QCOMPARE(m_header->setTitle(QString(999, u'a') + QString::fromUtf8("😀")).size(), 999);
+    QCOMPARE(cut.takeFirst()[0].toString(),
+             QStringLiteral("The title was too long and has been cut to 999 characters."));
+    m_workspace.store().change<Page>(page().id, [](Page &page) { page.title = QString(5000, u'a'); });
+    QCOMPARE(m_header->setTitle(QString(4999, u'b')).size(), 4999);
+    QVERIFY(cut.isEmpty());
 }
 
 void PageHeaderViewModelTest::editsTouchTheDate()

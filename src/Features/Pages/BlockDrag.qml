@@ -1,0 +1,64 @@
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Pages
+
+/// Drags a block to another place: a line shows where it would stand, and the page scrolls near its edges.
+Rectangle {
+    id: root
+
+    required property PageEditorViewModel editor
+    required property ScreenList list
+    /// The row that is dragged; null for none.
+    property BlockRow row: null
+    /// Where the pointer is in the list.
+    property real pointerY: 0
+    /// The row before which the block would stand.
+    property int target: 0
+
+    function move(row: BlockRow, sceneY: real) {
+        if (root.row !== row) {
+            root.row = row
+            row.part.focusAt(-1)
+        }
+        pointerY = list.mapFromItem(null, 0, sceneY).y
+        aim()
+    }
+
+    function aim() {
+        const index = list.indexAt(list.width / 2, list.contentY + pointerY)
+        const below = list.itemAtIndex(index)
+        if (below)
+            target = list.contentY + pointerY > below.y + below.height / 2 ? index + 1 : index
+        else
+            target = pointerY < list.height / 2 ? 0 : list.count
+        const last = list.itemAtIndex(target - 1)
+        y = (last ? last.y + last.height : list.itemAtIndex(target)?.y ?? 0) - list.contentY - height / 2
+    }
+
+    function drop() {
+        const steps = row ? (target > row.index ? target - 1 : target) - row.index : 0
+        if (steps !== 0)
+            editor.moveBlock(row.blockID, steps)
+        row = null
+    }
+
+    color: Theme.accent
+    height: 2
+    radius: height / 2
+    visible: row !== null
+    width: list.columnWidth
+    x: list.columnX
+
+    FrameAnimation {
+        readonly property real edge: 2 * Theme.space32
+        /// How far the pointer is within one of the edges; negative at the upper one.
+        readonly property real reach: Math.max(0, root.pointerY - root.list.height + edge) - Math.max(0, edge - root.pointerY)
+
+        running: root.visible && reach !== 0
+        onTriggered: {
+            const end = root.list.originY + root.list.contentHeight - root.list.height
+            root.list.contentY = Math.max(root.list.originY, Math.min(end, root.list.contentY + reach * frameTime * 12))
+            root.aim()
+        }
+    }
+}

@@ -42,7 +42,7 @@ TextEdit {
         composing: field.inputMethodComposing
         document: field.textDocument
         text: field.storedText
-        onEdited: text => content.setText(field.editor.setText(field.blockID, text))
+        onEdited: text => content.setText(field.editor.setText(field.blockID, text, field.cursorPosition))
     }
 
     FontMetrics {
@@ -61,27 +61,11 @@ TextEdit {
         font.italic: field.font.italic
         font.pixelSize: field.font.pixelSize
         font.weight: field.font.weight
-        text: field.placeholder
+        // A text that is not seen is not laid out either.
+        text: visible ? field.placeholder : ""
         visible: field.length === 0 && field.preeditText === ""
         width: field.width
         y: field.topPadding
         Accessible.ignored: true
-    }
-
-    OVContextMenuArea {
-        focusTarget: field
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
-        menu: Component {
-            OVTextMenu {
-                target: field
-
-                function paste() {
-                    if (!field.editor.pasteLong(field.blockID, field.selectionStart, field.selectionEnd))
-                        field.paste()
-                }
-            }
-        }
-        // qmllint enable unqualified
     }
 }

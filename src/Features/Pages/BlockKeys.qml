@@ -1,106 +1,107 @@
-import QtQml
 import QtQuick
 import Orvel.Pages
+import Orvel.Session
 
-/// What keys mean in a block, before its fields get them.
-QtObject {
+/// A list of blocks in which keys do what they mean for a block, before its fields get them.
+BlockFocus {
     id: root
 
-    required property PageEditorViewModel editor
-    required property BlockCaret caret
-    required property var blockID
-    required property BlockBody part
+    signal menuRequested(row: BlockRow)
 
-    /// Keys leave the block upwards (-1) or downwards (1).
-    signal departed(direction: int)
-    signal tabbed(forward: bool)
-    /// Goes to the first or the last block, as the key says.
-    signal jumped(key: int)
-    /// Goes on by the height of the view, upwards (-1) or downwards (1).
-    signal pageTurned(direction: int)
-    signal menuRequested()
-
-    function handle(event: KeyEvent) {
+    function handleKey(row: BlockRow, event: KeyEvent) {
         const control = (event.modifiers & Qt.ControlModifier) !== 0
         const shift = (event.modifiers & Qt.ShiftModifier) !== 0
         if (![Qt.Key_Up, Qt.Key_Down, Qt.Key_PageUp, Qt.Key_PageDown].includes(event.key))
             caret.column = -1
         caret.typing = true
-        event.accepted = !(event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
-                && (event.matches(StandardKey.Paste) ? paste() : actOnBlock(event.key, control, shift)
-                    || (!part.hasOwnKeys && actOnText(event.key, control, shift)))
+        if (event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
+            event.accepted = false
+        else if (event.matches(StandardKey.Paste))
+            event.accepted = paste(row)
+        else
+            event.accepted = actOnBlock(row, event.key, control, shift)
+                    || (!row.part.hasOwnKeys && actOnText(row, event.key, control, shift))
     }
 
-    function tab(forward: bool) {
-        const stops = part.stops()
+    /// Goes on to the next part of the block, or to the block after it.
+    function tabFrom(row: BlockRow, forward: bool) {
+        const stops = row.part.stops()
         const next = stops.findIndex(stop => stop.activeFocus) + (forward ? 1 : -1)
         if (next >= 0 && next < stops.length)
             stops[next].forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
         else
-            tabbed(forward)
+            tab(row.index, forward)
     }
 
-    /// Takes a text that is too long for the field to paste it.
-    function paste(): bool {
-        const field = part.input
-        return field?.activeFocus === true && editor.pasteLong(blockID, field.selectionStart, field.selectionEnd)
+    /// Pastes into the text; false for what the field does by itself.
+    function paste(row: BlockRow): bool {
+        const field = row.part.input
+        return field?.activeFocus === true && editor.paste(row.blockID, field.selectionStart, field.selectionEnd)
     }
 
     /// Does what a key means for any block; false for any other.
-    function actOnBlock(key: int, control: bool, shift: bool): bool {
+    function actOnBlock(row: BlockRow, key: int, control: bool, shift: bool): bool {
+        const direction = key === Qt.Key_Up || key === Qt.Key_PageUp ? -1 : 1
         switch (key) {
         case Qt.Key_Up:
         case Qt.Key_Down:
             if (control && shift)
-                editor.moveBlock(blockID, key === Qt.Key_Up ? -1 : 1)
+                editor.moveBlock(row.blockID, direction)
             return control && shift
-        case Qt.Key_PageUp:
-        case Qt.Key_PageDown: {
-            const direction = key === Qt.Key_PageUp ? -1 : 1
-            if (control || shift || !part.leavesByPage(direction))
+        case Qt.Key_Y:
+        case Qt.Key_Z:
+            if (!control || (key === Qt.Key_Y && shift))
                 return false
-            pageTurned(direction)
+            if (key === Qt.Key_Y || shift)
+                Orvel.undo.redo()
+            else
+                Orvel.undo.undo()
             return true
-        }
+        case Qt.Key_PageUp:
+        case Qt.Key_PageDown:
+            if (control || shift || !row.part.leavesByPage(direction))
+                return false
+            turnPage(direction)
+            return true
         case Qt.Key_Tab:
         case Qt.Key_Backtab:
             if (control)
-                tab(!shift)
+                tabFrom(row, !shift)
             return control
         case Qt.Key_Menu:
-            menuRequested()
+            menuRequested(row)
             return true
         case Qt.Key_F10:
             if (shift)
-                menuRequested()
+                menuRequested(row)
             return shift
         }
         return false
     }
 
     /// Does what a key means where a line of text is written; false for any other.
-    function actOnText(key: int, control: bool, shift: bool): bool {
+    function actOnText(row: BlockRow, key: int, control: bool, shift: bool): bool {
         if (control) {
             const isEnd = key === Qt.Key_Home || key === Qt.Key_End
             if (isEnd && !shift)
-                jumped(key)
+                jump(key)
             return isEnd && !shift
         }
         switch (key) {
         case Qt.Key_Up:
         case Qt.Key_Down: {
             const direction = key === Qt.Key_Up ? -1 : 1
-            if (shift || !part.leaves(direction))
+            if (shift || !row.part.leaves(direction))
                 return false
-            departed(direction)
+            step(row.index, direction)
             return true
         }
         case Qt.Key_Tab:
-            tab(!shift)
+            tabFrom(row, !shift)
             return true
         case Qt.Key_Return:
         case Qt.Key_Enter:
-            editor.insertBlock(blockID)
+            editor.insertBlock(row.blockID)
             return true
         case Qt.Key_Escape:
             if (editor.slashTypes.length === 0)

@@ -4,14 +4,31 @@ import Orvel.Pages
 
 /// The blocks of a page below what stands above them, in one scrolling column. Only the rows in sight exist,
 /// and the one that has the focus.
-BlockFocus {
+BlockKeys {
     id: root
 
+    /// The row under the pointer.
+    readonly property BlockRow hoveredRow: count > 0 && pointer.hovered
+            ? rowAt(indexAt(width / 2, root.mapFromItem(null, 0, pointer.pointerY).y + contentY)) : null
+    /// The text whose menu is or was open.
+    property BlockField menuField: null
     readonly property bool menuOpen: (menu.item as BlockMenu)?.visible ?? false
 
     function openMenu(row: BlockRow, from: Item) {
         menu.active = true;
         (menu.item as BlockMenu).openFor(row, from)
+    }
+
+    /// Opens the menu of the text at this point.
+    function openTextMenu(x: real, y: real) {
+        const field = rowAt(indexAt(width / 2, y + contentY))?.part.input as BlockField
+        const place = field?.mapFromItem(root, x, y)
+        if (!field?.contains(place))
+            return
+        field.forceActiveFocus(Qt.MouseFocusReason)
+        menuField = field
+        textMenu.active = true;
+        (textMenu.item as BlockTextMenu).popup(field, place.x, place.y)
     }
 
     function openToneMenu(row: BlockRow, from: Item) {
@@ -31,17 +48,11 @@ BlockFocus {
     opening: false
 
     delegate: BlockRow {
-        caret: root.caret
         editor: root.editor
-        isHeld: root.draggedRow === this || root.menuOpen && (menu.item as BlockMenu).row === this
         onCaretMoved: Qt.callLater(root.reveal)
-        onJumped: key => root.jump(key)
-        onPageTurned: direction => root.turnPage(direction)
         onDeparted: direction => root.step(index, direction)
-        onDragged: sceneY => drag.move(this, sceneY)
-        onDropped: drag.drop()
-        onMenuRequested: from => root.openMenu(this, from)
-        onTabbed: forward => root.tab(index, forward)
+        onKeyPressed: event => root.handleKey(this, event)
+        onTabbed: forward => root.tabFrom(this, forward)
         onToneMenuRequested: from => root.openToneMenu(this, from)
     }
     footer: BlockListFooter {
@@ -65,6 +76,18 @@ BlockFocus {
         parent: root
     }
 
+    BlockChrome {
+        id: chrome
+        parent: root.contentItem
+        z: 2
+        row: drag.row ?? (root.menuOpen ? (menu.item as BlockMenu).row : root.caret.typing ? null : root.hoveredRow)
+        x: root.columnX - width - Theme.space4
+        onDragged: sceneY => drag.move(chrome.shownRow, sceneY)
+        onDropped: drag.drop()
+        onInsertRequested: root.editor.insertBlock(chrome.shownRow.blockID)
+        onMenuRequested: from => root.openMenu(chrome.shownRow, from)
+    }
+
     // What lies beside and below the blocks.
     MouseArea {
         height: root.height
@@ -76,6 +99,8 @@ BlockFocus {
     }
 
     HoverHandler {
+        id: pointer
+
         // What moves below a pointer at rest is no move of the pointer.
         readonly property real pointerX: point.scenePosition.x
         readonly property real pointerY: point.scenePosition.y
@@ -84,6 +109,8 @@ BlockFocus {
         onPointerXChanged: root.caret.typing = false
         onPointerYChanged: root.caret.typing = false
     }
+
+    onMenuRequested: row => openMenu(row, row)
 
     Connections {
         target: root.editor
@@ -94,6 +121,13 @@ BlockFocus {
             if (root.editor.slashTypes.length > 0)
                 slash.active = true
         }
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.WithinBounds
+        parent: root
+        onTapped: eventPoint => root.openTextMenu(eventPoint.position.x, eventPoint.position.y)
     }
 
     // The menus are made when they are first asked for.
@@ -114,6 +148,16 @@ BlockFocus {
             symbols: root.editor.toneSymbols
             texts: root.editor.toneLabels
             onChosen: tone => root.editor.setTone(row.blockID, tone)
+        }
+    }
+
+    Loader {
+        id: textMenu
+        active: false
+        sourceComponent: BlockTextMenu {
+            target: root.menuField
+            // Its text may go before the next one is asked for.
+            onClosed: Qt.callLater(() => textMenu.active = false)
         }
     }
 

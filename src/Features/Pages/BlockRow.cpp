@@ -41,7 +41,7 @@ QString BlockRow::partText() const
     if (text.size() == block.text.size() || block.type == BlockType::divider)
         return {};
     const QLocale english(QLocale::English);
-    return QObject::tr("Characters %1–%2 of %3")
+    return tr("Characters %1–%2 of %3")
         .arg(english.toString(part.begin + 1), english.toString(part.end),
              english.toString(block.text.size()));
 }
@@ -50,20 +50,20 @@ QString BlockRow::placeholder() const
 {
     switch (block.type) {
     case BlockType::paragraph:
-        return QObject::tr("Type '/' for commands…");
+        return tr("Type '/' for commands…");
     case BlockType::heading1:
     case BlockType::heading2:
     case BlockType::heading3:
         return enumLabel(block.type);
     case BlockType::bulleted:
     case BlockType::numbered:
-        return QObject::tr("List item");
+        return tr("List item");
     case BlockType::checklist:
-        return QObject::tr("To-do");
+        return tr("To-do");
     case BlockType::quote:
-        return QObject::tr("Empty quote");
+        return tr("Empty quote");
     case BlockType::code:
-        return QObject::tr("Code");
+        return tr("Code");
     default:
         return {};
     }
@@ -105,7 +105,7 @@ QString BlockRow::widestNumber() const
 
 QString BlockRow::lineCountText() const
 {
-    return block.type == BlockType::code ? QObject::tr("%1 lines").arg(codeLines) : QString();
+    return block.type == BlockType::code ? tr("%1 lines").arg(codeLines) : QString();
 }
 
 int BlockRow::codeHeight() const

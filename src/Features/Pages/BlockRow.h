@@ -3,12 +3,13 @@
 #include "Features/Pages/PageBlocks.h"
 #include "Features/Pages/ShownParts.h"
 
-#include <QObject>
+#include <QCoreApplication>
 
 /// A block of a page as its row shows it. Positions stand for the cases of the tables of type and tone, in
 /// their order.
 struct BlockRow {
     Q_GADGET
+    Q_DECLARE_TR_FUNCTIONS(BlockRow)
     Q_PROPERTY(QUuid blockID MEMBER id FINAL)
     Q_PROPERTY(int type READ typeIndex FINAL)
     Q_PROPERTY(QString typeLabel READ typeLabel FINAL)

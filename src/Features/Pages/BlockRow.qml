@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
 
-/// One block of the page: its body, and beside it what can be done with it.
+/// One block of the page.
 ScreenListRow {
     id: row
 
@@ -26,30 +26,22 @@ ScreenListRow {
     required property bool canMoveUp
     required property bool canMoveDown
     required property PageEditorViewModel editor
-    required property BlockCaret caret
-    /// Whether the block is dragged or its menu is open.
-    property bool isHeld: false
 
     /// Where the caret last stood in the text, for another body that takes it over.
     property int caretPosition: 0
 
     readonly property BlockBody part: loader.item as BlockBody
-    readonly property bool chromeShown: isHeld || (pointer.hovered && !caret.typing)
 
-    /// Keys leave the block upwards (-1) or downwards (1).
+    /// An arrow key leaves the block upwards (-1) or downwards (1).
     signal departed(direction: int)
     signal tabbed(forward: bool)
-    signal jumped(key: int)
-    signal pageTurned(direction: int)
+    signal keyPressed(event: var)
     signal caretMoved()
-    signal menuRequested(from: Item)
     signal toneMenuRequested(from: Item)
-    signal dragged(sceneY: real)
-    signal dropped()
 
     function leaveBackwards(): bool {
         if (!part.hasOwnKeys)
-            keys.tab(false)
+            tabbed(false)
         return !part.hasOwnKeys
     }
 
@@ -59,46 +51,7 @@ ScreenListRow {
     Accessible.name: typeLabel
     Accessible.role: Accessible.ListItem
 
-    Keys.onPressed: event => keys.handle(event)
-
-    BlockKeys {
-        id: keys
-        blockID: row.blockID
-        caret: row.caret
-        editor: row.editor
-        part: row.part
-        onDeparted: direction => row.departed(direction)
-        onJumped: key => row.jumped(key)
-        onMenuRequested: row.menuRequested(row)
-        onPageTurned: direction => row.pageTurned(direction)
-        onTabbed: forward => row.tabbed(forward)
-    }
-
-    HoverHandler {
-        id: pointer
-        parent: row
-    }
-
-    Loader {
-        active: row.chromeShown || opacity > 0
-        opacity: row.chromeShown ? 1 : 0
-        x: -width - Theme.space4
-        y: Math.round((row.part?.firstLineCenter ?? 0) - height / 2)
-
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.durationHover }
-        }
-
-        // A Loader of this Qt version cannot make a bound component.
-        // qmllint disable unqualified
-        sourceComponent: BlockChrome {
-            onInsertRequested: row.editor.insertBlock(row.blockID)
-            onDragged: sceneY => row.dragged(sceneY)
-            onDropped: row.dropped()
-            onMenuRequested: from => row.menuRequested(from)
-        }
-        // qmllint enable unqualified
-    }
+    Keys.onPressed: event => keyPressed(event)
 
     // qmllint disable unqualified
     Component {

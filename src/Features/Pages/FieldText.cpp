@@ -1,6 +1,5 @@
 #include "Features/Pages/FieldText.h"
 
-#include <QScopedValueRollback>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -11,8 +10,10 @@ void FieldText::setDocument(QQuickTextDocument *document)
     if (m_document)
         m_document->textDocument()->disconnect(this);
     m_document = document;
-    if (m_document)
+    if (m_document) {
+        m_document->textDocument()->setUndoRedoEnabled(false);
         connect(m_document->textDocument(), &QTextDocument::contentsChanged, this, &FieldText::readField);
+    }
     emit documentChanged();
     fillField();
 }
@@ -49,7 +50,6 @@ void FieldText::readField()
         return;
     m_shown = text;
     m_text = text;
-    const QScopedValueRollback answering(m_answering, true);
     emit edited(text);
 }
 
@@ -70,22 +70,10 @@ void FieldText::fillField()
         return;
 
     m_filling = true;
-    QTextDocument *document = m_document->textDocument();
-    const bool nothingToUndo = !document->isUndoAvailable();
-    if (nothingToUndo)
-        document->setUndoRedoEnabled(false);
-    QTextCursor cursor(document);
-    // One undo takes back the person's change together with what was made of it.
-    const bool joins = m_answering && !nothingToUndo;
-    if (joins)
-        cursor.joinPreviousEditBlock();
+    QTextCursor cursor(m_document->textDocument());
     cursor.setPosition(int(begin));
     cursor.setPosition(int(shownEnd), QTextCursor::KeepAnchor);
     cursor.insertText(m_text.sliced(begin, end - begin));
-    if (joins)
-        cursor.endEditBlock();
-    if (nothingToUndo)
-        document->setUndoRedoEnabled(true);
     m_filling = false;
     m_shown = fieldText();
 }

@@ -6,8 +6,8 @@
 
 /// Joins a plain-text TextEdit with a text that is stored elsewhere, character by character as it is: of its
 /// own accord a TextEdit hands out other blanks than it was given. What is stored comes into the field with
-/// the caret and the undo history kept, never while an input method is composing, and only what the person
-/// changes goes out.
+/// the caret kept, never while an input method is composing, and only what the user changes goes out. Undo is
+/// left to where the text is stored.
 class FieldText : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ signals:
     void documentChanged();
     void textChanged();
     void composingChanged();
-    /// The person has changed the text of the field to this one.
+    /// The user has changed the text of the field to this one.
     void edited(const QString &text);
 
 private:
@@ -48,6 +48,4 @@ private:
     QString m_shown;
     bool m_composing = false;
     bool m_filling = false;
-    /// Whether the person's own change is being told, so that what it leads to belongs to it.
-    bool m_answering = false;
 };

@@ -24,7 +24,7 @@ FocusScope {
     PageEditorViewModel {
         id: editor
         pageID: root.pageID
-        store: Orvel.store
+        session: Orvel
         // The change of the list's place costs the focus.
         onIsZenChanged: Qt.callLater(list.restoreFocus)
     }
@@ -61,6 +61,6 @@ FocusScope {
             onZenRequested: editor.isZen = true
         }
         onLeftForwards: zen.focusExit()
-        onLeftUp: (above as PageHeader).focusTitle()
+        onLeftUp: (above as PageHeader).focusTitle(-1)
     }
 }

@@ -1,6 +1,5 @@
 #include "Features/Pages/PageEditorViewModel.h"
 
-#include "Foundation/EnumChoices.h"
 #include "Foundation/LineText.h"
 #include "Models/CodeLanguage.h"
 
@@ -9,33 +8,16 @@
 
 #include <utility>
 
-namespace
-{
-Block freshBlock(const QString &text = {})
-{
-    Block block;
-    block.id = QUuid::createUuid();
-    block.text = text;
-    return block;
-}
-} // namespace
-
 PageEditorViewModel::PageEditorViewModel(QObject *parent)
-    : QObject(parent), m_refresh([this] { refresh(); }), m_beforeNextKey([this] { m_refresh.flush(); })
+    : ViewModel(parent), m_beforeNextKey([this] { flush(); })
 {
+    follow<Page>();
 }
 
-void PageEditorViewModel::setStore(WorkspaceStore *store)
+void PageEditorViewModel::start()
 {
-    if (m_store == store)
-        return;
-    if (m_store)
-        m_store->disconnect(this);
-    m_store = store;
-    if (m_store)
-        connect(m_store, &WorkspaceStore::changed, this, &PageEditorViewModel::follow);
-    emit storeChanged();
-    refresh();
+    // A key that follows an undo at once must find the text as it is then.
+    connect(session()->undo(), &UndoController::restoredChanged, this, [this] { m_beforeNextKey.arm(); });
 }
 
 void PageEditorViewModel::setPageID(const QUuid &pageID)
@@ -44,27 +26,8 @@ void PageEditorViewModel::setPageID(const QUuid &pageID)
         return;
     m_pageID = pageID;
     emit pageIDChanged();
-    refresh();
-}
-
-QStringList PageEditorViewModel::typeLabels()
-{
-    return EnumChoices::labels<BlockType>();
-}
-
-QStringList PageEditorViewModel::typeSymbols()
-{
-    return EnumChoices::symbols<BlockType>();
-}
-
-QStringList PageEditorViewModel::toneLabels()
-{
-    return EnumChoices::labels<CalloutTone>();
-}
-
-QStringList PageEditorViewModel::toneSymbols()
-{
-    return EnumChoices::symbols<CalloutTone>();
+    requestWholeRefresh();
+    flush();
 }
 
 void PageEditorViewModel::blockFocused(const QUuid &blockID)
@@ -72,6 +35,7 @@ void PageEditorViewModel::blockFocused(const QUuid &blockID)
     if (m_focusedBlock == blockID)
         return;
     m_focusedBlock = blockID;
+    store().endTyping();
     m_dismissedText.reset();
     showSlashMenu();
 }
@@ -85,26 +49,27 @@ void PageEditorViewModel::blockLeft(const QUuid &blockID)
 void PageEditorViewModel::insertBlock(const QUuid &after)
 {
     const Block fresh = freshBlock();
-    changeList([&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
+    changeList(tr("Add Block"), [&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::appendBlock()
 {
     const Block fresh = freshBlock();
-    changeList([&](Page &page) { page.content.append(fresh); });
+    changeList(tr("Add Block"), [&](Page &page) { page.content.append(fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::duplicateBlock(const QUuid &blockID)
 {
-    changeList([&](Page &page) { PageBlocks::duplicate(page.content, blockID, QUuid::createUuid()); });
+    changeList(tr("Duplicate Block"),
+               [&](Page &page) { PageBlocks::duplicate(page.content, blockID, store().makeId()); });
 }
 
 void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 {
     qsizetype index = -1;
-    changeList([&](Page &page) {
+    changeList(tr("Delete Block"), [&](Page &page) {
         index = PageBlocks::indexOf(page.content, blockID);
         PageBlocks::remove(page.content, blockID, freshBlock());
     });
@@ -116,14 +81,15 @@ void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 
 void PageEditorViewModel::moveBlock(const QUuid &blockID, int delta)
 {
-    changeList([&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
+    changeList(tr("Move Block"), [&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
 }
 
 void PageEditorViewModel::changeType(const QUuid &blockID, int type)
 {
     if (!EnumChoices::isCase<BlockType>(type))
         return;
-    changeBlock(blockID, [&](Block &block) { PageBlocks::changeType(block, BlockType(type)); });
+    changeBlock(tr("Change Block Type"), blockID,
+                [&](Block &block) { PageBlocks::changeType(block, BlockType(type)); });
     requestFocus(blockID, -1);
 }
 
@@ -131,7 +97,7 @@ void PageEditorViewModel::applySlash(const QUuid &blockID, int type)
 {
     if (!EnumChoices::isCase<BlockType>(type))
         return;
-    changeBlock(blockID, [&](Block &block) {
+    changeBlock(tr("Change Block Type"), blockID, [&](Block &block) {
         PageBlocks::changeType(block, BlockType(type));
         block.text.clear();
     });
@@ -145,7 +111,7 @@ void PageEditorViewModel::dismissSlash()
     showSlashMenu();
 }
 
-QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text)
+QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text, int caret)
 {
     const Block *const before = block(blockID);
     if (!before)
@@ -156,22 +122,26 @@ QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text)
         return text;
     edit.begin += part.begin;
     edit.end += part.begin;
-    const Place caret = editText(*before, edit);
-    if (caret.blockID != blockID)
-        requestFocus(caret.blockID, caret.position);
+    const Place end = editText(*before, edit, caret < 0 ? -1 : part.begin + caret);
+    if (end.blockID != blockID)
+        requestFocus(end.blockID, end.position);
     const Block *const after = block(blockID);
     return after ? m_parts.of(*after).in(after->text) : text;
 }
 
-bool PageEditorViewModel::pasteLong(const QUuid &blockID, int selectionStart, int selectionEnd)
+bool PageEditorViewModel::paste(const QUuid &blockID, int selectionStart, int selectionEnd)
 {
     const Block *const target = block(blockID);
     const QString pasted = LineText::withLineFeeds(QGuiApplication::clipboard()->text());
-    if (!target || pasted.size() <= ShownParts::maxTextLength)
+    if (!target || pasted.isEmpty())
+        return false;
+    // The editor of code takes what it can lay out, which costs less than to show the text anew.
+    if (target->type == BlockType::code && pasted.size() <= ShownParts::maxTextLength)
         return false;
     const qsizetype begin = m_parts.of(*target).begin;
-    const Place caret = editText(*target, {begin + selectionStart, begin + selectionEnd, pasted});
-    requestFocus(caret.blockID, caret.position);
+    const Action action(store(), tr("Paste"));
+    const Place end = editText(*target, {begin + selectionStart, begin + selectionEnd, pasted}, -1);
+    requestFocus(end.blockID, end.position);
     return true;
 }
 
@@ -193,19 +163,19 @@ bool PageEditorViewModel::showPart(const QUuid &blockID, int direction)
 
 void PageEditorViewModel::toggleChecked(const QUuid &blockID)
 {
-    changeBlock(blockID, [](Block &block) { block.checked = !block.checked; });
+    changeBlock(tr("Check To-do"), blockID, [](Block &block) { block.checked = !block.checked; });
 }
 
 void PageEditorViewModel::setTone(const QUuid &blockID, int tone)
 {
     if (EnumChoices::isCase<CalloutTone>(tone))
-        changeBlock(blockID, [&](Block &block) { block.tone = CalloutTone(tone); });
+        changeBlock(tr("Change Tone"), blockID, [&](Block &block) { block.tone = CalloutTone(tone); });
 }
 
 void PageEditorViewModel::setLanguage(const QUuid &blockID, const QString &language)
 {
     if (enumFromRaw<CodeLanguage>(language))
-        changeBlock(blockID, [&](Block &block) { block.language = language; });
+        changeBlock(tr("Change Language"), blockID, [&](Block &block) { block.language = language; });
 }
 
 CodeRun *PageEditorViewModel::codeRun(const QUuid &blockID)
@@ -233,13 +203,7 @@ void PageEditorViewModel::copyOutput(const QUuid &blockID)
     QGuiApplication::clipboard()->setText(codeRun(blockID)->output());
 }
 
-void PageEditorViewModel::follow(const ChangeSet &changes)
-{
-    if (changes.of<Page>().contains(m_pageID))
-        m_refresh.request();
-}
-
-void PageEditorViewModel::refresh()
+void PageEditorViewModel::refresh(const ChangeSet &)
 {
     m_beforeNextKey.disarm();
     const Page *const shown = page();
@@ -256,6 +220,19 @@ void PageEditorViewModel::refresh()
     giveFocus();
 }
 
+bool PageEditorViewModel::reveal(const UndoPlace &place)
+{
+    if (place.record != m_pageID || place.textRecord == m_pageID || !page())
+        return false;
+    const Place changed = place.textRecord.isNull() ? changedPlace(m_earlierBlocks, m_blocks)
+                                                    : Place{place.textRecord, place.caret};
+    if (!changed.blockID.isNull()) {
+        requestFocus(changed.blockID, changed.position);
+        flush();
+    }
+    return true;
+}
+
 void PageEditorViewModel::showBlocks(const QList<Block> &blocks)
 {
     const auto sameList = [](const Block &a, const Block &b) { return a.id == b.id && a.type == b.type; };
@@ -266,7 +243,7 @@ void PageEditorViewModel::showBlocks(const QList<Block> &blocks)
     } else {
         m_rows.setRows(BlockRow::ofBlocks(blocks, m_parts));
     }
-    m_blocks = blocks;
+    m_earlierBlocks = std::exchange(m_blocks, blocks);
     dropRuns();
 }
 
@@ -300,7 +277,7 @@ void PageEditorViewModel::requestFocus(const QUuid &blockID, qsizetype caret)
 {
     m_wantedFocus = blockID;
     m_wantedCaret = caret;
-    m_refresh.request();
+    requestRefresh();
     m_beforeNextKey.arm();
 }
 
@@ -312,9 +289,14 @@ void PageEditorViewModel::giveFocus()
                             int(m_wantedCaret < 0 ? -1 : m_wantedCaret - row->part.begin));
 }
 
+Block PageEditorViewModel::freshBlock(const QString &text) const
+{
+    return {.id = store().makeId(), .text = text};
+}
+
 const Page *PageEditorViewModel::page() const
 {
-    return m_store ? m_store->pages().first(m_pageID) : nullptr;
+    return session() ? store().pages().first(m_pageID) : nullptr;
 }
 
 const Block *PageEditorViewModel::block(const QUuid &blockID) const
@@ -325,56 +307,81 @@ const Block *PageEditorViewModel::block(const QUuid &blockID) const
 }
 
 template <typename Edit>
-void PageEditorViewModel::changePage(Edit edit)
+void PageEditorViewModel::changePage(const QString &name, Edit edit)
 {
-    if (!m_store)
-        return;
-    m_store->change<Page>(m_pageID, [&](Page &page) {
+    const Action action(store(), name);
+    store().change<Page>(m_pageID, [&](Page &page) {
         edit(page);
-        page.updatedDate = m_store->clock().now();
+        page.updatedDate = store().now();
     });
 }
 
 template <typename Edit>
-void PageEditorViewModel::changeList(Edit edit)
+void PageEditorViewModel::changeList(const QString &name, Edit edit)
 {
-    changePage(edit);
+    changePage(name, edit);
     m_beforeNextKey.arm();
 }
 
 template <typename Edit>
-void PageEditorViewModel::changeBlock(const QUuid &blockID, Edit edit)
+void PageEditorViewModel::changeBlock(const QString &name, const QUuid &blockID, Edit edit)
 {
-    changePage([&](Page &page) {
+    changePage(name, [&](Page &page) {
         const qsizetype index = PageBlocks::indexOf(page.content, blockID);
         if (index >= 0)
             edit(page.content[index]);
     });
 }
 
-PageEditorViewModel::Place PageEditorViewModel::editText(const Block before, const PageBlocks::TextEdit &edit)
+PageEditorViewModel::Place PageEditorViewModel::editText(const Block before, const PageBlocks::TextEdit &edit,
+                                                         qsizetype caret)
 {
     const ShownParts::Part part = m_parts.of(before);
-    auto lines = before.type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before.text, edit);
-    Place caret{before.id, edit.begin + edit.inserted.size()};
+    const auto lines =
+        before.type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before.text, edit);
+    const QString text =
+        lines ? lines->first : QString(before.text).replace(edit.begin, edit.end - edit.begin, edit.inserted);
     const auto write = [&](Block &block) {
-        block.text = lines ? lines->first
-                           : QString(before.text).replace(edit.begin, edit.end - edit.begin, edit.inserted);
-        const qsizetype behind = lines ? 0 : before.text.size() - part.end;
-        m_parts.keep(block, {part.begin, block.text.size() - behind});
-        caret.position = std::min(caret.position, block.text.size());
+        block.text = text;
+        m_parts.keep(block, {part.begin, text.size() - (lines ? 0 : before.text.size() - part.end)});
     };
     if (!lines || lines->rest.isEmpty()) {
-        changeBlock(before.id, write);
-        return caret;
+        const Action action(store(), Typing{.text = {before.id, QStringLiteral("text")},
+                                            .before = before.text,
+                                            .after = text,
+                                            .caret = caret});
+        changeBlock({}, before.id, write);
+        return {before.id, std::min(edit.begin + edit.inserted.size(), text.size())};
     }
-    changeList([&](Page &page) {
+    Place end;
+    changeList(tr("Paste"), [&](Page &page) {
         qsizetype index = PageBlocks::indexOf(page.content, before.id);
         write(page.content[index]);
         page.content.insert(index + 1, lines->rest.size(), Block());
         for (const QString &line : lines->rest)
             page.content[++index] = freshBlock(line);
-        caret = {page.content[index].id, lines->caret};
+        end = {page.content[index].id, lines->caret};
     });
-    return caret;
+    return end;
+}
+
+PageEditorViewModel::Place PageEditorViewModel::changedPlace(const QList<Block> &before,
+                                                             const QList<Block> &after)
+{
+    if (before.isEmpty() || after.isEmpty() || before == after)
+        return {};
+    const auto [old, now] = std::ranges::mismatch(before, after);
+    if (now == after.end())
+        return {after.last().id, after.last().text.size()};
+    if (old != before.end() && old->id == now->id) {
+        const PageBlocks::TextEdit edit = PageBlocks::editBetween(old->text, now->text);
+        if (after.size() < before.size())
+            return {now->id, edit.begin};
+        return {now->id,
+                edit.inserted.isEmpty() && edit.begin == edit.end ? -1 : edit.begin + edit.inserted.size()};
+    }
+    // Where a block has gone, the one before it is next to the place.
+    if (old != before.end() && PageBlocks::indexOf(after, old->id) < 0 && now != after.begin())
+        return {(now - 1)->id, (now - 1)->text.size()};
+    return {now->id, now->text.size()};
 }

@@ -3,20 +3,17 @@
 #include "Features/Code/CodeRun.h"
 #include "Features/Pages/BeforeNextKey.h"
 #include "Features/Pages/BlockRow.h"
-#include "Foundation/CoalescedCall.h"
+#include "Foundation/EnumChoices.h"
 #include "Foundation/KeyedListModel.h"
-#include "Store/WorkspaceStore.h"
-
-#include <QtQml/qqmlregistration.h>
+#include "Session/ViewModel.h"
 
 /// What the editor of one page shows and does. Every operation goes straight into the store; once the page is
 /// gone they do nothing, and the rows show what they showed last. Positions stand for the cases of the tables
 /// of type and tone, in their order.
-class PageEditorViewModel : public QObject
+class PageEditorViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
     Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     /// `BlockRow`s.
@@ -36,8 +33,6 @@ class PageEditorViewModel : public QObject
 public:
     explicit PageEditorViewModel(QObject *parent = nullptr);
 
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
     QUuid pageID() const { return m_pageID; }
     void setPageID(const QUuid &pageID);
     const QString &title() const { return m_title; }
@@ -45,10 +40,10 @@ public:
     const QList<int> &slashTypes() const { return m_slashTypes; }
 
     static int maxCodeHeight() { return PageBlocks::maxCodeEditorHeight; }
-    static QStringList typeLabels();
-    static QStringList typeSymbols();
-    static QStringList toneLabels();
-    static QStringList toneSymbols();
+    static QStringList typeLabels() { return EnumChoices::labels<BlockType>(); }
+    static QStringList typeSymbols() { return EnumChoices::symbols<BlockType>(); }
+    static QStringList toneLabels() { return EnumChoices::labels<CalloutTone>(); }
+    static QStringList toneSymbols() { return EnumChoices::symbols<CalloutTone>(); }
 
     /// The block that has the keyboard's focus; null for none.
     const QUuid &focusedBlock() const { return m_focusedBlock; }
@@ -74,10 +69,11 @@ public:
 
     /// Writes the text of a block as far as it is shown. Lines that the edit brings into a block of one line
     /// become blocks of their own, the last of which gets the focus. Returns what the block shows then.
-    Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text);
-    /// Puts the clipboard in the place of the selection, if a field should not have to lay out so much text;
-    /// else it does nothing and returns false. The positions count in what is shown.
-    Q_INVOKABLE bool pasteLong(const QUuid &blockID, int selectionStart, int selectionEnd);
+    /// @param caret where it stands in the text; -1 if that is not known
+    Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text, int caret = -1);
+    /// Puts the clipboard in the place of the selection; false if the field is to do that itself. The
+    /// positions count in what is shown.
+    Q_INVOKABLE bool paste(const QUuid &blockID, int selectionStart, int selectionEnd);
     /// Whether the text goes on before (-1) or after (1) what is shown of it.
     Q_INVOKABLE bool hasPart(const QUuid &blockID, int direction) const;
     /// Goes to the part before (-1) or after (1) the one that is shown; false if there is none.
@@ -95,7 +91,6 @@ public:
     Q_INVOKABLE void copyOutput(const QUuid &blockID);
 
 signals:
-    void storeChanged();
     void pageIDChanged();
     void titleChanged();
     void isZenChanged();
@@ -104,39 +99,47 @@ signals:
     /// @param caret where the caret goes in what is shown of its text; -1 leaves it where it is
     void focusRequested(int row, int caret);
 
+protected:
+    void start() override;
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
+
 private:
     struct Place {
         QUuid blockID;
         qsizetype position = 0;
     };
 
-    void follow(const ChangeSet &changes);
-    void refresh();
     void showBlocks(const QList<Block> &blocks);
     void dropRuns();
     void showSlashMenu();
     void requestFocus(const QUuid &blockID, qsizetype caret);
     void giveFocus();
 
+    Block freshBlock(const QString &text = {}) const;
     const Page *page() const;
     /// The block as it stands in the store; null if it or the page is gone.
     const Block *block(const QUuid &blockID) const;
-    /// Changes a copy of the page, with `updatedDate` now, and requests a save.
+    /// Changes the page, with `updatedDate` now.
+    /// @param name how the Edit menu calls it; empty within an action
     template <typename Edit>
-    void changePage(Edit edit);
+    void changePage(const QString &name, Edit edit);
     /// The next key already finds the blocks as the edit leaves them.
     template <typename Edit>
-    void changeList(Edit edit);
+    void changeList(const QString &name, Edit edit);
     template <typename Edit>
-    void changeBlock(const QUuid &blockID, Edit edit);
+    void changeBlock(const QString &name, const QUuid &blockID, Edit edit);
     /// Changes the text of a block, and the part of it that is shown. Returns where the caret belongs then.
-    Place editText(Block before, const PageBlocks::TextEdit &edit);
+    Place editText(Block before, const PageBlocks::TextEdit &edit, qsizetype caret);
+    /// Where these blocks were changed to become others.
+    static Place changedPlace(const QList<Block> &before, const QList<Block> &after);
 
-    WorkspaceStore *m_store = nullptr;
     QUuid m_pageID;
     QString m_title;
     /// As the rows show them.
     QList<Block> m_blocks;
+    /// As they showed them before that.
+    QList<Block> m_earlierBlocks;
     ShownParts m_parts;
     KeyedListModel<BlockRow> m_rows;
     bool m_isZen = false;
@@ -150,6 +153,5 @@ private:
     QUuid m_wantedFocus;
     /// In the whole text; -1 to leave it where it is.
     qsizetype m_wantedCaret = -1;
-    CoalescedCall m_refresh;
     BeforeNextKey m_beforeNextKey;
 };

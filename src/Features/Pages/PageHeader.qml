@@ -14,11 +14,12 @@ FocusScope {
     readonly property alias isUnnamed: header.isUnnamed
 
     signal zenRequested()
-    /// The person goes on from the title to what stands below it.
+    /// The user goes on from the title to what stands below it.
     signal leaveDown()
 
-    function focusTitle() {
-        title.cursorPosition = title.length
+    /// @param caret where it goes in the title; -1 for its end
+    function focusTitle(caret: int) {
+        title.cursorPosition = caret < 0 ? title.length : Math.min(caret, title.length)
         title.forceActiveFocus(Qt.OtherFocusReason)
     }
 
@@ -31,9 +32,9 @@ FocusScope {
         id: header
 
         pageID: root.pageID
-        store: Orvel.store
-        ui: Orvel.ui
+        session: Orvel
         onTitleCut: message => toast.show(message)
+        onTitleRestored: caret => root.focusTitle(caret)
     }
 
     OVToast {

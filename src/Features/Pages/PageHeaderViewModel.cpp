@@ -1,6 +1,7 @@
 #include "Features/Pages/PageHeaderViewModel.h"
 
 #include "Foundation/LineText.h"
+#include "Session/PageActions.h"
 #include "Store/PageOperations.h"
 #include "Support/OVDate.h"
 #include "Support/PageText.h"
@@ -8,22 +9,13 @@
 #include <utility>
 
 PageHeaderViewModel::PageHeaderViewModel(QObject *parent, std::chrono::milliseconds countDelay)
-    : QObject(parent)
+    : ViewModel(parent)
 {
+    follow<Page>();
+    followDays();
     m_countTimer.setSingleShot(true);
     m_countTimer.setInterval(countDelay);
     connect(&m_countTimer, &QTimer::timeout, this, &PageHeaderViewModel::count);
-}
-
-void PageHeaderViewModel::setStore(WorkspaceStore *store)
-{
-    if (m_store == store)
-        return;
-    m_store = store;
-    connect(store, &WorkspaceStore::changed, this, &PageHeaderViewModel::follow);
-    connect(&store->clock(), &Clock::dayChanged, this, &PageHeaderViewModel::showEdited);
-    emit storeChanged();
-    showAll();
 }
 
 void PageHeaderViewModel::setPageID(const QUuid &pageID)
@@ -32,16 +24,20 @@ void PageHeaderViewModel::setPageID(const QUuid &pageID)
         return;
     m_pageID = pageID;
     emit pageIDChanged();
-    showAll();
+    requestWholeRefresh();
+    flush();
 }
 
 QString PageHeaderViewModel::setTitle(const QString &title)
 {
-    qsizetype length = std::min(title.size(), std::max(maxTitleLength, m_face.title.size()));
+    const Page *const before = page();
+    const qsizetype longest = std::max(maxTitleLength, before ? before->title.size() : 0);
+    qsizetype length = std::min(title.size(), longest);
     const bool isCut = length < title.size();
     if (isCut && title[length].isLowSurrogate())
         --length;
-    PageOperations::rename(*m_store, m_pageID, LineText::singleLine(title.first(length)));
+    PageOperations::rename(store(), m_pageID, LineText::singleLine(title.first(length)));
+    flush();
     if (isCut)
         emit titleCut(tr("The title was too long and has been cut to %1 characters.").arg(length));
     return m_face.title;
@@ -49,7 +45,7 @@ QString PageHeaderViewModel::setTitle(const QString &title)
 
 void PageHeaderViewModel::setIcon(const QString &icon)
 {
-    PageOperations::setIcon(*m_store, m_pageID, icon);
+    PageOperations::setIcon(store(), m_pageID, icon);
 }
 
 QList<QString> PageHeaderViewModel::icons() const
@@ -62,22 +58,22 @@ QList<QString> PageHeaderViewModel::icons() const
 
 void PageHeaderViewModel::toggleFavorite()
 {
-    PageOperations::toggleFavorite(*m_store, m_pageID);
+    PageOperations::toggleFavorite(store(), m_pageID);
 }
 
 QString PageHeaderViewModel::convertText() const
 {
-    return isNote() ? QStringLiteral("Convert to page") : QStringLiteral("Convert to note");
+    return isNote() ? tr("Convert to page") : tr("Convert to note");
 }
 
 void PageHeaderViewModel::convert()
 {
-    PageOperations::convert(*m_store, m_pageID);
+    PageOperations::convert(store(), m_pageID);
 }
 
 QString PageHeaderViewModel::wordsText() const
 {
-    return QStringLiteral("%1 words").arg(m_words);
+    return tr("%1 words").arg(m_words);
 }
 
 QString PageHeaderViewModel::readingTimeText() const
@@ -87,44 +83,51 @@ QString PageHeaderViewModel::readingTimeText() const
 
 QString PageHeaderViewModel::backText() const
 {
-    return isNote() ? QStringLiteral("All notes") : QStringLiteral("Home");
+    return isNote() ? tr("All notes") : tr("Home");
+}
+
+Destination::Kind PageHeaderViewModel::backPlace() const
+{
+    return isNote() ? Destination::Kind::notes : Destination::Kind::dashboard;
 }
 
 void PageHeaderViewModel::goBack()
 {
-    m_ui->setSelection(Destination::to(isNote() ? Destination::Kind::notes : Destination::Kind::dashboard));
+    ui().setSelection(Destination::to(backPlace()));
 }
 
 void PageHeaderViewModel::deletePage()
 {
-    goBack();
-    PageOperations::remove(*m_store, m_pageID);
+    PageActions::erase(store(), ui(), m_pageID, backPlace());
 }
 
-void PageHeaderViewModel::follow(const ChangeSet &changes)
-{
-    if (changes.of<Page>().isReloaded)
-        return showAll();
-    if (!changes.of<Page>().contains(m_pageID) || !page())
-        return;
-    showFace();
-    showEdited();
-    m_countTimer.start();
-}
-
-void PageHeaderViewModel::showAll()
-{
-    showFace();
-    showEdited();
-    count();
-}
-
-void PageHeaderViewModel::showFace()
+void PageHeaderViewModel::refresh(const ChangeSet &changes)
 {
     const Page *const found = page();
-    if (!found)
+    if (!found || !changes.of<Page>().contains(m_pageID))
         return;
-    const Face before = std::exchange(m_face, {found->title, found->icon, found->kind, found->isFavorite});
+    showFace(*found);
+    const QString edited =
+        tr("Edited %1").arg(OVDate::relative(found->updatedDate, clock().now(), clock().timeZone()));
+    if (std::exchange(m_editedText, edited) != edited)
+        emit editedTextChanged();
+    if (changes.of<Page>().isReloaded)
+        count();
+    else
+        m_countTimer.start();
+}
+
+bool PageHeaderViewModel::reveal(const UndoPlace &place)
+{
+    if (place.textRecord != m_pageID || !page())
+        return false;
+    emit titleRestored(place.caret);
+    return true;
+}
+
+void PageHeaderViewModel::showFace(const Page &page)
+{
+    const Face before = std::exchange(m_face, {page.title, page.icon, page.kind, page.isFavorite});
     if (before.title != m_face.title)
         emit titleChanged();
     if (before.icon != m_face.icon)
@@ -133,18 +136,6 @@ void PageHeaderViewModel::showFace()
         emit kindChanged();
     if (before.isFavorite != m_face.isFavorite)
         emit isFavoriteChanged();
-}
-
-void PageHeaderViewModel::showEdited()
-{
-    const Page *const found = page();
-    if (!found)
-        return;
-    const Clock &clock = m_store->clock();
-    const QString text =
-        QStringLiteral("Edited ") + OVDate::relative(found->updatedDate, clock.now(), clock.timeZone());
-    if (std::exchange(m_editedText, text) != text)
-        emit editedTextChanged();
 }
 
 void PageHeaderViewModel::count()

@@ -1,17 +1,14 @@
 #pragma once
 
-#include "Session/SessionTypes.h"
+#include "Session/ViewModel.h"
 
 #include <QTimer>
-#include <QtQml/qqmlregistration.h>
 
 /// What stands above the blocks of a page: its title, its icon and what is known about it.
-class PageHeaderViewModel : public QObject
+class PageHeaderViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
     Q_PROPERTY(QUuid pageID READ pageID WRITE setPageID NOTIFY pageIDChanged REQUIRED FINAL)
 
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
@@ -35,8 +32,6 @@ public:
     explicit PageHeaderViewModel(QObject *parent = nullptr,
                                  std::chrono::milliseconds countDelay = std::chrono::milliseconds(300));
 
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
     QUuid pageID() const { return m_pageID; }
     void setPageID(const QUuid &pageID);
 
@@ -68,16 +63,21 @@ public:
     Q_INVOKABLE void deletePage();
 
 signals:
-    void storeChanged();
     void pageIDChanged();
     void titleChanged();
     /// A text that was written or pasted into the title was too long for it.
     void titleCut(const QString &message);
+    /// A step was undone or redone in the title, where the caret belongs to this place now.
+    void titleRestored(int caret);
     void iconChanged();
     void isFavoriteChanged();
     void kindChanged();
     void editedTextChanged();
     void countsChanged();
+
+protected:
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
 
 private:
     /// What the header shows of the page itself.
@@ -88,15 +88,11 @@ private:
         bool isFavorite = false;
     };
 
-    const Page *page() const { return m_store ? m_store->pages().first(m_pageID) : nullptr; }
-    void follow(const ChangeSet &changes);
-    void showAll();
-    void showFace();
-    void showEdited();
+    const Page *page() const { return session() ? store().pages().first(m_pageID) : nullptr; }
+    Destination::Kind backPlace() const;
+    void showFace(const Page &page);
     void count();
 
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
     QUuid m_pageID;
     Face m_face;
     QString m_editedText;

@@ -5,7 +5,7 @@
 
 QString PageMenuViewModel::favoriteTitle() const
 {
-    return m_isFavorite ? QStringLiteral("Remove from favorites") : QStringLiteral("Add to favorites");
+    return m_isFavorite ? tr("Remove from favorites") : tr("Add to favorites");
 }
 
 QString PageMenuViewModel::favoriteSymbol() const
@@ -16,12 +16,12 @@ QString PageMenuViewModel::favoriteSymbol() const
 void PageMenuViewModel::open(const QUuid &pageID)
 {
     m_pageID = pageID;
-    const Page *const page = m_store->pages().first(pageID);
+    const Page *const page = store().pages().first(pageID);
     if (!page)
         return;
     m_isFavorite = page->isFavorite;
     QList<FolderChoice> choices{{{}, m_noFolderTitle, !page->folderID}};
-    for (const Folder *folder : FolderOperations::ordered(*m_store))
+    for (const Folder *folder : FolderOperations::ordered(store()))
         choices.append({folder->id, folder->name, page->folderID == folder->id});
     m_folders.setRows(choices);
     emit opened();
@@ -29,20 +29,20 @@ void PageMenuViewModel::open(const QUuid &pageID)
 
 void PageMenuViewModel::toggleFavorite()
 {
-    PageOperations::toggleFavorite(*m_store, m_pageID);
+    PageOperations::toggleFavorite(store(), m_pageID);
 }
 
 void PageMenuViewModel::duplicate()
 {
-    PageOperations::duplicate(*m_store, m_pageID);
+    PageOperations::duplicate(store(), m_pageID);
 }
 
 void PageMenuViewModel::moveTo(const QUuid &folderID)
 {
-    PageOperations::move(*m_store, m_pageID, folderID.isNull() ? std::nullopt : std::optional(folderID));
+    PageOperations::move(store(), m_pageID, folderID.isNull() ? std::nullopt : std::optional(folderID));
 }
 
 void PageMenuViewModel::remove()
 {
-    PageActions::erase(*m_store, *m_ui, m_pageID);
+    PageActions::erase(store(), ui(), m_pageID);
 }

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "Foundation/KeyedListModel.h"
-#include "Session/SessionTypes.h"
-
-#include <QtQml/qqmlregistration.h>
+#include "Session/ViewModel.h"
 
 /// A folder, or none, to which the menu of a page can move it.
 struct FolderChoice {
@@ -23,12 +21,10 @@ public:
 };
 
 /// The menu of one page. It shows the page as it is when the menu opens.
-class PageMenuViewModel : public QObject
+class PageMenuViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store MEMBER m_store REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
     /// What stands for no folder.
     Q_PROPERTY(QString noFolderTitle MEMBER m_noFolderTitle FINAL)
     Q_PROPERTY(QString favoriteTitle READ favoriteTitle NOTIFY opened FINAL)
@@ -36,7 +32,7 @@ class PageMenuViewModel : public QObject
     Q_PROPERTY(QAbstractItemModel *folders READ folders CONSTANT FINAL)
 
 public:
-    explicit PageMenuViewModel(QObject *parent = nullptr) : QObject(parent) {}
+    explicit PageMenuViewModel(QObject *parent = nullptr) : ViewModel(parent) {}
 
     QString favoriteTitle() const;
     QString favoriteSymbol() const;
@@ -55,10 +51,11 @@ public:
 signals:
     void opened();
 
+protected:
+    void refresh(const ChangeSet &) override {}
+
 private:
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
-    QString m_noFolderTitle = QStringLiteral("No folder");
+    QString m_noFolderTitle = tr("No folder");
     QUuid m_pageID;
     bool m_isFavorite = false;
     KeyedListModel<FolderChoice> m_folders;

@@ -22,8 +22,7 @@ OVMenu {
             id: actions
 
             noFolderTitle: qsTr("None")
-            store: Orvel.store
-            ui: Orvel.ui
+            session: Orvel
         }
     }
 

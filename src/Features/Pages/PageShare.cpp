@@ -4,12 +4,21 @@
 #include "Foundation/Graphemes.h"
 #include "Support/PageText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <ranges>
 
 namespace
 {
-const QString untitled = QStringLiteral("Untitled");
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PageShare)
+};
+
+QString untitled()
+{
+    return Texts::tr("Untitled");
+}
 
 bool isUnfit(QChar character)
 {
@@ -33,7 +42,7 @@ QString PageShare::fileName(const QString &title)
     const auto begin = std::ranges::find_if(name, counts);
     const auto end = std::ranges::find_if(name | std::views::reverse, counts).base();
     name = begin < end ? QString(begin, end - begin) : QString();
-    return (name.isEmpty() ? untitled : name) + QStringLiteral(".md");
+    return (name.isEmpty() ? untitled() : name) + QStringLiteral(".md");
 }
 
 std::expected<void, QString> PageShare::write(const Page &page, const QString &path)
@@ -41,18 +50,18 @@ std::expected<void, QString> PageShare::write(const Page &page, const QString &p
     const auto written =
         AtomicFile::write(path, PageText::markdownExport(page).toUtf8(), AtomicFile::Access::umask);
     if (!written)
-        return std::unexpected(QStringLiteral("The page could not be saved: %1").arg(written.error()));
+        return std::unexpected(Texts::tr("The page could not be saved: %1").arg(written.error()));
     return {};
 }
 
 std::expected<QUrl, QString> PageShare::mailLink(const Page &page)
 {
-    const QString subject = page.title.trimmed().isEmpty() ? untitled : page.title.simplified();
+    const QString subject = page.title.trimmed().isEmpty() ? untitled() : page.title.simplified();
     const QString body = PageText::markdownExport(page).replace(u'\n', QStringLiteral("\r\n"));
     const QByteArray link =
         "mailto:?subject=" + QUrl::toPercentEncoding(subject) + "&body=" + QUrl::toPercentEncoding(body);
     if (link.size() > mostMailBytes)
-        return std::unexpected(QStringLiteral(
-            "The page is too long to be written into a mail. Save it as a file and attach that."));
+        return std::unexpected(
+            Texts::tr("The page is too long to be written into a mail. Save it as a file and attach that."));
     return QUrl::fromEncoded(link, QUrl::StrictMode);
 }

@@ -6,7 +6,7 @@
 
 #include <expected>
 
-/// How pages leave the program as Markdown. Failures are sentences for the person.
+/// How pages leave the program as Markdown. Failures are sentences for the user.
 namespace PageShare
 {
 /// The longest mail link, in bytes: what desktops and mail programs still take reliably.

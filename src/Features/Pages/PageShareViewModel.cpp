@@ -28,7 +28,7 @@ private:
 };
 } // namespace
 
-PageShareViewModel::PageShareViewModel(QObject *parent) : QObject(parent)
+PageShareViewModel::PageShareViewModel(QObject *parent) : ViewModel(parent)
 {
     auto *const dialog =
         new SaveFileDialog(QDBusConnection::sessionBus(),
@@ -66,16 +66,16 @@ void PageShareViewModel::save()
 
 void PageShareViewModel::saveTo(const QUuid &pageID, const SaveFileDialog::Answer &place)
 {
-    const Page *const found = m_store->pages().first(pageID);
+    const Page *const found = store().pages().first(pageID);
     if (!found)
         return;
     const QFileInfo file(place.path);
     if (const auto written = PageShare::write(*found, place.path); !written)
         emit message(written.error());
     else if (place.wasAsked)
-        emit message(QStringLiteral("Saved as “%1”.").arg(file.fileName()));
+        emit message(tr("Saved as “%1”.").arg(file.fileName()));
     else
-        emit message(QStringLiteral("Saved in “%1” as “%2”.").arg(file.dir().dirName(), file.fileName()));
+        emit message(tr("Saved in “%1” as “%2”.").arg(file.dir().dirName(), file.fileName()));
 }
 
 void PageShareViewModel::open()
@@ -91,7 +91,7 @@ void PageShareViewModel::open()
     }
     QFile::setPermissions(path, QFile::ReadOwner);
     if (!m_desktop.open(QUrl::fromLocalFile(path)))
-        emit message(QStringLiteral("There is no program to open Markdown files."));
+        emit message(tr("There is no program to open Markdown files."));
 }
 
 void PageShareViewModel::mail()
@@ -102,5 +102,5 @@ void PageShareViewModel::mail()
     if (const auto link = PageShare::mailLink(*found); !link)
         emit message(link.error());
     else if (!m_desktop.open(*link))
-        emit message(QStringLiteral("There is no mail program to write with."));
+        emit message(tr("There is no mail program to write with."));
 }

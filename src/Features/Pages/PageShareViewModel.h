@@ -1,17 +1,15 @@
 #pragma once
 
 #include "Session/SaveFileDialog.h"
-#include "Session/SessionTypes.h"
+#include "Session/ViewModel.h"
 
 #include <QUrl>
-#include <QtQml/qqmlregistration.h>
 
 /// What the copy and the share menu of a page do.
-class PageShareViewModel : public QObject
+class PageShareViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store MEMBER m_store REQUIRED FINAL)
     Q_PROPERTY(QUuid pageID MEMBER m_pageID REQUIRED FINAL)
 
 public:
@@ -30,7 +28,7 @@ public:
 
     Q_INVOKABLE void copyMarkdown();
     Q_INVOKABLE void copyPlainText();
-    /// Saves the page as a Markdown file in a place that the person chooses.
+    /// Saves the page as a Markdown file in a place that the user chooses.
     Q_INVOKABLE void save();
     /// Shows the page in the program that opens Markdown files. It works on a copy that cannot be written
     /// and is removed when this program ends.
@@ -41,11 +39,13 @@ signals:
     /// A sentence on how it went.
     void message(const QString &text);
 
+protected:
+    void refresh(const ChangeSet &) override {}
+
 private:
-    const Page *page() const { return m_store->pages().first(m_pageID); }
+    const Page *page() const { return store().pages().first(m_pageID); }
     void saveTo(const QUuid &pageID, const SaveFileDialog::Answer &place);
 
-    WorkspaceStore *m_store = nullptr;
     QUuid m_pageID;
     Desktop m_desktop;
 };

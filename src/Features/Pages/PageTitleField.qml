@@ -1,6 +1,7 @@
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
+import Orvel.Session
 
 /// The title of a page, edited where it stands: one line of text that wraps where it is long.
 OVTextField {
@@ -8,7 +9,7 @@ OVTextField {
 
     required property PageHeaderViewModel header
 
-    /// The person goes on from the title, with Return, Tab or down from its last line.
+    /// The user goes on from the title, with Return, Tab or down from its last line.
     signal leaveDown()
 
     /// Shows the title as it is stored, with the caret in place.
@@ -35,6 +36,7 @@ OVTextField {
     font.pixelSize: Theme.sizePageTitle
     placeholderText: qsTr("Untitled")
     plain: true
+    storeBacked: true
     wrapMode: TextInput.Wrap
     Accessible.name: qsTr("Title")
 
@@ -64,7 +66,9 @@ OVTextField {
         event.accepted = !inputMethodComposing && (event.modifiers & ~Qt.KeypadModifier) === Qt.NoModifier
                          && moveLine(-1)
     }
+    onRedoRequested: Orvel.undo.redo()
     onTextEdited: show(header.setTitle(text))
+    onUndoRequested: Orvel.undo.undo()
 
     Connections {
         function onTitleChanged() {

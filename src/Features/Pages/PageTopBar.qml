@@ -21,7 +21,7 @@ Item {
         id: share
 
         pageID: root.header.pageID
-        store: Orvel.store
+        session: Orvel
         onMessage: text => root.message(text)
     }
 

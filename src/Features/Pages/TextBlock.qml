@@ -35,26 +35,16 @@ BlockBody {
     implicitHeight: field.implicitHeight + (isCallout ? Theme.space4 * 2 : 0) + part.height
     input: field
 
+    // The card of a callout or the bar of a quote.
     Rectangle {
-        anchors.bottomMargin: Theme.space4
-        anchors.fill: parent
-        anchors.topMargin: Theme.space4
         border.color: Qt.alpha(mark.toneColor, Theme.inkMode ? 1 : 0.3)
-        border.width: Theme.lineWidth
-        color: Qt.alpha(mark.toneColor, Theme.inkMode ? 0 : 0.09)
-        radius: Theme.cornerField
-        visible: root.isCallout
-    }
-
-    Rectangle {
-        anchors.bottom: field.bottom
-        anchors.bottomMargin: Theme.space4
-        anchors.top: field.top
-        anchors.topMargin: Theme.space4
-        color: Theme.ovInkTertiary
-        radius: width / 2
-        visible: root.marker === "bar"
-        width: 3
+        border.width: root.isCallout ? Theme.lineWidth : 0
+        color: root.isCallout ? Qt.alpha(mark.toneColor, Theme.inkMode ? 0 : 0.09) : Theme.ovInkTertiary
+        height: field.height + 2 * field.y - 2 * Theme.space4
+        radius: root.isCallout ? Theme.cornerField : width / 2
+        visible: root.isCallout || root.marker === "bar"
+        width: root.isCallout ? root.width : 3
+        y: Theme.space4
     }
 
     BlockMarker {

@@ -26,8 +26,7 @@ Item {
     PageMenuViewModel {
         id: pageActions
 
-        store: Orvel.store
-        ui: Orvel.ui
+        session: Orvel
     }
 
     OVMenu {

@@ -146,6 +146,80 @@ Item {
             compare(texts(), "one!|three")
         }
 
+        function undo() {
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            wait(0)
+        }
+
+        function redo() {
+            keyClick(Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier)
+            wait(0)
+        }
+
+        function test_undoTakesBackAboutAWord() {
+            open(["one", "end"])
+            edit("one")
+            type(" two three")
+            undo()
+            at("one two ", 8)
+            undo()
+            compare(texts(), "one |end")
+            edit("end", 0)
+            type("the ")
+            undo()
+            at("end", 0)
+            undo()
+            at("one", 3)
+            redo()
+            redo()
+            compare(texts(), "one |the end")
+            at("the end", 4)
+            const title = one(item => item instanceof PageTitleField)
+            mouseClick(title)
+            keyClick(Qt.Key_End)
+            type("!")
+            const named = saved().title
+            undo()
+            compare(saved().title + "!", named)
+            verify(title.activeFocus)
+            undo()
+            at("end", 0)
+            compare(texts(), "one |end")
+        }
+
+        function test_undoBringsBackBlocks_data() {
+            const keys = (key, modifiers) => () => keyClick(key, modifiers ?? Qt.NoModifier)
+            return [
+                { tag: "new", act: keys(Qt.Key_Return), text: "two" },
+                { tag: "move", act: keys(Qt.Key_Down, Qt.ControlModifier | Qt.ShiftModifier), text: "two" },
+                { tag: "type", act: () => root.view.editor.changeType(saved().content[1].id, 1), text: "two" },
+                { tag: "check", act: keys(Qt.Key_Space), text: "two", focuses: "Backtab" },
+                { tag: "delete", act: () => root.view.editor.deleteBlock(saved().content[1].id), text: "two" },
+                { tag: "duplicate", act: () => root.view.editor.duplicateBlock(saved().content[1].id), text: "two" }
+            ]
+        }
+
+        function test_undoBringsBackBlocks(data) {
+            open(["one", { type: "checklist", text: "two" }, "three"])
+            edit("two", 2)
+            if (data.focuses)
+                keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            const before = Workspace.saved()
+            data.act()
+            wait(0)
+            const after = Workspace.saved()
+            verify(after !== before)
+            undo()
+            compare(Workspace.saved(), before)
+            if (!data.focuses)
+                at(data.text)
+            redo()
+            compare(Workspace.saved(), after)
+            verify(focused() instanceof BlockField || data.focuses)
+            undo()
+            compare(Workspace.saved(), before)
+        }
+
         function test_returnMakesAParagraphBelow() {
             open([{ type: "checklist", text: "one" }, "three"])
             edit("one", 1)
@@ -184,6 +258,7 @@ Item {
             }
             open(["one", { type: "checklist", text: "two" }, { type: "quote", text: "" }, { type: "numbered", text: "4" }])
             edit("one")
+            const first = Workspace.saved()
             let marks = ""
             const swap = Qt.ControlModifier | Qt.ShiftModifier
             const mark = () => {
@@ -231,6 +306,18 @@ Item {
             verify(marks.length > 12)
             for (const text of marks)
                 verify(whole.includes(text), "There is " + text)
+
+            // All the way back and forth again, through the same states.
+            const states = [Workspace.saved()]
+            while (states[states.length - 1] !== first) {
+                undo()
+                states.push(Workspace.saved())
+                verify(states.length < 200)
+            }
+            while (states.length > 0) {
+                compare(Workspace.saved(), states.pop())
+                redo()
+            }
         }
 
         function test_arrowsKeepTheColumn() {
@@ -287,14 +374,11 @@ Item {
             compare(texts(), "one a|b||ctwo|end")
             compare(types(), "bulleted paragraph paragraph paragraph paragraph")
             compare(new Set(saved().content.map(block => block.id)).size, 5)
-            edit("one a", 0)
             keyClick(Qt.Key_Z, Qt.ControlModifier)
-            compare(texts(), "one two|b||ctwo|end")
-            keyClick(Qt.Key_Z, Qt.ControlModifier)
-            compare(texts(), "one two|b||ctwo|end")
+            compare(texts(), "one two|end")
+            at("one two", 4)
             keyClick(Qt.Key_Y, Qt.ControlModifier)
-            keyClick(Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier)
-            compare(types(), "bulleted paragraph paragraph paragraph paragraph")
+            compare(texts(), "one a|b||ctwo|end")
             edit("end")
             Composer.copy("!\n")
             keyClick(Qt.Key_V, Qt.ControlModifier)

@@ -1,5 +1,6 @@
 #include "Features/Pages/PageEditorViewModel.h"
 #include "Harness/TestWorkspace.h"
+#include "Store/SnapshotCodec.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
@@ -16,7 +17,8 @@
 using namespace Qt::StringLiterals;
 
 /// Random operations, each also done in the plainest way to a list of blocks: after each of them the record,
-/// the rows shown and, now and then, the file hold what the list holds.
+/// the rows shown and, now and then, the file hold what the list holds. Undone and done again, the workspace
+/// is byte for byte what it was.
 class PageEditorOperationsTest : public QObject
 {
     Q_OBJECT
@@ -48,8 +50,13 @@ private:
     static QStringList numberTexts(const QList<Block> &blocks);
     static QStringList role(PageEditorViewModel &editor, const QByteArray &name);
     QList<Block> savedBlocks();
+    QByteArray encoded() const { return SnapshotCodec::encode(m_workspace.store().snapshot()); }
+    /// Undoes and redoes some steps; each state has to be one that was seen on the way.
+    void goBackAndForth(PageEditorViewModel &editor, int steps);
+    void checkRows(PageEditorViewModel &editor);
 
     mutable TestWorkspace m_workspace;
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
     QUuid m_page;
     QList<Block> m_expected;
     Random m_random;
@@ -223,10 +230,13 @@ void PageEditorOperationsTest::keepRecordRowsAndFileEqual()
     m_workspace.reset();
     m_page = QUuid(m_workspace.addPageOf({QVariantMap{{u"text"_s, u"one"_s}}}));
     m_expected = content();
+    m_workspace.ui().selectPage(m_page);
     PageEditorViewModel editor;
-    editor.setStore(&m_workspace.store());
+    editor.setSession(&m_session);
     editor.setPageID(m_page);
     const QAbstractItemModelTester tester(editor.rows());
+    const QByteArray first = encoded();
+    const std::size_t stepsBefore = m_workspace.store().history().size();
 
     for (int step = 0; step < 600; ++step) {
         operate(editor);
@@ -237,17 +247,55 @@ void PageEditorOperationsTest::keepRecordRowsAndFileEqual()
         // Some turns of the event loop hold several operations.
         if (below(3) > 0)
             continue;
-        QCoreApplication::sendPostedEvents();
-        QStringList texts;
-        for (const Block &block : m_expected)
-            texts.append(block.type == BlockType::divider ? QString() : block.text);
-        QCOMPARE(role(editor, "blockText"), texts);
-        QCOMPARE(role(editor, "numberText"), numberTexts(m_expected));
+        checkRows(editor);
         if (step % 20 == 0)
             QCOMPARE(savedBlocks(), m_expected);
+        if (step % 10 == 0)
+            goBackAndForth(editor, below(30));
     }
     QVERIFY(m_expected.size() > 3);
     QCOMPARE(savedBlocks(), m_expected);
+
+    const QByteArray last = encoded();
+    const std::size_t steps = m_workspace.store().history().size();
+    for (std::size_t step = 0; step < steps - stepsBefore; ++step)
+        m_session.undo()->undo();
+    QCOMPARE(encoded(), first);
+    while (m_session.undo()->canRedo())
+        m_session.undo()->redo();
+    QCOMPARE(encoded(), last);
+    checkRows(editor);
+}
+
+void PageEditorOperationsTest::checkRows(PageEditorViewModel &editor)
+{
+    QCoreApplication::sendPostedEvents();
+    QStringList texts;
+    for (const Block &block : content())
+        texts.append(block.type == BlockType::divider ? QString() : block.text);
+    QCOMPARE(role(editor, "blockText"), texts);
+    QCOMPARE(role(editor, "numberText"), numberTexts(content()));
+}
+
+void PageEditorOperationsTest::goBackAndForth(PageEditorViewModel &editor, int steps)
+{
+    UndoController &undo = *m_session.undo();
+    QList<QByteArray> states{encoded()};
+    while (states.size() <= steps && m_workspace.store().history().undoStep()->record == m_page &&
+           m_workspace.store().history().undoStep()->name != u"New Page"_s) {
+        undo.undo();
+        states.append(encoded());
+        QVERIFY(states.last() != states[states.size() - 2]);
+        if (below(4) == 0)
+            checkRows(editor);
+    }
+    while (states.size() > 1) {
+        QCOMPARE(encoded(), states.takeLast());
+        undo.redo();
+    }
+    QCOMPARE(encoded(), states.first());
+    QVERIFY(!undo.canRedo());
+    checkRows(editor);
 }
 
 QTEST_MAIN(PageEditorOperationsTest)

@@ -83,6 +83,7 @@ private:
     bool isTouched() const { return page().updatedDate == m_workspace.clock().now(); }
 
     mutable TestWorkspace m_workspace;
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
     QUuid m_page;
     std::unique_ptr<PageEditorViewModel> m_model;
     std::unique_ptr<QAbstractItemModelTester> m_tester;
@@ -93,7 +94,7 @@ void PageEditorViewModelTest::init()
 {
     m_workspace.reset();
     m_model = std::make_unique<PageEditorViewModel>();
-    m_model->setStore(&m_workspace.store());
+    m_model->setSession(&m_session);
     m_tester = std::make_unique<QAbstractItemModelTester>(m_model->rows());
     m_focus = std::make_unique<QSignalSpy>(m_model.get(), &PageEditorViewModel::focusRequested);
 }
@@ -266,7 +267,7 @@ void PageEditorViewModelTest::showsLongTextsInParts()
     QVERIFY(shown().startsWith(u"new "_s));
 
     // A line feed takes along all that stands behind it.
-    QCOMPARE(m_model->setText(id(0), QString(shown()).replace(0, 4, u"x\ny"_s)), u"x"_s);
+    QVERIFY(m_model->setText(id(0), QString(shown()).replace(0, 4, u"x\ny"_s)).endsWith(u'x'));
     finishTurn();
     QCOMPARE(page().content[0].text, text.first(first) + u'x');
     QCOMPARE(page().content[1].text, u'y' + text.sliced(first));
@@ -280,7 +281,8 @@ void PageEditorViewModelTest::pastesLongTexts_data()
     QTest::addColumn<int>("blocks");
     QTest::addColumn<int>("focusedBlock");
     const QString line = u"A line of some length."_s;
-    QTest::newRow("short") << u"paragraph"_s << line << 2 << -1;
+    QTest::newRow("short") << u"paragraph"_s << line << 2 << 0;
+    QTest::newRow("short code") << u"code"_s << line << 2 << -1;
     QTest::newRow("one line") << u"paragraph"_s << line.repeated(50'000) << 2 << 0;
     QTest::newRow("lines") << u"paragraph"_s << (line + u"\r\n"_s).repeated(50'000) << 50'002 << 50'000;
     QTest::newRow("code") << u"code"_s << (line + u'\n').repeated(50'000) << 2 << 0;
@@ -294,7 +296,7 @@ void PageEditorViewModelTest::pastesLongTexts()
     QFETCH(int, focusedBlock);
     openBlocks({QVariantMap{{u"text"_s, u"abcd"_s}, {u"type"_s, type}}, QVariantMap{{u"text"_s, u"end"_s}}});
     QGuiApplication::clipboard()->setText(pasted);
-    QCOMPARE(m_model->pasteLong(id(0), 1, 3), focusedBlock >= 0);
+    QCOMPARE(m_model->paste(id(0), 1, 3), focusedBlock >= 0);
     finishTurn();
     QCOMPARE(page().content.size(), blocks);
     if (focusedBlock < 0)

@@ -178,7 +178,7 @@ Item {
             const field = find("Title")
             field.cursorPosition = 2
             Workspace.renamePage(id, "Plan of the day")
-            compare(field.text, "Plan of the day")
+            tryCompare(field, "text", "Plan of the day")
             compare(field.cursorPosition, 2)
         }
 
@@ -199,7 +199,7 @@ Item {
             open(Workspace.addPage("Plan"))
             click("Favorite")
             compare(page().isFavorite, true)
-            verify(find("Favorite").Accessible.checked)
+            tryVerify(() => find("Favorite").Accessible.checked)
             click("Favorite")
             compare(page().isFavorite, false)
         }

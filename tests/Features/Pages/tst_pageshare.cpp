@@ -50,6 +50,7 @@ private:
     }
 
     TestWorkspace m_workspace;
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
     QTemporaryDir m_folder;
     PageShareViewModel m_share;
     std::unique_ptr<QSignalSpy> m_messages;
@@ -66,7 +67,7 @@ void PageShareTest::init()
     m_canOpen = true;
     m_place.reset();
     m_messages = std::make_unique<QSignalSpy>(&m_share, &PageShareViewModel::message);
-    m_share.setProperty("store", QVariant::fromValue(&m_workspace.store()));
+    m_share.setSession(&m_session);
     m_share.setDesktop({[this](const QUrl &url) {
                             m_opened.append(url);
                             return m_canOpen;

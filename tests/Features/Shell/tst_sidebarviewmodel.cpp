@@ -260,9 +260,9 @@ void SidebarViewModelTest::offersWhatCanBeDoneWithAPage()
     WorkspaceStore &store = m_workspace->store();
     const QUuid folder(m_workspace->addFolder(QStringLiteral("Travel")));
     const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
+    OrvelSession session(&store, &m_workspace->ui());
     PageMenuViewModel menu;
-    menu.setProperty("store", QVariant::fromValue(&store));
-    menu.setProperty("ui", QVariant::fromValue(&m_workspace->ui()));
+    menu.setSession(&session);
     menu.open(page);
     QCOMPARE(menu.favoriteTitle(), QStringLiteral("Add to favorites"));
     const QList<FolderChoice> loose{{{}, "No folder", true}, {folder, "Travel", false}};

@@ -25,7 +25,7 @@ public:
     explicit Desk(int pages)
     {
         for (const Page &page : WorkspaceGenerator::longPages(pages, 1024))
-            m_store.append(page);
+            m_store.add(page);
         m_store.changeSettings([](AppSettings &settings) { settings.reducedMotion = true; });
         OVTheme::apply(m_store.settings());
         m_session.search()->search(u"zzz"_s);
@@ -89,7 +89,7 @@ void measurePreparation(Comparison &comparison)
     const SystemClock clock;
     WorkspaceStore store({.filePath = u"/nowhere/workspace.json"_s, .clock = &clock});
     for (const Page &page : WorkspaceGenerator::longPages(100'000, 1024))
-        store.append(page);
+        store.add(page);
     WorkspaceSearch search(store);
     QList<Comparison::Duration> slices;
     bool isDone = false;
@@ -103,7 +103,7 @@ void measurePreparation(Comparison &comparison)
     for (int i = 0; i < 50; ++i) {
         Page page = store.pages().all().at(i * 1999);
         page.title += u'x';
-        store.replace(page);
+        store.change<Page>(page.id, [&](Page &changed) { changed = page; });
         changes.append(timed([&] { search.prepare(std::chrono::milliseconds(3)); }));
     }
     comparison.timeUnder(u"the slice after a change of one in 100,000 pages, 95 of 100"_s,

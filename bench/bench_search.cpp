@@ -34,7 +34,7 @@ int main(int argc, char *argv[])
     const SystemClock clock;
     WorkspaceStore store({.filePath = u"/nowhere/workspace.json"_s, .clock = &clock});
     for (const Page &page : WorkspaceGenerator::longPages(pageCount, pageLength))
-        store.append(page);
+        store.add(page);
 
     Comparison comparison;
     WorkspaceSearch search(store);

@@ -8,7 +8,8 @@
 class FileDescriptor
 {
 public:
-    explicit FileDescriptor(int number = -1) : m_number(number) {}
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number) : m_number(number) {}
     FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
     FileDescriptor &operator=(FileDescriptor &&other) noexcept
     {
@@ -23,5 +24,5 @@ public:
     bool close() { return !isOpen() || ::close(std::exchange(m_number, -1)) == 0 || errno == EINTR; }
 
 private:
-    int m_number;
+    int m_number = -1;
 };

@@ -41,8 +41,9 @@ QStringList OVFonts::families(FontChoice design)
                 QStringLiteral("Comfortaa"), QStringLiteral("Inter"),  QStringLiteral("DejaVu Sans")};
     case FontChoice::serif:
         // Figures as high as capitals come first: old-style ones read as letters ("Note I", "24:5q").
-        return {QStringLiteral("Caladea"),    QStringLiteral("Cambria"),          QStringLiteral("Source Serif 4"),
-                QStringLiteral("Noto Serif"), QStringLiteral("Liberation Serif"), QStringLiteral("Vollkorn"),
+        return {QStringLiteral("Caladea"),          QStringLiteral("Cambria"),
+                QStringLiteral("Source Serif 4"),   QStringLiteral("Noto Serif"),
+                QStringLiteral("Liberation Serif"), QStringLiteral("Vollkorn"),
                 QStringLiteral("DejaVu Serif")};
     case FontChoice::monospaced:
         return {QStringLiteral("JetBrains Mono"),  QStringLiteral("Fira Code"),

@@ -3,6 +3,13 @@
 #include "Foundation/Choice.h"
 #include "Session/OrvelSession.h"
 
+/// Makes the choices known to QML.
+struct ChoiceType {
+    Q_GADGET
+    QML_FOREIGN(Choice)
+    QML_ANONYMOUS
+};
+
 /// What the user does to one task, from whichever screen shows it. Statuses and priorities are told by their
 /// raw texts; an unknown task or text does nothing.
 class TaskActions : public QObject

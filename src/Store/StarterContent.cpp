@@ -65,43 +65,48 @@ void removeExamples(WorkspaceStore &store)
 
 void StarterContent::completeOnboarding(WorkspaceStore &store, const Choices &choices)
 {
-    const Action action = Action::background(store);
-    store.changeSettings([&](AppSettings &settings) {
-        settings.userName = choices.userName.trimmed();
-        const QString name = choices.workspaceName.trimmed();
-        settings.workspaceName = name.isEmpty() ? AppSettings().workspaceName : name;
-        settings.workspaceIcon = choices.workspaceIcon;
-        settings.appearance = choices.appearance;
-        settings.hiddenModules.clear();
-        for (const auto &entry : enumCases<OrvelModule>())
-            settings.setModule(entry.value, choices.modules.contains(entry.value));
-    });
-    seed(store, choices.modules, choices.includeSamples);
-    store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
+    {
+        const Action action = Action::background(store);
+        store.changeSettings([&](AppSettings &settings) {
+            settings.userName = choices.userName.trimmed();
+            const QString name = choices.workspaceName.trimmed();
+            settings.workspaceName = name.isEmpty() ? AppSettings().workspaceName : name;
+            settings.workspaceIcon = choices.workspaceIcon;
+            settings.appearance = choices.appearance;
+            settings.hiddenModules.clear();
+            for (const auto &entry : enumCases<OrvelModule>())
+                settings.setModule(entry.value, choices.modules.contains(entry.value));
+        });
+        seed(store, choices.modules, choices.includeSamples);
+        store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
+    }
+    // What an action did is known, and saved, once it has ended.
     store.saveNow();
 }
 
 void StarterContent::seed(WorkspaceStore &store, const QList<OrvelModule> &modules, bool samples)
 {
-    const Action action(store, ActionText::tr("Add Example Content"));
-    StarterRecords records(store);
-    records.addWelcomePage();
-    if (samples) {
-        records.addPages();
-        using Group = void (StarterRecords::*)();
-        static constexpr auto groups = std::to_array<std::pair<OrvelModule, Group>>({
-            {OrvelModule::notes, &StarterRecords::addInbox},
-            {OrvelModule::tasks, &StarterRecords::addTasks},
-            {OrvelModule::projects, &StarterRecords::addProject},
-            {OrvelModule::databases, &StarterRecords::addDatabase},
-            {OrvelModule::calendar, &StarterRecords::addEvents},
-            {OrvelModule::habits, &StarterRecords::addHabits},
-            {OrvelModule::code, &StarterRecords::addCode},
-            {OrvelModule::decks, &StarterRecords::addDeck},
-        });
-        for (const auto &[module, group] : groups)
-            if (modules.contains(module))
-                (records.*group)();
+    {
+        const Action action(store, ActionText::tr("Add Example Content"));
+        StarterRecords records(store);
+        records.addWelcomePage();
+        if (samples) {
+            records.addPages();
+            using Group = void (StarterRecords::*)();
+            static constexpr auto groups = std::to_array<std::pair<OrvelModule, Group>>({
+                {OrvelModule::notes, &StarterRecords::addInbox},
+                {OrvelModule::tasks, &StarterRecords::addTasks},
+                {OrvelModule::projects, &StarterRecords::addProject},
+                {OrvelModule::databases, &StarterRecords::addDatabase},
+                {OrvelModule::calendar, &StarterRecords::addEvents},
+                {OrvelModule::habits, &StarterRecords::addHabits},
+                {OrvelModule::code, &StarterRecords::addCode},
+                {OrvelModule::decks, &StarterRecords::addDeck},
+            });
+            for (const auto &[module, group] : groups)
+                if (modules.contains(module))
+                    (records.*group)();
+        }
     }
     store.saveNow();
 }

@@ -5,8 +5,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// What assistive technology is told of the items of a window, and what it can do to them: the bridge to it reads
-/// the same interfaces.
+/// What assistive technology is told of the items of a window, and what it can do to them: the bridge to it
+/// reads the same interfaces.
 class Assistive : public QObject
 {
     Q_OBJECT
@@ -17,15 +17,16 @@ public:
     /// Assistive technology appears.
     Q_INVOKABLE void begin() { QAccessible::setActive(true); }
 
-    /// Role and name, then the states that hold, such as "RadioButton All checked"; empty for an item that it does
-    /// not see.
+    /// Role and name, then the states that hold, such as "RadioButton All checked"; empty for an item that it
+    /// does not see.
     Q_INVOKABLE QString describe(QQuickItem *item) const
     {
         const QAccessibleInterface *const seen = interface(item);
         if (!seen)
             return {};
-        QStringList words{QString::fromLatin1(QMetaEnum::fromType<QAccessible::Role>().valueToKey(seen->role())),
-                          seen->text(QAccessible::Name)};
+        QStringList words{
+            QString::fromLatin1(QMetaEnum::fromType<QAccessible::Role>().valueToKey(seen->role())),
+            seen->text(QAccessible::Name)};
         const QAccessible::State state = seen->state();
         if (state.checked)
             words << QStringLiteral("checked");

@@ -11,9 +11,9 @@ Item {
     required property TasksViewModel viewModel
 
     function choose(index: int) {
-        const chip = chips.itemAt(Math.max(0, Math.min(index, chips.count - 1)))
-        viewModel.filter = chip.modelData.raw
-        chip.forceActiveFocus(Qt.TabFocusReason)
+        const next = Math.max(0, Math.min(index, chips.count - 1))
+        viewModel.filter = viewModel.filters[next].raw
+        chips.itemAt(next).forceActiveFocus(Qt.TabFocusReason)
     }
 
     implicitHeight: row.height

@@ -30,7 +30,7 @@ QQuickItem *AccessibleItem::item() const
 
 QObject *AccessibleItem::accessible() const
 {
-    const OVAccessible *const attached = OVAccessible::of(object());
+    OVAccessible *const attached = OVAccessible::of(object());
     return attached ? attached->accessible() : nullptr;
 }
 

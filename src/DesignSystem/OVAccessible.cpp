@@ -96,6 +96,14 @@ QQuickItem *OVAccessible::item() const
     return content ? content->parentItem() : nullptr;
 }
 
+QObject *OVAccessible::accessible()
+{
+    // Not there yet while the item is being made.
+    if (!m_accessible && item())
+        m_accessible = QQmlProperty(item(), QStringLiteral("Accessible.name"), qmlContext(parent())).object();
+    return m_accessible;
+}
+
 void OVAccessible::applyLater()
 {
     if (!QAccessible::isActive())
@@ -113,8 +121,12 @@ void OVAccessible::apply()
     if (!seen)
         return;
     seen->setProperty(attachedProperty, QVariant::fromValue(this));
-    const QQmlProperty nameProperty(seen, QStringLiteral("Accessible.name"), qmlContext(parent()));
-    m_accessible = nameProperty.object();
-    if (!m_name.isEmpty())
-        nameProperty.write(m_name);
+    if (!m_name.isEmpty() && accessible())
+        accessible()->setProperty("name", m_name);
+    if (m_role == QAccessible::NoRole)
+        return;
+    // An interface that was asked for before would keep the role of the control's kind.
+    QAccessibleInterface *const known = QAccessible::queryAccessibleInterface(seen);
+    if (known && !dynamic_cast<AccessibleItem *>(known))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
 }

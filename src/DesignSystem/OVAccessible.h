@@ -30,7 +30,7 @@ public:
     void setName(const QString &name);
 
     /// The `Accessible` of the item.
-    QObject *accessible() const { return m_accessible; }
+    QObject *accessible();
     /// Lets assistive technology see what is attached.
     void apply();
 

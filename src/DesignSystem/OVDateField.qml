@@ -11,8 +11,8 @@ T.AbstractButton {
 
     /// An invalid date shows the placeholder.
     property date value
-    /// The present moment, which marks today; taken anew each time the picker opens.
-    property date now: new Date()
+    /// The present moment, which marks today; to be set anew at `aboutToOpen`.
+    required property date now
     property bool showsDate: true
     property bool showsTime: false
     /// Whether the value can be taken away in the picker.
@@ -25,13 +25,15 @@ T.AbstractButton {
     /// The open picker, or null before it is first opened.
     readonly property OVDatePopup popup: loader.item as OVDatePopup
 
-    /// The person chose this moment.
+    /// The pickers open.
+    signal aboutToOpen()
+    /// The user chose this moment.
     signal edited(moment: date)
-    /// The person took the value away.
+    /// The user took the value away.
     signal cleared()
 
     function open() {
-        now = new Date()
+        aboutToOpen()
         loader.load()
         popup.byKeyboard = visualFocus
         popup.open()

@@ -12,7 +12,7 @@ T.Control {
     /// The chosen moment; an invalid date while nothing is chosen.
     property date value
     /// The present moment, which marks today.
-    property date now: new Date()
+    required property date now
     /// Whether a button below the month goes to today and chooses it.
     property bool showsToday: false
     /// Whether a button below the month takes the choice away.

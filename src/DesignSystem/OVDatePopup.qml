@@ -8,7 +8,7 @@ OVPopup {
     /// An invalid date while nothing is chosen.
     property date value
     /// The present moment, which marks today.
-    property date now: new Date()
+    required property date now
     property bool showsDate: true
     property bool showsTime: false
     /// Whether the value can be taken away.

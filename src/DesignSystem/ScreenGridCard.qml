@@ -6,8 +6,8 @@ import Orvel.DesignSystem
 /// A card of a `ScreenGrid`, which can be pressed and takes the focus as a whole. Its parts are no stops for
 /// Tab.
 ///
-/// A card that is removed under the pointer keeps its place until the pointer moves, so that a second click meets
-/// nothing else.
+/// A card that is removed under the pointer takes the clicks at its place until the pointer moves, so that a second
+/// one meets nothing else.
 FocusScope {
     id: root
 
@@ -30,7 +30,8 @@ FocusScope {
             (entry.createObject(root) as Animation).start()
     }
     GridView.onRemove: {
-        root.GridView.delayRemove = true;
+        root.GridView.delayRemove = true
+        z = 1;
         (removal.createObject(root) as OVRemoval).begin()
     }
     Keys.onBacktabPressed: grid.exitBackwards()

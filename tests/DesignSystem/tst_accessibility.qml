@@ -54,9 +54,9 @@ Item {
             const seen = items().map(item => Assistive.describe(item))
             const expected = [
                 "Heading Gallery", "Heading Buttons and chips",
-                "Button Add", "Button New page", "Button Disabled", "Button Cancel",
-                "Button More", "Button Close",
-                "CheckBox All checked", "CheckBox Open", "CheckBox Upcoming",
+                "Button Add", "Button New page", "Button Disabled disabled", "Button Cancel",
+                "Button More", "Button Close disabled",
+                "CheckBox All checked", "CheckBox Open", "CheckBox Upcoming disabled",
                 "CheckBox Off", "CheckBox On checked", "CheckBox Not yet", "CheckBox Done checked",
                 "PageTabList Priority", "PageTab medium selected", "PageTab high",
                 "ComboBox Kind", "Slider Volume",
@@ -64,7 +64,7 @@ Item {
                 "EditableText New task", "EditableText Search", "EditableText Workspace name", "EditableText Notes",
                 "Button Due: Nov 18, 2026",
                 "Table Wednesday, 18 November 2026", "SpinBox Hours", "SpinBox Minutes",
-                "MenuBar Menu bar", "MenuItem File", "MenuItem Duplicate", "MenuItem Rename",
+                "MenuBar Menu bar", "MenuItem File", "MenuItem Duplicate", "MenuItem Rename disabled",
                 "MenuItem Pinned checked", "ButtonMenu Page menu",
                 "Grouping Sessions today, 4", "StaticText Planning", "ProgressBar Done",
                 "Button Add your first habit"

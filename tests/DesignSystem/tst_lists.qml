@@ -199,7 +199,7 @@ Item {
             verify(list.currentItem.visualFocus)
         }
 
-        // Whoever clicks twice deletes one: the next item comes under the pointer only when that moves.
+        // Whoever clicks twice deletes one: the next item can be clicked only when the pointer has moved.
         function test_deletingByMouseKeepsThePlace_data() {
             return [
                 { tag: "list", view: list, next: 2 },
@@ -218,12 +218,13 @@ Item {
             mouseClick(root, x, place.y)
             compare(rows.count, 19)
             wait(Theme.durationRemoval + 100)
-            compare(after.x, where.x)
-            compare(after.y, where.y)
+            if (data.view === list)
+                compare(after.y, where.y)
             mouseClick(root, x, place.y)
             compare(rows.count, 19)
             mouseMove(root, x + 3, place.y)
             tryVerify(() => after.x !== where.x || after.y !== where.y)
+            wait(Theme.durationRemoval + 100)
             mouseClick(root, x + 3, place.y)
             tryCompare(rows, "count", 18)
         }

@@ -13,6 +13,7 @@ Item {
     }
 
     OVDateField {
+        now: new Date(2026, 10, 22, 9, 30)
         id: field
         x: 500
         y: 540

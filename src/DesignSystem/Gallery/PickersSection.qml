@@ -14,13 +14,13 @@ GallerySection {
         Layout.fillWidth: true
         spacing: Theme.space12
 
-        OVDateField { name: "Due"; value: section.moment; onEdited: moment => section.moment = moment }
-        OVDateField { clearable: true; showsTime: true; value: section.moment; onEdited: moment => section.moment = moment }
-        OVDateField { placeholderText: "No date" }
-        OVDateField { enabled: false; value: section.moment }
-        OVDateField { compact: true; placeholderText: "Due date" }
-        OVDateField { compact: true; value: section.moment; onEdited: moment => section.moment = moment }
-        OVDateField { compact: true; showsDate: false; showsTime: true; value: section.moment; onEdited: moment => section.moment = moment }
+        OVDateField { now: section.today; name: "Due"; value: section.moment; onEdited: moment => section.moment = moment }
+        OVDateField { now: section.today; clearable: true; showsTime: true; value: section.moment; onEdited: moment => section.moment = moment }
+        OVDateField { now: section.today; placeholderText: "No date" }
+        OVDateField { now: section.today; enabled: false; value: section.moment }
+        OVDateField { now: section.today; compact: true; placeholderText: "Due date" }
+        OVDateField { now: section.today; compact: true; value: section.moment; onEdited: moment => section.moment = moment }
+        OVDateField { now: section.today; compact: true; showsDate: false; showsTime: true; value: section.moment; onEdited: moment => section.moment = moment }
     }
 
     Flow {

@@ -12,9 +12,12 @@ ScreenListRow {
     rowHeight: Theme.space16 + Theme.rowHeight + Theme.space4
 
     Accessible.focusable: true
-    Accessible.name: button.Accessible.name
-    Accessible.role: Accessible.ListItem
+    Accessible.checkable: true
+    Accessible.checked: viewModel.showDone
+    Accessible.name: qsTr("Completed, %1").arg(count)
+    Accessible.role: Accessible.CheckBox
     Accessible.onPressAction: button.activate()
+    Accessible.onToggleAction: button.activate()
     Keys.onPressed: event => {
         switch (event.key) {
         case Qt.Key_Space:
@@ -34,11 +37,9 @@ ScreenListRow {
         height: Theme.rowHeight
         leftPadding: Theme.space8
         rightPadding: Theme.space8
+        width: parent.width
         y: Theme.space16
-        Accessible.checkable: true
-        Accessible.checked: row.viewModel.showDone
-        OVAccessible.role: Accessible.CheckBox
-        Accessible.name: qsTr("Completed, %1").arg(row.count)
+        Accessible.ignored: true
         onClicked: row.viewModel.showDone = !row.viewModel.showDone
 
         contentItem: Row {

@@ -70,9 +70,11 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 compact: true
                 name: qsTr("Due")
+                now: Orvel.now()
                 showsTime: true
                 value: form.viewModel.due
                 visible: form.viewModel.dueEnabled
+                onAboutToOpen: now = Orvel.now()
                 onEdited: moment => form.viewModel.due = moment
             }
         }

@@ -44,12 +44,6 @@ Item {
             checkRoles()
         }
 
-        function test_rolesWhenItIsThere() {
-            Assistive.begin()
-            show()
-            checkRoles()
-        }
-
         function checkRoles() {
             const seen = items().map(item => Assistive.describe(item))
             const expected = [
@@ -122,11 +116,8 @@ Item {
 
         function test_pressOpensWhatHasAName_data() {
             return [
-                { tag: "menu", press: "ButtonMenu Page menu", opens: "PopupMenu Page menu" },
                 { tag: "dialog", press: "Button Dialog", opens: "AlertMessage Delete this deck?" },
                 { tag: "sheet", press: "Button Sheet", opens: "Dialog New project" },
-                { tag: "toast", press: "Button Toast with an action", opens: "AlertMessage Task deleted" },
-                { tag: "date", press: "Button Due: Nov 18, 2026", opens: "Dialog Choose a date" },
                 { tag: "combo box", press: "ComboBox Kind", opens: "Dialog Kind" },
                 { tag: "menu bar", press: "MenuItem File", opens: "PopupMenu File" }
             ]

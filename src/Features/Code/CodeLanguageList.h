@@ -5,13 +5,6 @@
 
 #include <QtQml/qqmlregistration.h>
 
-/// Makes `Choice` known to QML, which lies below it and knows nothing of it.
-struct ChoiceType {
-    Q_GADGET
-    QML_FOREIGN(Choice)
-    QML_ANONYMOUS
-};
-
 /// The languages as menus and tooltips name them. An unknown raw text reads as the first language.
 class CodeLanguageList : public QObject
 {

@@ -166,21 +166,6 @@ Item {
             compare(place(), "dashboard")
         }
 
-        function test_contextMenu() {
-            open(2)
-            keyClick(Qt.Key_Down)
-            keyClick(Qt.Key_Menu)
-            wait(300)
-            keyClick(Qt.Key_D)
-            keyClick(Qt.Key_Return)
-            compare(titles(), "Note 1")
-            mouseClick(card("Note 1"), 150, 60, Qt.RightButton)
-            wait(300)
-            keyClick(Qt.Key_O)
-            keyClick(Qt.Key_Return)
-            verify(place().startsWith("page/"))
-        }
-
         function test_assistiveTechnology() {
             open(1)
             Assistive.begin()

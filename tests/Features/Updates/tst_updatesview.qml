@@ -129,7 +129,7 @@ Item {
             tryVerify(() => isInSight(title))
             tryCompare(prompt, "opened", true)
             keyClick(Qt.Key_Return)
-            compare(updates.count, 1)
+            compare(laters.count, 1)
         }
     }
 }

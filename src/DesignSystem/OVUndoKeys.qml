@@ -9,9 +9,10 @@ QtObject {
 
     /// Takes the event if it is one of these keys.
     function handle(event: KeyEvent): bool {
-        if (event.matches(StandardKey.Undo))
+        const undo = event.key === Qt.Key_Z
+        if (undo && event.modifiers === Qt.ControlModifier)
             root.undoRequested()
-        else if (event.matches(StandardKey.Redo)
+        else if ((undo && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier))
                  || (event.key === Qt.Key_Y && event.modifiers === Qt.ControlModifier))
             root.redoRequested()
         else

@@ -81,7 +81,8 @@ private slots:
         const QList<qsizetype> spared{calls.indexOf(u"stat"_s), calls.indexOf(u"fstat"_s),
                                       calls.indexOf(u"fchmod"_s), last};
         for (qsizetype call = 0; call <= last; ++call) {
-            // A write whose mode could not be kept leaves another one, which would leave calls out of the next.
+            // A write whose mode could not be kept leaves another one, which would leave calls out of the
+            // next.
             QFile::remove(path());
             put(path(), m_old);
             const auto outcome = [&] {

@@ -8,6 +8,7 @@ FocusScope {
     id: form
 
     required property TasksViewModel viewModel
+    readonly property var priorities: TaskActions.priorities
     readonly property int inset: Theme.space12
     readonly property bool stacked: choices.oneLine + Theme.fieldWidth + 2 * inset > width
 
@@ -86,10 +87,10 @@ FocusScope {
 
             OVSegmentedControl {
                 anchors.verticalCenter: parent.verticalCenter
-                currentIndex: TaskActions.priorities.findIndex(choice => choice.raw === form.viewModel.priority)
-                model: TaskActions.priorities.map(choice => choice.raw)
+                currentIndex: form.priorities.findIndex(choice => choice.raw === form.viewModel.priority)
+                model: form.priorities.map(choice => choice.raw)
                 Accessible.name: qsTr("Priority")
-                onActivated: index => form.viewModel.priority = TaskActions.priorities[index].raw
+                onActivated: index => form.viewModel.priority = form.priorities[index].raw
             }
 
             OVPrimaryButton {

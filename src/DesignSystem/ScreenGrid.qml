@@ -2,10 +2,10 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 
-/// The frame of a screen that is a grid of cards: what stands above the cards scrolls with them, all in one
+/// The frame of a screen that is a grid of cards: what is shown above the cards scrolls with them, all in one
 /// centred column. Delegates are `ScreenGridCard`s.
 ///
-/// The cards are one stop for Tab, after what stands above them; arrow keys go from card to card.
+/// The cards are one stop for Tab, after what is shown above them; arrow keys go from card to card.
 GridView {
     id: grid
 
@@ -24,7 +24,7 @@ GridView {
     /// From one card to the next in a row.
     readonly property real pitch: (columnWidth + gap) / columns
     readonly property int cardWidth: Math.round(pitch - gap)
-    /// What stands above the cards; it gets the width of the column.
+    /// What is shown above the cards; it gets the width of the column.
     property Item above
     /// Whether the first cards still come.
     property bool opening: true

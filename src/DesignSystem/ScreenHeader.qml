@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 
-/// What stands above the items of a screen: its title, below that what is put into it, and in place of missing
+/// What is shown above the items of a screen: its title, below that what is put into it, and in place of missing
 /// items a word on that.
 FocusScope {
     id: root

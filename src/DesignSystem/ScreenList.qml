@@ -2,10 +2,10 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
 
-/// The frame of a screen that is one long list: what stands above the rows scrolls with them, all in one
+/// The frame of a screen that is one long list: what is shown above the rows scrolls with them, all in one
 /// centred column. Delegates are `ScreenListRow`s.
 ///
-/// The rows are one stop for Tab, after what stands above them. The current row is the one that has or last
+/// The rows are one stop for Tab, after what is shown above them. The current row is the one that has or last
 /// had the focus.
 ListView {
     id: list
@@ -20,7 +20,7 @@ ListView {
     readonly property int padding: Math.max(minimumPadding, width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding)
     readonly property int columnWidth: Math.max(0, Math.min(maximumWidth, width - 2 * padding))
     readonly property int columnX: Math.round((width - columnWidth) / 2)
-    /// What stands above the rows; it gets the width of the column.
+    /// What is shown above the rows; it gets the width of the column.
     property Item above
     /// Whether the first rows still come.
     property bool opening: true

@@ -1,6 +1,6 @@
 import QtQuick
 
-/// The head of a `ScreenList` or `ScreenGrid`: what stands above its items, in the screen's column, and behind it
+/// The head of a `ScreenList` or `ScreenGrid`: what is shown above its items, in the screen's column, and behind it
 /// the one stop for Tab that all items share.
 FocusScope {
     id: root
@@ -19,7 +19,7 @@ FocusScope {
     height: view.above?.height ?? 0
     width: view.width
 
-    // A view that shows its beginning goes on to show it when what stands above the items grows.
+    // A view that shows its beginning goes on to show it when what is shown above the items grows.
     onHeightChanged: {
         const growth = Math.max(0, height - lastHeight)
         lastHeight = height

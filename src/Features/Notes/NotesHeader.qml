@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Notes
 
-/// What stands above the cards: the title of the screen, the search and the way to a new note.
+/// What is shown above the cards: the title of the screen, the search and the way to a new note.
 ScreenHeader {
     id: root
 

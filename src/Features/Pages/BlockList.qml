@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
 
-/// The blocks of a page below what stands above them, in one scrolling column. Only the rows in sight exist,
+/// The blocks of a page below what is shown above them, in one scrolling column. Only the rows in sight exist,
 /// and the one that has the focus.
 BlockKeys {
     id: root

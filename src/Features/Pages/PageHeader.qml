@@ -3,7 +3,7 @@ import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
 
-/// What stands above the blocks of a page.
+/// What is shown above the blocks of a page.
 FocusScope {
     id: root
 
@@ -14,7 +14,7 @@ FocusScope {
     readonly property alias isUnnamed: header.isUnnamed
 
     signal zenRequested()
-    /// The user goes on from the title to what stands below it.
+    /// The user goes on from the title to what is below it.
     signal leaveDown()
 
     /// @param caret where it goes in the title; -1 for its end

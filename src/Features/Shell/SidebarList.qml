@@ -81,7 +81,7 @@ Item {
         delegate: chooser
     }
 
-    // Lines where the list goes on behind what stands above and below it.
+    // Lines where the list goes on behind what is shown above and below it.
     Rectangle {
         color: Theme.ovBorder
         height: Theme.lineWidth

@@ -10,7 +10,7 @@ Item {
     required property string symbol
     required property int tone
     required property bool isDone
-    /// Whether a change shows as motion: a task that comes completed stands there as it is.
+    /// Whether a change shows as motion: a task that is completed already is shown as it is.
     property bool moves: false
 
     implicitHeight: Theme.iconButton

@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Tasks
 
-/// What stands above the tasks: the title of the screen, the form for a new task and the filters.
+/// What is shown above the tasks: the title of the screen, the form for a new task and the filters.
 ScreenHeader {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
 
-/// What the update service has to say to the person: its offer, and how a check ended that was asked for.
+/// What the update service tells the user: its offer, and how a check ended that was asked for.
 Item {
     id: root
 

@@ -90,7 +90,7 @@ private:
 
 constexpr char editorPage[] = "import QtQuick\nimport Orvel.Pages\n"
                               "PageEditorView { function focusBlock(row) { list.focusBlock(row, 5) } }";
-constexpr char windowPage[] = "import Orvel.Shell\nWorkspaceView { }";
+constexpr char windowPage[] = "import Orvel.App\nWorkspaceView { }";
 constexpr char barePage[] =
     "import QtQuick\n"
     "ListView { id: list; required property var texts; model: texts; currentIndex: -1\n"

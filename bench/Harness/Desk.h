@@ -27,9 +27,8 @@ struct Desk {
         store =
             std::make_unique<WorkspaceStore>(WorkspaceStore::Options{path, &clock, std::chrono::hours(1)});
         OVTheme::apply(store->settings());
-        sidebar.setUi(&ui);
-        sidebar.setStore(store.get());
         session = std::make_unique<OrvelSession>(store.get(), &ui, &updates);
+        sidebar.setSession(session.get());
     }
 
     void provideTo(QQmlEngine &engine) const
@@ -43,6 +42,6 @@ struct Desk {
     UIState ui;
     UpdateService updates{{}};
     std::unique_ptr<WorkspaceStore> store;
-    SidebarViewModel sidebar;
     std::unique_ptr<OrvelSession> session;
+    SidebarViewModel sidebar;
 };

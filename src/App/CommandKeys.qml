@@ -15,8 +15,8 @@ Instantiator {
     delegate: Shortcut {
         required property var modelData
 
-        sequence: modelData.keys
-        enabled: modelData.keys !== ""
+        sequences: modelData.keys
+        enabled: modelData.isBound
         context: Qt.ApplicationShortcut
         autoRepeat: false
         onActivated: keys.commands.run(modelData.id)

@@ -1,7 +1,6 @@
 #include "App/OrvelCommands.h"
 
 #include "DesignSystem/KeyText.h"
-#include "Store/PageOperations.h"
 #include "Store/TaskOperations.h"
 #include "Support/OVQuotes.h"
 
@@ -9,17 +8,41 @@
 
 using namespace Qt::StringLiterals;
 
-/// One row of the table. The action is a member, or the place to go to.
+namespace
+{
+/// What a text field does by itself: a method of it, and the property that says whether it can.
+struct TextEdit {
+    const char *method;
+    const char *condition;
+};
+
+bool canEdit(const QQuickItem *focusItem, const TextEdit &edit)
+{
+    if (!focusItem || !focusItem->property("selectedText").isValid())
+        return false;
+    const QVariant condition = focusItem->property(edit.condition);
+    const bool writes = qstrcmp(edit.method, "copy") != 0 && qstrcmp(edit.method, "selectAll") != 0;
+    return condition.toBool() && !(writes && focusItem->property("readOnly").toBool());
+}
+
+void editText(QQuickItem *focusItem, const TextEdit &edit)
+{
+    if (canEdit(focusItem, edit))
+        QMetaObject::invokeMethod(focusItem, edit.method);
+}
+} // namespace
+
+/// One row of the table. The action is a member, the place to go to, or what a text field does by itself.
 struct OrvelCommands::Entry {
     enum class Group { same, next };
     /// Where the command can be given: in the workspace only, or before it is entered as well.
     enum class Reach { workspace, window };
 
-    QString menu;
-    QString id;
-    QString title;
-    QString keys;
-    std::variant<void (OrvelCommands::*)(), Destination::Kind> action;
+    const char *menu;
+    const char *id;
+    const char *title;
+    std::array<const char *, 2> keys;
+    std::variant<void (OrvelCommands::*)(), Destination::Kind, TextEdit> action;
     Group group = Group::same;
     Reach reach = Reach::workspace;
 };
@@ -28,123 +51,145 @@ struct OrvelCommands::Entry {
 const QList<OrvelCommands::Entry> &OrvelCommands::table()
 {
     using Kind = Destination::Kind;
+    using Self = OrvelCommands;
     using enum Entry::Group;
     using enum Entry::Reach;
-    static const QString file = u"&File"_s;
-    static const QString navigate = u"&Navigate"_s;
-    static const QString view = u"&View"_s;
+    static constexpr auto file = QT_TR_NOOP("&File");
+    static constexpr auto edit = QT_TR_NOOP("&Edit");
+    static constexpr auto navigate = QT_TR_NOOP("&Navigate");
+    static constexpr auto view = QT_TR_NOOP("&View");
     static const QList<Entry> entries = {
-        {file, u"newPage"_s, u"New Page"_s, u"Ctrl+N"_s, &OrvelCommands::newPage},
-        {file, u"newNote"_s, u"New Note"_s, u"Ctrl+Shift+N"_s, &OrvelCommands::newNote},
-        {file, u"newTask"_s, u"New Task"_s, u"Ctrl+Shift+K"_s, &OrvelCommands::newTask},
-        {file, u"settings"_s, u"Settings…"_s, u"Ctrl+,"_s, Kind::settings, next},
-        {file, u"updates"_s, u"Check for Updates…"_s, {}, &OrvelCommands::checkForUpdates, next},
-        {file, u"quit"_s, u"Quit"_s, u"Ctrl+Q"_s, &OrvelCommands::quitRequested, next, window},
-
-        {navigate, u"dashboard"_s, u"Dashboard"_s, u"Ctrl+1"_s, Kind::dashboard},
-        {navigate, u"today"_s, u"Today"_s, u"Ctrl+2"_s, Kind::today},
-        {navigate, u"focus"_s, u"Focus"_s, u"Ctrl+3"_s, Kind::focus},
-        {navigate, u"tasks"_s, u"Tasks"_s, u"Ctrl+4"_s, Kind::tasks},
-        {navigate, u"calendar"_s, u"Calendar"_s, u"Ctrl+5"_s, Kind::calendar},
-        {navigate, u"projects"_s, u"Projects"_s, u"Ctrl+6"_s, Kind::projects},
-        {navigate, u"notes"_s, u"Notes"_s, u"Ctrl+7"_s, Kind::notes},
-        {navigate, u"databases"_s, u"Databases"_s, u"Ctrl+8"_s, Kind::databases},
-        {navigate, u"habits"_s, u"Habits"_s, u"Ctrl+Shift+H"_s, Kind::habits},
-        {navigate, u"insights"_s, u"Insights"_s, u"Ctrl+Shift+I"_s, Kind::insights},
-        {navigate, u"relax"_s, u"Relax"_s, u"Ctrl+Shift+R"_s, Kind::relax},
-        {navigate, u"palette"_s, u"Command Palette"_s, u"Ctrl+K"_s, &OrvelCommands::presentSearch, next},
-
-        {view, u"cycleNav"_s, u"Cycle Navigation Style"_s, u"Ctrl+Shift+D"_s,
-         &OrvelCommands::cycleNavigation},
-        {view, u"appearance"_s, u"Cycle Appearance"_s, u"Ctrl+Shift+L"_s, &OrvelCommands::cycleAppearance},
-        {view, u"theme"_s, u"Cycle Accent"_s, u"Ctrl+Shift+T"_s, &OrvelCommands::cycleAccent},
-        {view, u"shuffleQuote"_s, u"Shuffle Daily Quote"_s, u"Ctrl+Shift+Q"_s, &OrvelCommands::shuffleQuote},
-        {view, u"shortcuts"_s, u"Keyboard Shortcuts"_s, u"Ctrl+/"_s, &OrvelCommands::presentShortcuts},
-        {view, u"sidebar"_s, u"Toggle Sidebar"_s, u"Ctrl+Shift+S"_s, &OrvelCommands::toggleSidebar, next},
-        {view, u"fullScreen"_s, u"Full Screen"_s, u"F11"_s, &OrvelCommands::fullScreenToggled, next, window},
+        {file, "newPage", QT_TR_NOOP("New Page"), {"Ctrl+N"}, &Self::newPage},
+        {file, "newNote", QT_TR_NOOP("New Note"), {"Ctrl+Shift+N"}, &Self::newNote},
+        {file, "newTask", QT_TR_NOOP("New Task"), {"Ctrl+Shift+K"}, &Self::newTask},
+        {file, "settings", QT_TR_NOOP("Settings…"), {"Ctrl+,"}, Kind::settings, next},
+        {file, "updates", QT_TR_NOOP("Check for Updates…"), {}, &Self::checkForUpdates, next},
+        {file, "quit", QT_TR_NOOP("Quit"), {"Ctrl+Q"}, &Self::quitRequested, next, window},
+        {edit, "undo", QT_TR_NOOP("Undo"), {"Ctrl+Z"}, &Self::undo},
+        {edit, "redo", QT_TR_NOOP("Redo"), {"Ctrl+Shift+Z", "Ctrl+Y"}, &Self::redo},
+        {edit, "cut", QT_TR_NOOP("Cut"), {"Ctrl+X"}, TextEdit{"cut", "selectedText"}, next},
+        {edit, "copy", QT_TR_NOOP("Copy"), {"Ctrl+C"}, TextEdit{"copy", "selectedText"}},
+        {edit, "paste", QT_TR_NOOP("Paste"), {"Ctrl+V"}, TextEdit{"paste", "canPaste"}},
+        {edit, "selectAll", QT_TR_NOOP("Select All"), {"Ctrl+A"}, TextEdit{"selectAll", "length"}, next},
+        {navigate, "dashboard", QT_TR_NOOP("Dashboard"), {"Ctrl+1"}, Kind::dashboard},
+        {navigate, "today", QT_TR_NOOP("Today"), {"Ctrl+2"}, Kind::today},
+        {navigate, "focus", QT_TR_NOOP("Focus"), {"Ctrl+3"}, Kind::focus},
+        {navigate, "tasks", QT_TR_NOOP("Tasks"), {"Ctrl+4"}, Kind::tasks},
+        {navigate, "calendar", QT_TR_NOOP("Calendar"), {"Ctrl+5"}, Kind::calendar},
+        {navigate, "projects", QT_TR_NOOP("Projects"), {"Ctrl+6"}, Kind::projects},
+        {navigate, "notes", QT_TR_NOOP("Notes"), {"Ctrl+7"}, Kind::notes},
+        {navigate, "databases", QT_TR_NOOP("Databases"), {"Ctrl+8"}, Kind::databases},
+        {navigate, "habits", QT_TR_NOOP("Habits"), {"Ctrl+Shift+H"}, Kind::habits},
+        {navigate, "insights", QT_TR_NOOP("Insights"), {"Ctrl+Shift+I"}, Kind::insights},
+        {navigate, "relax", QT_TR_NOOP("Relax"), {"Ctrl+Shift+R"}, Kind::relax},
+        {navigate, "palette", QT_TR_NOOP("Command Palette"), {"Ctrl+K"}, &Self::presentSearch, next},
+        {view, "cycleNav", QT_TR_NOOP("Cycle Navigation Style"), {"Ctrl+Shift+D"}, &Self::cycleNavigation},
+        {view, "appearance", QT_TR_NOOP("Cycle Appearance"), {"Ctrl+Shift+L"}, &Self::cycleAppearance},
+        {view, "theme", QT_TR_NOOP("Cycle Accent"), {"Ctrl+Shift+T"}, &Self::cycleAccent},
+        {view, "shuffleQuote", QT_TR_NOOP("Shuffle Daily Quote"), {"Ctrl+Shift+Q"}, &Self::shuffleQuote},
+        {view, "shortcuts", QT_TR_NOOP("Keyboard Shortcuts"), {"Ctrl+/"}, &Self::presentShortcuts},
+        {view, "sidebar", QT_TR_NOOP("Toggle Sidebar"), {"Ctrl+Shift+S"}, &Self::toggleSidebar, next},
+        {view, "fullScreen", QT_TR_NOOP("Full Screen"), {"F11"}, &Self::fullScreenToggled, next, window},
     };
     return entries;
 }
 
-QList<OrvelMenu> OrvelCommands::menus()
+OrvelCommands::OrvelCommands(QObject *parent) : QObject(parent)
 {
-    QList<OrvelMenu> menus;
     for (const Entry &entry : table()) {
-        if (menus.isEmpty() || menus.last().title != entry.menu)
-            menus.append({entry.menu, {}});
-        menus.last().commands.append(
-            {entry.id, entry.title, entry.keys, KeyText::of(entry.keys), entry.group == Entry::Group::next});
+        if (m_menus.isEmpty() || m_menus.last().title != tr(entry.menu))
+            m_menus.append({tr(entry.menu), {}});
+        auto *const command = new OrvelCommand(this);
+        command->id = QLatin1String(entry.id);
+        command->title = tr(entry.title);
+        for (const char *keys : entry.keys)
+            if (keys)
+                command->keys.append(QLatin1String(keys));
+        command->startsGroup = entry.group == Entry::Group::next;
+        command->isBound = !std::holds_alternative<TextEdit>(entry.action);
+        m_menus.last().commands.append(command);
     }
-    return menus;
 }
 
-QList<OrvelCommand> OrvelCommands::commands()
+void OrvelCommands::setSession(OrvelSession *session)
 {
-    QList<OrvelCommand> commands;
-    for (const OrvelMenu &menu : menus())
-        commands.append(menu.commands);
-    return commands;
+    if (m_session == session)
+        return;
+    m_session = session;
+    connect(session->undo(), &UndoController::changed, this, [this] { prepare(); });
+    prepare();
+    emit sessionChanged();
 }
 
-void OrvelCommands::run(const QString &id)
+void OrvelCommands::prepare(QQuickItem *focusItem)
+{
+    const QList<OrvelCommand *> all = commands();
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        OrvelCommand &command = *all.at(i);
+        if (const auto *const edit = std::get_if<TextEdit>(&table().at(i).action))
+            command.show(command.title, canEdit(focusItem, *edit));
+        else if (command.id == u"undo")
+            command.show(m_session->undo()->undoText(), m_session->undo()->canUndo());
+        else if (command.id == u"redo")
+            command.show(m_session->undo()->redoText(), m_session->undo()->canRedo());
+    }
+}
+
+void OrvelCommands::run(const QString &id, QQuickItem *focusItem)
 {
     const auto &entries = table();
     const auto found = std::ranges::find(entries, id, &Entry::id);
     if (found == entries.end())
         return;
-    if (found->reach == Entry::Reach::workspace && !m_store->settings().hasCompletedOnboarding)
+    if (found->reach == Entry::Reach::workspace && !store().settings().hasCompletedOnboarding)
         return;
     if (const auto *const place = std::get_if<Destination::Kind>(&found->action))
-        m_ui->setSelection(Destination::to(*place));
+        ui().setSelection(Destination::to(*place));
+    else if (const auto *const edit = std::get_if<TextEdit>(&found->action))
+        editText(focusItem, *edit);
     else
         (this->*std::get<0>(found->action))();
 }
 
-void OrvelCommands::open(PageKind kind)
-{
-    m_ui->setSelection(Destination::page(PageOperations::create(*m_store, kind)));
-}
-
 void OrvelCommands::newTask()
 {
-    TaskOperations::create(*m_store, u"Untitled task"_s, TaskPriority::medium, m_store->clock().now());
-    m_ui->setSelection(Destination::to(Destination::Kind::tasks));
+    TaskOperations::create(store(), tr("Untitled task"), TaskPriority::medium, store().now());
+    ui().setSelection(Destination::to(Destination::Kind::tasks));
 }
 
 void OrvelCommands::cycleNavigation()
 {
-    m_store->changeSettings(
+    store().changeSettings(
         [](AppSettings &settings) { settings.theme.navigation = nextCase(settings.theme.navigation); });
 }
 
 void OrvelCommands::cycleAppearance()
 {
-    m_store->changeSettings(
+    store().changeSettings(
         [](AppSettings &settings) { settings.appearance = nextCase(settings.appearance); });
 }
 
 void OrvelCommands::cycleAccent()
 {
-    m_store->changeSettings(
+    store().changeSettings(
         [](AppSettings &settings) { settings.theme.accent = nextCase(settings.theme.accent); });
 }
 
 void OrvelCommands::shuffleQuote()
 {
-    m_ui->setRandomQuote(OVQuotes::random(m_ui->randomQuote(), *QRandomGenerator::global()));
+    ui().setRandomQuote(OVQuotes::random(ui().randomQuote(), *QRandomGenerator::global()));
 }
 
-void OrvelCommands::toggleSidebar()
+QString OrvelCommand::keysText() const
 {
-    m_ui->setSidebarVisible(!m_ui->isSidebarVisible());
+    return keys.isEmpty() ? QString() : KeyText::of(keys.first());
 }
 
-void OrvelCommands::presentSearch()
+void OrvelCommand::show(const QString &newTitle, bool isEnabled)
 {
-    m_ui->setSearchPresented(true);
-}
-
-void OrvelCommands::presentShortcuts()
-{
-    m_ui->setShortcutsPresented(true);
+    if (title == newTitle && enabled == isEnabled)
+        return;
+    title = newTitle;
+    enabled = isEnabled;
+    emit changed();
 }

@@ -1,45 +1,56 @@
 #pragma once
 
-#include "Session/SessionTypes.h"
+#include "Session/OrvelSession.h"
+#include "Session/PageActions.h"
 
-#include <QObject>
-#include <QtQml/qqmlregistration.h>
+#include <QQuickItem>
 
 /// One entry of the menu bar.
-struct OrvelCommand {
-    Q_GADGET
+class OrvelCommand : public QObject
+{
+    Q_OBJECT
     QML_ANONYMOUS
-    Q_PROPERTY(QString id MEMBER id FINAL)
-    Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(QString keys MEMBER keys FINAL)
-    Q_PROPERTY(QString keysText MEMBER keysText FINAL)
-    Q_PROPERTY(bool startsGroup MEMBER startsGroup FINAL)
+    Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title NOTIFY changed FINAL)
+    Q_PROPERTY(bool enabled MEMBER enabled NOTIFY changed FINAL)
+    Q_PROPERTY(QStringList keys MEMBER keys CONSTANT FINAL)
+    Q_PROPERTY(QString keysText READ keysText CONSTANT FINAL)
+    Q_PROPERTY(bool startsGroup MEMBER startsGroup CONSTANT FINAL)
+    Q_PROPERTY(bool isBound MEMBER isBound CONSTANT FINAL)
 
 public:
+    using QObject::QObject;
+
     QString id;
     QString title;
-    /// The key sequence in portable form, such as "Ctrl+N"; empty for none.
-    QString keys;
-    /// The same as a person reads it on this machine.
-    QString keysText;
+    bool enabled = true;
+    /// Key sequences in portable form, such as "Ctrl+N"; the menu shows the first.
+    QStringList keys;
     /// Whether a line stands above the entry.
     bool startsGroup = false;
+    /// Whether the window binds the keys; those of editing are the text field's own.
+    bool isBound = true;
 
-    bool operator==(const OrvelCommand &) const = default;
+    /// The first keys as a user reads them on this machine.
+    QString keysText() const;
+    void show(const QString &newTitle, bool isEnabled);
+
+signals:
+    void changed();
 };
 
 /// One menu of the menu bar.
 struct OrvelMenu {
     Q_GADGET
     Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(QList<OrvelCommand> commands MEMBER commands FINAL)
+    Q_PROPERTY(QObjectList commands READ objects FINAL)
 
 public:
     /// "&" stands before the letter that opens it.
     QString title;
-    QList<OrvelCommand> commands;
+    QList<OrvelCommand *> commands;
 
-    bool operator==(const OrvelMenu &) const = default;
+    QObjectList objects() const { return {commands.begin(), commands.end()}; }
 };
 
 /// The commands of the menu bar and their keys.
@@ -47,24 +58,28 @@ class OrvelCommands : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store MEMBER m_store REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
-    Q_PROPERTY(UpdateService *updates MEMBER m_updates REQUIRED FINAL)
+    Q_PROPERTY(OrvelSession *session MEMBER m_session WRITE setSession NOTIFY sessionChanged REQUIRED FINAL)
     Q_PROPERTY(QList<OrvelMenu> menus READ menus CONSTANT FINAL)
-    Q_PROPERTY(QList<OrvelCommand> commands READ commands CONSTANT FINAL)
+    /// The commands of all menus.
+    Q_PROPERTY(QObjectList commands READ objects CONSTANT FINAL)
 
 public:
-    using QObject::QObject;
+    explicit OrvelCommands(QObject *parent = nullptr);
 
-    static QList<OrvelMenu> menus();
-    /// The commands of all menus.
-    static QList<OrvelCommand> commands();
+    void setSession(OrvelSession *session);
+    const QList<OrvelMenu> &menus() const { return m_menus; }
+    QList<OrvelCommand *> commands() const { return findChildren<OrvelCommand *>(); }
+    QObjectList objects() const { return children(); }
 
     /// Does what the command with this id is for; an unknown id does nothing, and before the onboarding is
     /// done neither does anything that belongs to the workspace.
-    Q_INVOKABLE void run(const QString &id);
+    /// @param focusItem what the Edit menu acts on if it is a text field: what had the focus before the menu
+    Q_INVOKABLE void run(const QString &id, QQuickItem *focusItem = nullptr);
+    /// Enables what can be done now.
+    Q_INVOKABLE void prepare(QQuickItem *focusItem = nullptr);
 
 signals:
+    void sessionChanged();
     void fullScreenToggled();
     void quitRequested();
 
@@ -72,20 +87,23 @@ private:
     struct Entry;
     static const QList<Entry> &table();
 
-    void newPage() { open(PageKind::page); }
-    void newNote() { open(PageKind::note); }
-    void open(PageKind kind);
+    WorkspaceStore &store() { return *m_session->store(); }
+    UIState &ui() { return *m_session->ui(); }
+
+    void newPage() { PageActions::create(store(), ui(), PageKind::page); }
+    void newNote() { PageActions::create(store(), ui(), PageKind::note); }
     void newTask();
+    void undo() { m_session->undo()->undo(); }
+    void redo() { m_session->undo()->redo(); }
     void cycleNavigation();
     void cycleAppearance();
     void cycleAccent();
     void shuffleQuote();
-    void toggleSidebar();
-    void presentSearch();
-    void presentShortcuts();
-    void checkForUpdates() { m_updates->check(true); }
+    void toggleSidebar() { ui().setSidebarVisible(!ui().isSidebarVisible()); }
+    void presentSearch() { ui().setSearchPresented(true); }
+    void presentShortcuts() { ui().setShortcutsPresented(true); }
+    void checkForUpdates() { m_session->updates()->check(true); }
 
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
-    UpdateService *m_updates = nullptr;
+    OrvelSession *m_session = nullptr;
+    QList<OrvelMenu> m_menus;
 };

@@ -28,6 +28,8 @@ OVMenuBar {
 
             required property var commands
 
+            onAboutToShow: bar.commands.prepare(bar.keys.origin)
+
             Component.onCompleted: {
                 for (const command of commands) {
                     if (command.startsGroup)
@@ -44,9 +46,10 @@ OVMenuBar {
         OVMenuItem {
             required property var command
 
-            text: command.title
+            enabled: command.enabled
             shortcutText: command.keysText
-            onTriggered: bar.commands.run(command.id)
+            text: command.title
+            onTriggered: bar.commands.run(command.id, bar.keys.origin)
         }
     }
 

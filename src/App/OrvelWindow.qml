@@ -30,7 +30,7 @@ Window {
     height: 820
     minimumWidth: 720
     minimumHeight: 480
-    title: rootModel.title
+    title: Orvel.settings.workspaceName
     color: Theme.ovCanvas
 
     Component.onCompleted: {
@@ -38,16 +38,9 @@ Window {
         visible = true
     }
 
-    RootViewModel {
-        id: rootModel
-        store: Orvel.store
-    }
-
     OrvelCommands {
         id: commands
-        store: Orvel.store
-        ui: Orvel.ui
-        updates: Orvel.updates
+        session: Orvel
         onFullScreenToggled: window.toggleFullScreen()
         onQuitRequested: Qt.quit()
     }
@@ -68,6 +61,5 @@ Window {
 
         anchors.fill: parent
         commands: commands
-        model: rootModel
     }
 }

@@ -10,7 +10,6 @@ FocusScope {
     id: root
 
     required property OrvelCommands commands
-    required property RootViewModel model
     /// Once a launch, and not where motion is unwanted.
     property bool showIntro: Theme.motionEnabled
     /// Whether the first frame is drawn. What it does not show is made after it.
@@ -50,7 +49,7 @@ FocusScope {
         held: !root.isDrawn
         page: "WorkspaceLayer.qml"
         pageProperties: ({ "commands": root.commands })
-        shown: root.model.hasCompletedOnboarding
+        shown: Orvel.settings.hasCompletedOnboarding
         onLoaded: root.starting = false
     }
 
@@ -61,7 +60,7 @@ FocusScope {
         asynchronous: root.starting
         held: !root.isDrawn
         page: "OnboardingLayer.qml"
-        shown: !root.model.hasCompletedOnboarding
+        shown: !Orvel.settings.hasCompletedOnboarding
         onLoaded: root.starting = false
     }
 

@@ -6,6 +6,9 @@ import Orvel.Session
 OVToast {
     id: toast
 
+    onActionTriggered: Orvel.undo.undo()
+    onAboutToHide: Orvel.undo.dismissMessage()
+
     readonly property Connections undo: Connections {
         target: Orvel.undo
 
@@ -16,7 +19,4 @@ OVToast {
                 toast.close()
         }
     }
-
-    onAboutToHide: Orvel.undo.dismissMessage()
-    onActionTriggered: Orvel.undo.undo()
 }

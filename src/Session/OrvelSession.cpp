@@ -6,8 +6,20 @@ constexpr char sessionProperty[] = "orvelSession";
 }
 
 OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates)
-    : m_store(store), m_ui(ui), m_updates(updates), m_search(*store), m_undo(store, ui)
+    : m_store(store),
+      m_ui(ui),
+      m_updates(updates),
+      m_search(*store),
+      m_undo(store, ui),
+      m_settings(ShownSettings::of(store->settings()))
 {
+    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
+        if (!changes.settings)
+            return;
+        auto next = ShownSettings::of(m_store->settings());
+        if (std::exchange(m_settings, next) != next)
+            emit settingsChanged();
+    });
 }
 
 QDateTime OrvelSession::now() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/SessionTypes.h"
+#include "Session/ShownSettings.h"
 #include "Session/UndoController.h"
 
 #include <QQmlEngine>
@@ -18,6 +19,7 @@ class OrvelSession : public QObject
     Q_PROPERTY(UpdateService *updates READ updates CONSTANT FINAL)
     Q_PROPERTY(PreparedSearch *search READ search CONSTANT FINAL)
     Q_PROPERTY(UndoController *undo READ undo CONSTANT FINAL)
+    Q_PROPERTY(ShownSettings settings READ settings NOTIFY settingsChanged FINAL)
 
 public:
     /// The objects outlive the session, and the session outlives the engine.
@@ -36,6 +38,10 @@ public:
     UpdateService *updates() const { return m_updates; }
     PreparedSearch *search() { return &m_search; }
     UndoController *undo() { return &m_undo; }
+    const ShownSettings &settings() const { return m_settings; }
+
+signals:
+    void settingsChanged();
 
 private:
     WorkspaceStore *m_store;
@@ -43,4 +49,5 @@ private:
     UpdateService *m_updates;
     PreparedSearch m_search;
     UndoController m_undo;
+    ShownSettings m_settings;
 };

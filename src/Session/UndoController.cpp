@@ -76,7 +76,8 @@ void UndoController::restore(const UndoStep *step, bool isUndo)
 
 void UndoController::setMessage(const QString &message, bool offersUndo)
 {
-    if (message == m_message && offersUndo == m_messageOffersUndo)
+    // The same message again is news: it tells of another action.
+    if (message.isEmpty() && m_message.isEmpty())
         return;
     m_message = message;
     m_messageOffersUndo = offersUndo;

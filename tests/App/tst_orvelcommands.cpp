@@ -23,15 +23,17 @@ private:
     WorkspaceStore m_store{{m_folder.filePath(u"workspace.json"_s), &m_clock, 1h}};
     UIState m_ui;
     UpdateService m_updates{{}};
+    OrvelSession m_session{&m_store, &m_ui, &m_updates};
     OrvelCommands m_commands;
 
-private slots:
-    void initTestCase()
+    OrvelCommand *command(const QString &id) const
     {
-        m_commands.setProperty("store", QVariant::fromValue(&m_store));
-        m_commands.setProperty("ui", QVariant::fromValue(&m_ui));
-        m_commands.setProperty("updates", QVariant::fromValue(&m_updates));
+        const auto all = m_commands.commands();
+        return *std::ranges::find(all, id, [](const OrvelCommand *each) { return each->id; });
     }
+
+private slots:
+    void initTestCase() { m_commands.setSession(&m_session); }
     void init()
     {
         m_store.resetEverything(false);
@@ -41,57 +43,58 @@ private slots:
 
     void menusStandInTheirOrder()
     {
-        const auto titles = [](const OrvelMenu &menu) {
+        QStringList menus;
+        for (const OrvelMenu &menu : m_commands.menus()) {
             QStringList lines;
-            for (const OrvelCommand &command : menu.commands)
-                lines.append((command.startsGroup ? u"--- "_s : QString()) + command.title + u' ' +
-                             command.keys);
-            return lines;
-        };
-        const auto menus = OrvelCommands::menus();
-        QCOMPARE(menus.size(), 3);
-        QCOMPARE(menus[0].title, u"&File"_s);
-        QCOMPARE(titles(menus[0]), (QStringList{u"New Page Ctrl+N"_s, u"New Note Ctrl+Shift+N"_s,
-                                                u"New Task Ctrl+Shift+K"_s, u"--- Settings… Ctrl+,"_s,
-                                                u"--- Check for Updates… "_s, u"--- Quit Ctrl+Q"_s}));
-        QCOMPARE(menus[1].title, u"&Navigate"_s);
-        QCOMPARE(titles(menus[1]),
-                 (QStringList{u"Dashboard Ctrl+1"_s, u"Today Ctrl+2"_s, u"Focus Ctrl+3"_s, u"Tasks Ctrl+4"_s,
-                              u"Calendar Ctrl+5"_s, u"Projects Ctrl+6"_s, u"Notes Ctrl+7"_s,
-                              u"Databases Ctrl+8"_s, u"Habits Ctrl+Shift+H"_s, u"Insights Ctrl+Shift+I"_s,
-                              u"Relax Ctrl+Shift+R"_s, u"--- Command Palette Ctrl+K"_s}));
-        QCOMPARE(menus[2].title, u"&View"_s);
-        QCOMPARE(titles(menus[2]),
-                 (QStringList{u"Cycle Navigation Style Ctrl+Shift+D"_s, u"Cycle Appearance Ctrl+Shift+L"_s,
-                              u"Cycle Accent Ctrl+Shift+T"_s, u"Shuffle Daily Quote Ctrl+Shift+Q"_s,
-                              u"Keyboard Shortcuts Ctrl+/"_s, u"--- Toggle Sidebar Ctrl+Shift+S"_s,
-                              u"--- Full Screen F11"_s}));
+            for (const OrvelCommand *command : menu.commands)
+                lines.append((command->startsGroup ? u"| "_s : QString()) + command->title);
+            menus.append(menu.title + u": "_s + lines.join(u' '));
+        }
+        QCOMPARE(
+            menus,
+            (QStringList{u"&File: New Page New Note New Task | Settings… | Check for Updates… | Quit"_s,
+                         u"&Edit: Undo Redo | Cut Copy Paste | Select All"_s,
+                         u"&Navigate: Dashboard Today Focus Tasks Calendar Projects Notes Databases Habits "
+                         "Insights Relax | Command Palette"_s,
+                         u"&View: Cycle Navigation Style Cycle Appearance Cycle Accent Shuffle Daily Quote "
+                         "Keyboard Shortcuts | Toggle Sidebar | Full Screen"_s}));
     }
 
     void noKeyAndNoIdIsGivenTwice()
     {
-        QSet<QString> ids;
-        QSet<QString> keys;
-        for (const OrvelCommand &command : OrvelCommands::commands()) {
-            QVERIFY2(!ids.contains(command.id) && !keys.contains(command.keys), qPrintable(command.id));
-            ids.insert(command.id);
-            if (command.keys.isEmpty())
-                continue;
-            keys.insert(command.keys);
-            const QKeySequence sequence(command.keys, QKeySequence::PortableText);
-            QVERIFY2(sequence.count() == 1 && sequence[0].key() != Qt::Key_unknown, qPrintable(command.keys));
+        QSet<QString> given;
+        for (const OrvelCommand *command : m_commands.commands()) {
+            QVERIFY2(!given.contains(command->id), qPrintable(command->id));
+            given.insert(command->id);
+            for (const QString &keys : command->keys) {
+                const QKeySequence sequence(keys, QKeySequence::PortableText);
+                QVERIFY2(!given.contains(keys) && sequence.count() == 1 &&
+                             sequence[0].key() != Qt::Key_unknown,
+                         qPrintable(keys));
+                given.insert(keys);
+            }
         }
     }
 
     void theKeysShownAreTheKeysBound()
     {
-        const auto commands = OrvelCommands::commands();
-        for (const ShortcutItem &shown : OVShortcuts::all()) {
-            const auto bound = std::ranges::find(commands, shown.id, &OrvelCommand::id);
-            QVERIFY2(bound != commands.end(), qPrintable(shown.id));
-            QCOMPARE(bound->keys, shown.portableKeys());
-        }
+        for (const ShortcutItem &shown : OVShortcuts::all())
+            QCOMPARE(command(shown.id)->keys, QStringList{shown.portableKeys()});
         QCOMPARE(OVShortcuts::all().size(), 22);
+    }
+
+    void editingNamesTheStepAndActsOnTheField()
+    {
+        m_commands.prepare();
+        QVERIFY(!command(u"copy"_s)->enabled && !command(u"paste"_s)->enabled);
+        m_commands.run(u"newTask"_s);
+        QVERIFY(command(u"undo"_s)->enabled && !command(u"redo"_s)->enabled);
+        QVERIFY(command(u"undo"_s)->title.startsWith(u"Undo "));
+        m_commands.run(u"undo"_s);
+        QVERIFY(m_store.tasks().isEmpty());
+        QVERIFY(command(u"redo"_s)->enabled);
+        m_commands.run(u"redo"_s);
+        QCOMPARE(m_store.tasks().size(), 1);
     }
 
     void newThingsAreMadeAndShown()
@@ -126,12 +129,12 @@ private slots:
             for (const auto &module : enumCases<OrvelModule>())
                 settings.setModule(module.value, false);
         });
-        auto commands = OrvelCommands::menus().at(1).commands;
+        auto commands = m_commands.menus().at(2).commands;
         commands.removeLast();
-        commands.append({.id = u"settings"_s});
-        for (const OrvelCommand &command : commands) {
-            m_commands.run(command.id);
-            QCOMPARE(m_ui.selection().text(), command.id);
+        commands.append(command(u"settings"_s));
+        for (const OrvelCommand *command : commands) {
+            m_commands.run(command->id);
+            QCOMPARE(m_ui.selection().text(), command->id);
         }
     }
 
@@ -178,8 +181,8 @@ private slots:
         const AppSettings settings = m_store.settings();
         const QSignalSpy quit(&m_commands, &OrvelCommands::quitRequested);
         const QSignalSpy fullScreen(&m_commands, &OrvelCommands::fullScreenToggled);
-        for (const OrvelCommand &command : OrvelCommands::commands())
-            m_commands.run(command.id);
+        for (const OrvelCommand *command : m_commands.commands())
+            m_commands.run(command->id);
         QCOMPARE(quit.count(), 1);
         QCOMPARE(fullScreen.count(), 1);
         QCOMPARE(m_store.settings(), settings);

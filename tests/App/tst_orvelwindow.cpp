@@ -79,9 +79,10 @@ private:
     /// Presses the keys of every command in turn and looks at what comes of it.
     void pressEveryKey()
     {
-        for (const OrvelCommand &command : OrvelCommands::menus().at(1).commands.first(11)) {
-            press(command.keys);
-            QCOMPARE(ui().selection().text(), command.id);
+        const OrvelCommands commands;
+        for (const OrvelCommand *command : commands.menus().at(2).commands.first(11)) {
+            press(command->keys.first());
+            QCOMPARE(ui().selection().text(), command->id);
         }
         press(u"Ctrl+,"_s);
         QCOMPARE(ui().selection().text(), u"settings"_s);
@@ -260,9 +261,10 @@ private slots:
         const Snapshot before = store().snapshot();
         const QSignalSpy quit(m_engine.get(), &QQmlEngine::quit);
         m_engine->disconnect(qApp);
-        for (const OrvelCommand &command : OrvelCommands::commands())
-            if (!command.keys.isEmpty())
-                press(command.keys);
+        const OrvelCommands commands;
+        for (const OrvelCommand *command : commands.commands())
+            for (const QString &keys : command->keys)
+                press(keys);
         press(u"F10"_s);
         QCOMPARE(store().snapshot(), before);
         QCOMPARE(ui().selection(), Destination());
@@ -420,29 +422,102 @@ private slots:
         QTRY_COMPARE(store().pages().size(), 1);
     }
 
-    void undoAndRedoByKeysAndByToast()
+    void theFocusComesBackFromMenusAndAlerts_data()
+    {
+        QTest::addColumn<QStringList>("keys");
+        QTest::newRow("F10") << QStringList{u"F10"_s, u"Escape"_s};
+        QTest::newRow("F10 twice") << QStringList{u"F10"_s, u"F10"_s};
+        QTest::newRow("F10, a menu") << QStringList{u"F10"_s, u"Down"_s, u"Escape"_s, u"Escape"_s};
+        QTest::newRow("Alt") << QStringList{u"Alt"_s, u"Escape"_s};
+        QTest::newRow("Alt+F") << QStringList{u"Alt+F"_s, u"Escape"_s, u"Escape"_s};
+        QTest::newRow("alert") << QStringList{u"Alt+F"_s, u"C"_s, u"Return"_s, u"Return"_s};
+        QTest::newRow("palette") << QStringList{u"Ctrl+K"_s, u"Escape"_s};
+        QTest::newRow("shortcuts") << QStringList{u"Ctrl+/"_s, u"Escape"_s};
+    }
+    void theFocusComesBackFromMenusAndAlerts()
+    {
+        QFETCH(const QStringList, keys);
+        open();
+        for (const char *const place : {"notes", "tasks", "settings"}) {
+            ui().select(QLatin1String(place));
+            QTest::qWait(50);
+            // Once where the window puts the focus by itself, once where a key puts it.
+            for (int round = 0; round < 2; ++round) {
+                const QPointer before = m_window->activeFocusItem();
+                QVERIFY(before && before != m_window->contentItem());
+                for (const QString &key : keys) {
+                    if (key == u"Alt")
+                        QTest::keyClick(m_window, Qt::Key_Alt);
+                    else
+                        press(key);
+                    QTest::qWait(20);
+                }
+                QTRY_COMPARE(m_window->activeFocusItem(), before);
+                press(u"Tab"_s);
+            }
+        }
+    }
+
+    void anAlertDuringTheStartLeavesTheKeyboardInTheWorkspace()
+    {
+        edit([](AppSettings &settings) { settings.reducedMotion = false; });
+        m_workspace.updates().check(true);
+        open();
+        const auto alert = [this] {
+            return find(m_window->contentItem(), [](QQuickItem *candidate) {
+                return candidate->isVisible() && candidate->property("text") == u"Check for Updates"_s &&
+                       candidate->inherits("QQuickText");
+            });
+        };
+        QTRY_VERIFY(!item("OrvelIntroView"));
+        QTRY_VERIFY(alert());
+        press(u"Return"_s);
+        QTRY_VERIFY(!alert());
+        QVERIFY(item("DetailHost")->hasActiveFocus());
+    }
+
+    void undoAndRedoByKeyMenuAndToast()
     {
         open();
         press(u"Ctrl+Shift+K"_s);
-        ui().select(u"settings"_s);
         const Snapshot one = store().snapshot();
-        const QUuid page = PageOperations::create(store(), PageKind::page);
+        press(u"Ctrl+N"_s);
         const Snapshot two = store().snapshot();
-        for (const QString &redo : {u"Ctrl+Y"_s, u"Ctrl+Shift+Z"_s}) {
-            press(u"Ctrl+Z"_s);
-            QCOMPARE(store().snapshot(), one);
-            press(redo);
-            QCOMPARE(store().snapshot(), two);
-        }
+        ui().select(u"settings"_s);
+        QTRY_VERIFY(item("PlaceNotice"));
+        press(u"Ctrl+Z"_s);
+        QCOMPARE(store().snapshot(), one);
+        press(u"Ctrl+Y"_s);
+        QCOMPARE(store().snapshot(), two);
+        press(u"Ctrl+Z"_s);
+        press(u"Ctrl+Shift+Z"_s);
+        QCOMPARE(store().snapshot(), two);
+        QTest::keyClick(m_window, Qt::Key_E, Qt::AltModifier);
+        press(u"U"_s);
+        press(u"Return"_s);
+        QTRY_COMPARE(store().snapshot(), one);
 
+        // What a deletion says stays out of the way of the keys, and the next action takes it away.
+        const QUuid page(m_workspace.addPage(u"Plan"_s));
+        ui().selectPage(page);
         const auto shows = [this](const QString &text) {
             return find(m_window->contentItem(), [&](QQuickItem *candidate) {
                 return candidate->isVisible() && candidate->property("text") == text;
             });
         };
+        QTRY_VERIFY(shows(u"Plan"_s));
+        m_session.undo()->dismissMessage();
         PageOperations::remove(store(), page);
         QTRY_VERIFY(shows(u"Page deleted"_s));
-        // The next action takes it away.
+        QTRY_COMPARE(shows(u"Undo"_s)->opacity(), 1.0);
+        QQuickItem *const undo = shows(u"Undo"_s);
+        QTest::qWait(300);
+        QTest::mouseClick(m_window, Qt::LeftButton, {},
+                          undo->mapToScene(undo->boundingRect().center()).toPoint());
+        QVERIFY(store().pages().first(page));
+        QTRY_VERIFY(!shows(u"Page deleted"_s));
+        PageOperations::remove(store(), page);
+        QTRY_VERIFY(shows(u"Page deleted"_s));
         press(u"Ctrl+Shift+K"_s);
         QTRY_VERIFY(!shows(u"Page deleted"_s));
     }

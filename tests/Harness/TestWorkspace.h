@@ -170,6 +170,14 @@ public:
             settings.theme.navigation = enumFromRaw<NavigationStyle>(raw).value();
         });
     }
+    Q_INVOKABLE void setTabBarLabels(bool shown)
+    {
+        m_store.changeSettings([&](AppSettings &settings) { settings.theme.tabBarLabels = shown; });
+    }
+    Q_INVOKABLE void setCompactSidebar(bool compact)
+    {
+        m_store.changeSettings([&](AppSettings &settings) { settings.theme.compactSidebar = compact; });
+    }
     Q_INVOKABLE void setWorkspaceName(const QString &name)
     {
         m_store.changeSettings([&](AppSettings &settings) { settings.workspaceName = name; });

@@ -98,7 +98,7 @@ QList<Picture> galleryPictures()
 
 /// The whole window, with the screen that the content selects.
 constexpr char windowPage[] =
-    "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Shell\n"
+    "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.App\n"
     "Item { OVBackground { anchors.fill: parent } WorkspaceView { anchors.fill: parent } }";
 
 QList<Picture> tasksPictures()

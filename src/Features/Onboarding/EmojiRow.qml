@@ -44,7 +44,9 @@ Column {
 
             model: root.icons
 
-            EmojiChoice {
+            OVPressable {
+                id: choice
+
                 required property int index
                 required property string modelData
 
@@ -53,11 +55,28 @@ Column {
                 implicitHeight: root.tile
                 implicitWidth: root.tile
                 text: modelData
+                Accessible.checkable: true
+                Accessible.checked: checked
+                OVAccessible.role: Accessible.RadioButton
                 Keys.onEnterPressed: root.accepted()
                 Keys.onReturnPressed: root.accepted()
                 onClicked: {
                     grid.follow(index)
                     root.chosen(modelData)
+                }
+
+                background: Rectangle {
+                    border.color: choice.checked ? Theme.accent : choice.hovered ? Theme.ovBorderStrong : Theme.ovBorder
+                    border.width: choice.checked ? 2 : Theme.lineWidth
+                    color: choice.checked ? Theme.ovHover : choice.hovered ? Theme.ovSubtle : Theme.ovSurface
+                    radius: choice.radius
+                }
+                contentItem: Item {
+                    OVEmoji {
+                        anchors.centerIn: parent
+                        size: Theme.iconTile
+                        text: choice.text
+                    }
                 }
             }
         }

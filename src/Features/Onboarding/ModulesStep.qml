@@ -40,13 +40,12 @@ OnboardingPage {
 
             ModuleCard {
                 required property int index
-                required property var modelData
+                required property string title
+                required property bool isSelected
 
                 tabStop: index === grid.current
-                blurb: modelData.blurb
-                checked: root.onboarding.selectedModules[index]
-                symbol: modelData.symbol
-                text: modelData.title
+                checked: isSelected
+                text: title
                 width: grid.cellWidth
                 onClicked: {
                     grid.follow(index)

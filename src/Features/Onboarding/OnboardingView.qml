@@ -70,8 +70,7 @@ FocusScope {
     OnboardingViewModel {
         id: onboarding
 
-        store: Orvel.store
-        ui: Orvel.ui
+        session: Orvel
         onStepChanged: root.show()
     }
 

@@ -4,25 +4,82 @@
 
 using namespace Qt::StringLiterals;
 
-void OnboardingViewModel::setStore(WorkspaceStore *store)
+namespace
 {
-    if (m_store == store)
-        return;
-    if (m_store)
-        m_store->disconnect(this);
-    m_store = store;
-    if (m_store)
-        connect(m_store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
-            if (changes.settings)
-                emit appearancesChanged();
-        });
-    emit storeChanged();
-    emit appearancesChanged();
+/// What a step says above its content and on its button.
+struct StepText {
+    const char *title;
+    const char *subtitle;
+    const char *primary;
+};
+
+constexpr auto goOn = QT_TRANSLATE_NOOP("OnboardingViewModel", "Continue");
+constexpr std::array steps{
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "Welcome to Orvel"),
+             QT_TRANSLATE_NOOP(
+                 "OnboardingViewModel",
+                 "A calm, focused workspace for pages, tasks, projects and notes, all on your device."),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "Get started")},
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "Make it yours"),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "Tell us who you are and name your workspace."), goOn},
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "Choose your tools"),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "You can hide or show any of these later in Settings."),
+             goOn},
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "Start with a little content"),
+             QT_TRANSLATE_NOOP("OnboardingViewModel",
+                               "We can drop in a few example items so nothing feels empty."),
+             goOn},
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "Pick a look"),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "Orvel follows your system appearance by default."),
+             goOn},
+    StepText{QT_TRANSLATE_NOOP("OnboardingViewModel", "You're all set"),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "Review your setup and jump in."),
+             QT_TRANSLATE_NOOP("OnboardingViewModel", "Enter workspace")},
+};
+
+QList<OnboardingModule> allModules()
+{
+    QList<OnboardingModule> modules;
+    for (const EnumCase<OrvelModule> &entry : enumCases<OrvelModule>()) {
+        const auto blurb = moduleBlurb(entry.value);
+        modules.append({.id = entry.value,
+                        .title = enumLabel(entry.value),
+                        .blurb = QString::fromUtf16(blurb.data(), qsizetype(blurb.size())),
+                        .symbol = enumSymbol(entry.value)});
+    }
+    return modules;
+}
+} // namespace
+
+OnboardingViewModel::OnboardingViewModel(QObject *parent) : ViewModel(parent)
+{
+    followSettings();
+    m_modules.setRows(allModules());
+}
+
+int OnboardingViewModel::stepCount()
+{
+    return int(steps.size());
+}
+
+QString OnboardingViewModel::title() const
+{
+    return tr(steps.at(m_step).title);
+}
+
+QString OnboardingViewModel::subtitle() const
+{
+    return tr(steps.at(m_step).subtitle);
+}
+
+QString OnboardingViewModel::primaryText() const
+{
+    return tr(steps.at(m_step).primary);
 }
 
 QString OnboardingViewModel::progressText() const
 {
-    return u"Step %1 of %2"_s.arg(step() + 1).arg(stepCount());
+    return tr("Step %1 of %2").arg(step() + 1).arg(stepCount());
 }
 
 QStringList OnboardingViewModel::workspaceIcons()
@@ -31,38 +88,19 @@ QStringList OnboardingViewModel::workspaceIcons()
             u"⚡️"_s, u"🧩"_s, u"🌊"_s, u"🪐"_s, u"🔮"_s, u"🏔️"_s};
 }
 
-QList<OnboardingModule> OnboardingViewModel::modules()
-{
-    QList<OnboardingModule> modules;
-    for (const EnumCase<OrvelModule> &entry : enumCases<OrvelModule>()) {
-        const auto blurb = moduleBlurb(entry.value);
-        modules.append({.title = enumLabel(entry.value),
-                        .blurb = QString::fromUtf16(blurb.data(), qsizetype(blurb.size())),
-                        .symbol = enumSymbol(entry.value)});
-    }
-    return modules;
-}
-
-QList<bool> OnboardingViewModel::selectedModules() const
-{
-    QList<bool> selected;
-    for (const EnumCase<OrvelModule> &entry : enumCases<OrvelModule>())
-        selected.append(m_selectedModules.contains(entry.value));
-    return selected;
-}
-
 void OnboardingViewModel::setAppearance(int appearance)
 {
     if (appearance == this->appearance() || appearance < 0 ||
         appearance >= int(enumCases<AppearanceMode>().size()))
         return;
     m_appearance = AppearanceMode(appearance);
+    refresh({});
     emit choicesChanged();
 }
 
-QList<OnboardingAppearance> OnboardingViewModel::appearances() const
+void OnboardingViewModel::refresh(const ChangeSet &)
 {
-    AppSettings settings = m_store ? m_store->settings() : AppSettings();
+    AppSettings settings = store().settings();
     const std::array symbols{u"circle.lefthalf.filled"_s, u"sun.max"_s, u"moon"_s};
     QList<OnboardingAppearance> appearances;
     for (const EnumCase<AppearanceMode> &entry : enumCases<AppearanceMode>()) {
@@ -72,9 +110,10 @@ QList<OnboardingAppearance> OnboardingViewModel::appearances() const
         if (const OVLook other = OVLook::of(OVThemeSnapshot::resolved(settings, true));
             other != looks.first())
             looks.append(other);
-        appearances.append({enumLabel(entry.value), symbols.at(std::size_t(entry.value)), std::move(looks)});
+        appearances.append({entry.value, enumLabel(entry.value), symbols.at(std::size_t(entry.value)),
+                            std::move(looks), entry.value == m_appearance});
     }
-    return appearances;
+    m_appearances.setRows(appearances);
 }
 
 QList<OnboardingSummaryRow> OnboardingViewModel::summary() const
@@ -83,61 +122,68 @@ QList<OnboardingSummaryRow> OnboardingViewModel::summary() const
         const QString trimmed = text.trimmed();
         return trimmed.isEmpty() ? other : trimmed;
     };
+    const auto moduleCount = selectedModules().size();
     return {
-        {u"person"_s, u"Name"_s, orElse(m_name, u"Not set"_s)},
-        {u"house"_s, u"Workspace"_s, orElse(m_workspaceName, defaultWorkspaceName())},
-        {u"square.grid.2x2"_s, u"Modules"_s,
-         hidesEveryModule() ? u"None"_s : u"%1 enabled"_s.arg(m_selectedModules.size())},
-        {u"sparkles"_s, u"Example content"_s, m_includeSamples ? u"Included"_s : u"Blank slate"_s},
-        {u"circle.lefthalf.filled"_s, u"Appearance"_s, enumLabel(m_appearance)},
+        {u"person"_s, tr("Name"), orElse(m_name, tr("Not set"))},
+        {u"house"_s, tr("Workspace"), orElse(m_workspaceName, defaultWorkspaceName())},
+        {u"square.grid.2x2"_s, tr("Modules"),
+         moduleCount == 0 ? tr("None") : tr("%1 enabled").arg(moduleCount)},
+        {u"sparkles"_s, tr("Example content"), m_includeSamples ? tr("Included") : tr("Blank slate")},
+        {u"circle.lefthalf.filled"_s, tr("Appearance"), enumLabel(m_appearance)},
     };
+}
+
+QList<OrvelModule> OnboardingViewModel::selectedModules() const
+{
+    QList<OrvelModule> selected;
+    for (const OnboardingModule &module : moduleList())
+        if (module.isSelected)
+            selected.append(module.id);
+    return selected;
 }
 
 void OnboardingViewModel::toggleModule(int module)
 {
-    QList<OrvelModule> modules;
-    for (const EnumCase<OrvelModule> &entry : enumCases<OrvelModule>())
-        if (m_selectedModules.contains(entry.value) != (int(entry.value) == module))
-            modules.append(entry.value);
-    selectModules(modules);
-}
-
-void OnboardingViewModel::selectAllModules()
-{
-    selectModules(AppSettings().visibleModules());
-}
-
-void OnboardingViewModel::clearModules()
-{
-    selectModules({});
-}
-
-void OnboardingViewModel::selectModules(const QList<OrvelModule> &modules)
-{
-    if (m_selectedModules == modules)
+    QList<OnboardingModule> modules = moduleList();
+    if (module < 0 || module >= modules.size())
         return;
-    m_selectedModules = modules;
+    modules[module].isSelected = !modules.at(module).isSelected;
+    setModules(modules);
+}
+
+void OnboardingViewModel::selectModules(bool selected)
+{
+    QList<OnboardingModule> modules = moduleList();
+    for (OnboardingModule &module : modules)
+        module.isSelected = selected;
+    setModules(modules);
+}
+
+void OnboardingViewModel::setModules(const QList<OnboardingModule> &modules)
+{
+    if (modules == moduleList())
+        return;
+    m_modules.setRows(modules);
     emit choicesChanged();
 }
 
 void OnboardingViewModel::goTo(int step)
 {
-    if (step == this->step() || step < 0 || step >= stepCount())
+    if (step == m_step || step < 0 || step >= stepCount())
         return;
-    m_step = OnboardingStep(step);
+    m_step = step;
     emit stepChanged();
 }
 
 void OnboardingViewModel::finish()
 {
-    if (m_finished)
+    if (std::exchange(m_isFinished, true))
         return;
-    m_finished = true;
-    StarterContent::completeOnboarding(*m_store, {.userName = m_name,
-                                                  .workspaceName = m_workspaceName,
-                                                  .workspaceIcon = m_workspaceIcon,
-                                                  .appearance = m_appearance,
-                                                  .modules = m_selectedModules,
-                                                  .includeSamples = m_includeSamples});
-    m_ui->setSelection(Destination::to(Destination::Kind::dashboard));
+    StarterContent::completeOnboarding(store(), {.userName = m_name,
+                                                 .workspaceName = m_workspaceName,
+                                                 .workspaceIcon = m_workspaceIcon,
+                                                 .appearance = m_appearance,
+                                                 .modules = selectedModules(),
+                                                 .includeSamples = m_includeSamples});
+    ui().setSelection(Destination::to(Destination::Kind::dashboard));
 }

@@ -1,21 +1,70 @@
 #pragma once
 
-#include "Features/Onboarding/OnboardingChoices.h"
-#include "Features/Onboarding/OnboardingStep.h"
-#include "Session/SessionTypes.h"
-#include "Store/WorkspaceStore.h"
+#include "DesignSystem/OVLook.h"
+#include "Foundation/KeyedListModel.h"
+#include "Models/AppSettings.h"
+#include "Session/ViewModel.h"
 
-#include <QtQml/qqmlregistration.h>
+/// A module as the onboarding offers it.
+struct OnboardingModule {
+    Q_GADGET
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString blurb MEMBER blurb FINAL)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(bool isSelected MEMBER isSelected FINAL)
 
-/// The first run: what the person has chosen so far, step by step. Nothing of it reaches the store before
-/// `finish`. Positions stand for the cases of steps, modules and appearances, in their order.
-class OnboardingViewModel : public QObject
+public:
+    OrvelModule id = OrvelModule::dashboard;
+    QString title;
+    QString blurb;
+    QString symbol;
+    /// Whether it stays visible.
+    bool isSelected = true;
+
+    bool operator==(const OnboardingModule &) const = default;
+};
+
+/// An appearance with the looks that a picture of it shows: what it can come out as.
+struct OnboardingAppearance {
+    Q_GADGET
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(QList<OVLook> looks MEMBER looks FINAL)
+    Q_PROPERTY(bool isSelected MEMBER isSelected FINAL)
+
+public:
+    AppearanceMode id = AppearanceMode::system;
+    QString title;
+    QString symbol;
+    QList<OVLook> looks;
+    bool isSelected = false;
+
+    bool operator==(const OnboardingAppearance &) const = default;
+};
+
+/// One line of the summary before the workspace is entered.
+struct OnboardingSummaryRow {
+    Q_GADGET
+    QML_ANONYMOUS
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QString value MEMBER value FINAL)
+
+public:
+    QString symbol;
+    QString label;
+    QString value;
+
+    bool operator==(const OnboardingSummaryRow &) const = default;
+};
+
+/// The first run: what the user has chosen so far, step by step. Nothing of it reaches the store before
+/// `finish`. Modules and appearances are told by their position in their lists.
+class OnboardingViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui MEMBER m_ui REQUIRED FINAL)
-
+    /// From 0.
     Q_PROPERTY(int step READ step NOTIFY stepChanged FINAL)
     Q_PROPERTY(int stepCount READ stepCount CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY stepChanged FINAL)
@@ -30,71 +79,66 @@ class OnboardingViewModel : public QObject
     Q_PROPERTY(QString workspaceName MEMBER m_workspaceName NOTIFY choicesChanged FINAL)
     Q_PROPERTY(QString defaultWorkspaceName READ defaultWorkspaceName CONSTANT FINAL)
     Q_PROPERTY(QString workspaceIcon MEMBER m_workspaceIcon NOTIFY choicesChanged FINAL)
-    Q_PROPERTY(QList<QString> workspaceIcons READ workspaceIcons CONSTANT FINAL)
-    Q_PROPERTY(QList<OnboardingModule> modules READ modules CONSTANT FINAL)
-    /// For each module whether it stays visible.
-    Q_PROPERTY(QList<bool> selectedModules READ selectedModules NOTIFY choicesChanged FINAL)
+    Q_PROPERTY(QStringList workspaceIcons READ workspaceIcons CONSTANT FINAL)
+    Q_PROPERTY(QAbstractItemModel *modules READ modules CONSTANT FINAL)
     Q_PROPERTY(bool hidesEveryModule READ hidesEveryModule NOTIFY choicesChanged FINAL)
     Q_PROPERTY(bool includeSamples MEMBER m_includeSamples NOTIFY choicesChanged FINAL)
     Q_PROPERTY(int appearance READ appearance WRITE setAppearance NOTIFY choicesChanged FINAL)
-    Q_PROPERTY(QList<OnboardingAppearance> appearances READ appearances NOTIFY appearancesChanged FINAL)
+    Q_PROPERTY(QAbstractItemModel *appearances READ appearances CONSTANT FINAL)
     Q_PROPERTY(QList<OnboardingSummaryRow> summary READ summary NOTIFY choicesChanged FINAL)
 
 public:
-    using QObject::QObject;
+    explicit OnboardingViewModel(QObject *parent = nullptr);
 
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
-
-    int step() const { return int(m_step); }
-    static int stepCount() { return onboardingStepCount; }
-    QString title() const { return onboardingStepText(m_step).title; }
-    QString subtitle() const { return onboardingStepText(m_step).subtitle; }
+    int step() const { return m_step; }
+    static int stepCount();
+    QString title() const;
+    QString subtitle() const;
     QString progressText() const;
-    QString primaryText() const { return onboardingStepText(m_step).primary; }
-    bool isFirst() const { return m_step == OnboardingStep::welcome; }
-    bool isLast() const { return m_step == OnboardingStep::ready; }
+    QString primaryText() const;
+    bool isFirst() const { return m_step == 0; }
+    bool isLast() const { return m_step == stepCount() - 1; }
 
     static QString defaultWorkspaceName() { return AppSettings().workspaceName; }
     static QStringList workspaceIcons();
-    static QList<OnboardingModule> modules();
-    QList<bool> selectedModules() const;
-    bool hidesEveryModule() const { return m_selectedModules.isEmpty(); }
+    QAbstractItemModel *modules() { return &m_modules; }
+    const QList<OnboardingModule> &moduleList() const { return m_modules.rows(); }
+    bool hidesEveryModule() const { return selectedModules().isEmpty(); }
     int appearance() const { return int(m_appearance); }
     void setAppearance(int appearance);
-    QList<OnboardingAppearance> appearances() const;
+    QAbstractItemModel *appearances() { return &m_appearances; }
+    const QList<OnboardingAppearance> &appearanceList() const { return m_appearances.rows(); }
     QList<OnboardingSummaryRow> summary() const;
 
-    Q_INVOKABLE void goNext() { goTo(step() + 1); }
-    Q_INVOKABLE void goBack() { goTo(step() - 1); }
-    Q_INVOKABLE void jumpToReady() { goTo(int(OnboardingStep::ready)); }
+    Q_INVOKABLE void goNext() { goTo(m_step + 1); }
+    Q_INVOKABLE void goBack() { goTo(m_step - 1); }
+    Q_INVOKABLE void jumpToReady() { goTo(stepCount() - 1); }
     Q_INVOKABLE void toggleModule(int module);
-    Q_INVOKABLE void selectAllModules();
-    Q_INVOKABLE void clearModules();
+    Q_INVOKABLE void selectAllModules() { selectModules(true); }
+    Q_INVOKABLE void clearModules() { selectModules(false); }
     /// Hands all choices to the workspace, which ends the onboarding, and goes to the dashboard. Once done it
     /// does nothing more.
     Q_INVOKABLE void finish();
 
 signals:
-    void storeChanged();
     void stepChanged();
     void choicesChanged();
-    void appearancesChanged();
 
 private:
+    /// Shows the appearances in the theme as it is.
+    void refresh(const ChangeSet &changes) override;
     void goTo(int step);
-    void selectModules(const QList<OrvelModule> &modules);
+    void selectModules(bool selected);
+    void setModules(const QList<OnboardingModule> &modules);
+    QList<OrvelModule> selectedModules() const;
 
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
-    OnboardingStep m_step = OnboardingStep::welcome;
-    bool m_finished = false;
-
+    int m_step = 0;
+    bool m_isFinished = false;
     QString m_name;
     QString m_workspaceName;
     QString m_workspaceIcon = AppSettings().workspaceIcon;
-    /// In module order.
-    QList<OrvelModule> m_selectedModules = AppSettings().visibleModules();
+    KeyedListModel<OnboardingModule> m_modules;
     bool m_includeSamples = false;
     AppearanceMode m_appearance = AppearanceMode::system;
+    KeyedListModel<OnboardingAppearance> m_appearances;
 };

@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Onboarding
 
-/// Who the person is, and what the workspace is called.
+/// Who the user is, and what the workspace is called.
 OnboardingPage {
     id: root
 

@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
@@ -9,14 +7,10 @@ import Orvel.Shell
 FocusScope {
     id: root
 
-    implicitHeight: more.implicitHeight + 2 * Theme.space4
+    required property NavigationViewModel navigation
+    readonly property int tabWidth: Math.round(84 * Theme.fontScale)
 
-    NavigationViewModel {
-        id: navigationModel
-
-        store: Orvel.store
-        ui: Orvel.ui
-    }
+    implicitHeight: tabs.implicitHeight
 
     ShellGround {
         anchors.fill: parent
@@ -28,38 +22,34 @@ FocusScope {
         anchors.leftMargin: Theme.space8
         anchors.verticalCenter: parent.verticalCenter
         compact: true
-        navigation: navigationModel
+        navigation: root.navigation
     }
 
     Row {
         anchors.centerIn: parent
-        spacing: Theme.space8
+        spacing: Theme.space4
 
         TabStrip {
-            height: more.implicitHeight
-            model: navigationModel.inlineTabs
+            id: tabs
+
+            focus: true
+            model: root.navigation.inlineTabs
+            navigation: root.navigation
             spacing: Theme.space8
-            tabCount: navigationModel.inlineTabCount
-            tabWidth: more.implicitWidth
-
-            delegate: BottomTab {
-                required property string title
-                required property string destination
-
-                tabStop: false
-                chosen: destination === navigationModel.selection
-                text: title
-                onClicked: Orvel.ui.select(destination)
-            }
+            tabWidth: root.tabWidth
+            upright: true
         }
 
-        BottomTab {
+        ShellTab {
             id: more
 
-            chosen: navigationModel.isMoreChosen
+            anchors.verticalCenter: parent.verticalCenter
+            chosen: root.navigation.isMoreChosen
             symbol: "ellipsis"
             text: qsTr("More")
-            Accessible.role: Accessible.ButtonMenu
+            upright: true
+            width: root.tabWidth
+            OVAccessible.role: Accessible.ButtonMenu
             onClicked: menu.visible ? menu.close() : menu.open()
 
             ShellOverflowMenu {
@@ -80,11 +70,5 @@ FocusScope {
         symbol: "magnifyingglass"
         text: qsTr("Search")
         onClicked: Orvel.ui.isSearchPresented = true
-    }
-
-    component BottomTab: ShellTab {
-        implicitWidth: Math.round(84 * Theme.fontScale)
-        labelled: Theme.tabBarLabels
-        upright: true
     }
 }

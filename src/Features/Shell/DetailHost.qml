@@ -1,49 +1,99 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Templates as T
 import Orvel.DesignSystem
 import Orvel.Session
 import Orvel.Shell
 
-/// The detail pane: one screen at a time, the next one fading in over the last. The keyboard goes along to another
-/// place, but for who walks through the places by keys, and to them as well where a screen has a `wantsKeyboard` that
-/// is true.
-T.StackView {
+/// The detail pane: one screen at a time, the next one fading in over the last. Focus follows to another place, unless
+/// the user is moving through the places with the keyboard; a screen with a true `wantsKeyboard` takes it even then.
+FocusScope {
     id: root
 
+    required property ScreenTable screens
     readonly property string identity: detail.identity
-    /// Whether the keyboard's focus is in what leads from place to place.
+    readonly property Item currentItem: pane?.item ?? null
+    /// Whether the last screen is still on its way out.
+    readonly property bool busy: children.length > 1
+    /// Whether the focus is in the navigation around this pane.
     property bool navigationHasFocus: false
     property string shownPlace
+    property Loader pane: null
 
-    function show() {
-        const isFirst = depth === 0
+    function show(source: url, properties: var) {
         const hadFocus = activeFocus
         const isNewPlace = detail.place !== shownPlace
-        const screen = isFirst ? push(detail.source, detail.properties, T.StackView.Immediate)
-                               : replace(null, detail.source, detail.properties)
+        const last = pane
+        for (let i = 0; i < children.length; ++i) {
+            const other = children[i]
+            if (other === last)
+                other.leave()
+            else
+                other.destroy()
+        }
+        pane = paneComponent.createObject(root, { "isShown": last === null })
+        pane.load(source, properties)
+        pane.isShown = true
         shownPlace = detail.place
-        screen.focus = true
-        // What lies above the workspace when it comes, such as the intro, keeps the keyboard.
-        if (!isFirst && (hadFocus || isNewPlace && (!navigationHasFocus || screen.wantsKeyboard === true)))
-            screen.forceActiveFocus(Qt.OtherFocusReason)
+        // What lies above the workspace when it is first shown, such as the intro, keeps the focus.
+        if (last && (hadFocus || isNewPlace && (!navigationHasFocus || currentItem.wantsKeyboard === true)))
+            currentItem.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     clip: true
     Accessible.role: Accessible.Pane
 
-    replaceEnter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.durationScreen }
+    component Pane: Loader {
+        id: pane
+
+        property bool isShown: false
+        property bool isLeaving: false
+
+        function load(source: url, properties: var) {
+            setSource(source, properties)
+            // A file that makes no item must not leave the pane empty.
+            if (!item)
+                setSource("PlaceNotice.qml", {
+                    "symbol": "exclamationmark.triangle",
+                    "title": qsTr("This screen can't be shown"),
+                    "message": qsTr("Choose another place to go on.")
+                })
+            item.focus = true
+        }
+
+        function leave() {
+            isLeaving = true
+            isShown = false
+            if (opacity === 0)
+                destroy()
+        }
+
+        anchors.fill: parent
+        enabled: isShown
+        focus: isShown
+        opacity: isShown ? 1 : 0
+        onOpacityChanged: {
+            if (isLeaving && opacity === 0)
+                destroy()
+        }
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.durationScreen }
+        }
     }
-    replaceExit: Transition {
-        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.durationScreen }
+
+    Component {
+        id: paneComponent
+
+        Pane { }
     }
 
     DetailViewModel {
         id: detail
 
-        store: Orvel.store
+        screens: root.screens
+        session: Orvel
         themeRevision: ThemeRevision.value
-        ui: Orvel.ui
-        onScreenChanged: root.show()
+        onScreenChanged: root.show(detail.source, detail.properties)
     }
 }

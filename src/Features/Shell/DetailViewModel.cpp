@@ -1,49 +1,17 @@
 #include "Features/Shell/DetailViewModel.h"
 
-#include "Features/Shell/ScreenTable.h"
 #include "Support/OrvelNavigation.h"
 
-namespace
-{
-using Kind = Destination::Kind;
+using namespace Qt::StringLiterals;
 
-/// The properties of MissingRecord.qml.
-QVariantMap missing(const char *symbol, const char *title, const char *action, Kind target)
+DetailViewModel::DetailViewModel(QObject *parent) : ViewModel(parent)
 {
-    return {{QStringLiteral("symbol"), QString::fromLatin1(symbol)},
-            {QStringLiteral("title"), QString::fromLatin1(title)},
-            {QStringLiteral("message"), QStringLiteral("It may have been deleted.")},
-            {QStringLiteral("actionTitle"), QString::fromLatin1(action)},
-            {QStringLiteral("destination"), Destination::to(target).text()}};
+    follow<Page, Project, CodeDocument, Deck>();
 }
 
-/// The properties of ModulePlaceholder.qml.
-QVariantMap placeholder(const QString &symbol, const QString &title, const QString &blurb)
+void DetailViewModel::start()
 {
-    return {{QStringLiteral("symbol"), symbol},
-            {QStringLiteral("title"), title},
-            {QStringLiteral("blurb"), blurb}};
-}
-} // namespace
-
-void DetailViewModel::setStore(WorkspaceStore *store)
-{
-    if (m_store == store)
-        return;
-    m_store = store;
-    connect(store, &WorkspaceStore::changed, this, &DetailViewModel::follow);
-    m_route.request();
-    emit storeChanged();
-}
-
-void DetailViewModel::setUi(UIState *ui)
-{
-    if (m_ui == ui)
-        return;
-    m_ui = ui;
-    connect(ui, &UIState::selectionChanged, &m_route, &CoalescedCall::request);
-    m_route.request();
-    emit uiChanged();
+    connect(&ui(), &UIState::selectionChanged, this, &DetailViewModel::requestRefresh);
 }
 
 void DetailViewModel::setThemeRevision(int revision)
@@ -51,24 +19,14 @@ void DetailViewModel::setThemeRevision(int revision)
     if (m_themeRevision == revision)
         return;
     m_themeRevision = revision;
-    m_route.request();
+    requestRefresh();
     emit themeRevisionChanged();
 }
 
-void DetailViewModel::follow(const ChangeSet &changes)
+void DetailViewModel::refresh(const ChangeSet &)
 {
-    const Destination &place = m_ui->selection();
-    const auto comesOrGoes = [&](const RecordChanges &records) {
-        return records.isReloaded || records.inserted.contains(place.id) ||
-               records.removed.contains(place.id);
-    };
-    if ((place.kind == Kind::page && comesOrGoes(changes.of<Page>())) ||
-        (place.kind == Kind::project && comesOrGoes(changes.of<Project>())))
-        m_route.request();
-}
-
-void DetailViewModel::route()
-{
+    if (!m_screens)
+        return;
     Screen next = screen();
     if (next == m_screen)
         return;
@@ -76,56 +34,47 @@ void DetailViewModel::route()
     emit screenChanged();
 }
 
-bool DetailViewModel::isFound(const Destination &place) const
-{
-    if (place.kind == Kind::page)
-        return m_store->pages().first(place.id);
-    if (place.kind == Kind::project)
-        return m_store->projects().first(place.id);
-    return true;
-}
-
 DetailViewModel::Screen DetailViewModel::screen() const
 {
-    const Destination &place = m_ui->selection();
-    Screen next;
-    next.place = place;
-    next.identity = place.kind == Kind::settings ? QStringLiteral("settings")
-                                                 : QStringLiteral("theme-%1").arg(m_themeRevision);
-    if (isFound(place)) {
-        showPlace(next);
-        return next;
+    Screen next{.place = ui().selection()};
+    const Destination &place = next.place;
+    next.identity =
+        place.kind == Destination::Kind::settings ? u"settings"_s : u"theme-%1"_s.arg(m_themeRevision);
+    const PlaceScreen *const found = m_screens->find(place.kind);
+    const ScreenRecord *const record = found && found->record ? &*found->record : nullptr;
+    const bool exists = !record || record->exists(store(), place.id);
+    if (exists && found && found->file) {
+        next.source = url(found->file);
+        if (record)
+            next.properties.insert(QLatin1String(record->property), place.id);
+    } else {
+        next.source = url("Orvel/Shell/PlaceNotice.qml");
+        next.properties = exists ? placeholder(place) : notFound(*record);
     }
-    next.source = ScreenTable::url("Orvel/Shell/MissingRecord.qml");
-    next.properties =
-        place.kind == Kind::page
-            ? missing("doc.questionmark", "Page not found", "Back to dashboard", Kind::dashboard)
-            : missing("target", "Project not found", "Back to projects", Kind::projects);
     return next;
 }
 
-void DetailViewModel::showPlace(Screen &screen) const
+QVariantMap DetailViewModel::placeholder(const Destination &place)
 {
-    const Destination &place = screen.place;
-    if (const ScreenTable::Screen *const found = ScreenTable::find(place.kind)) {
-        screen.source = ScreenTable::url(found->file);
-        if (!found->recordProperty.empty())
-            screen.properties.insert(
-                QString::fromLatin1(found->recordProperty.data(), qsizetype(found->recordProperty.size())),
-                place.id);
-        return;
-    }
-    screen.source = ScreenTable::url("Orvel/Shell/ModulePlaceholder.qml");
-    if (const auto module = OrvelNavigation::module(place))
-        screen.properties = placeholder(
-            enumSymbol(*module), enumLabel(*module),
-            QString::fromUtf16(moduleBlurb(*module).data(), qsizetype(moduleBlurb(*module).size())));
-    else if (place.kind == Kind::settings)
-        screen.properties = placeholder(QStringLiteral("gearshape"), QStringLiteral("Settings"), {});
-    else if (const Page *const page = m_store->pages().first(place.id))
-        screen.properties = placeholder(QStringLiteral("doc.text"), page->title, {});
-    else if (const Project *const project = m_store->projects().first(place.id))
-        screen.properties = placeholder(QStringLiteral("target"), project->name, {});
-    else
-        screen.properties = placeholder(enumSymbol(OrvelModule::decks), enumLabel(OrvelModule::decks), {});
+    const auto module = OrvelNavigation::module(place);
+    if (!module)
+        return {{u"symbol"_s, u"square.dashed"_s}, {u"title"_s, tr("Nothing to show here yet")}};
+    const auto blurb = moduleBlurb(*module);
+    return {{u"symbol"_s, enumSymbol(*module)},
+            {u"title"_s, enumLabel(*module)},
+            {u"message"_s, QString::fromUtf16(blurb.data(), qsizetype(blurb.size()))}};
+}
+
+QVariantMap DetailViewModel::notFound(const ScreenRecord &record) const
+{
+    return {{u"symbol"_s, QString::fromLatin1(record.symbol)},
+            {u"title"_s, m_screens->text(record.title)},
+            {u"message"_s, tr("It may have been deleted.")},
+            {u"actionTitle"_s, m_screens->text(record.action)},
+            {u"destination"_s, Destination::to(record.wayBack).text()}};
+}
+
+QUrl DetailViewModel::url(const char *file)
+{
+    return QUrl(u"qrc:/qt/qml/"_s + QLatin1String(file));
 }

@@ -9,20 +9,16 @@ import Orvel.Shell
 FocusScope {
     id: root
 
+    required property NavigationViewModel navigation
+    readonly property int tabWidth: Theme.tabBarLabels ? Math.round(60 * Theme.fontScale) : search.implicitHeight
+
     implicitHeight: dock.implicitHeight + Theme.space8 + Theme.space16
-
-    NavigationViewModel {
-        id: navigationModel
-
-        store: Orvel.store
-        ui: Orvel.ui
-    }
 
     OVGlassCapsule {
         id: dock
 
         anchors.horizontalCenter: parent.horizontalCenter
-        implicitHeight: row.implicitHeight + 2 * Theme.space4
+        implicitHeight: tabs.implicitHeight
         implicitWidth: row.implicitWidth + 2 * Theme.space8
         radius: Math.min(height / 2, Theme.cornerSheet + Theme.space4)
         y: Theme.space8
@@ -35,56 +31,55 @@ FocusScope {
             id: row
 
             anchors.centerIn: parent
-            spacing: Theme.space4
 
             ShellWorkspaceMenu {
                 id: workspace
 
                 anchors.verticalCenter: parent.verticalCenter
                 compact: true
-                navigation: navigationModel
+                navigation: root.navigation
             }
 
             Line { }
 
             TabStrip {
-                anchors.verticalCenter: parent.verticalCenter
-                chosenTab: navigationModel.chosenTab
-                ground: Theme.ovSurface
-                height: search.implicitHeight
-                model: navigationModel.tabs
-                tabCount: navigationModel.tabCount
-                tabWidth: search.implicitWidth
-                width: Math.min(implicitWidth, root.width - workspace.width - search.width - more.width - 10 * Theme.space8)
+                id: tabs
 
-                delegate: DockButton {
-                    required property string title
-                    required property string destination
-
-                    tabStop: false
-                    chosen: destination === navigationModel.selection
-                    text: title
-                    onClicked: Orvel.ui.select(destination)
-                }
+                focus: true
+                lifts: true
+                model: root.navigation.tabs
+                navigation: root.navigation
+                spacing: Theme.tabBarLabels ? 0 : Theme.space4
+                tabWidth: root.tabWidth
+                upright: true
+                width: Math.min(implicitWidth, root.width - workspace.width - 2 * root.tabWidth - 8 * Theme.space8)
             }
 
             Line { }
 
-            DockButton {
+            ShellTab {
                 id: search
 
+                anchors.verticalCenter: parent.verticalCenter
+                lifts: true
                 symbol: "magnifyingglass"
                 text: qsTr("Search")
+                upright: true
+                width: root.tabWidth
                 OVAccessible.role: Accessible.Button
                 onClicked: Orvel.ui.isSearchPresented = true
             }
 
-            DockButton {
+            ShellTab {
                 id: more
 
+                anchors.verticalCenter: parent.verticalCenter
+                lifts: true
                 symbol: "ellipsis"
                 text: qsTr("More")
-                toolTip: menu.visible ? "" : text
+                toolTip: labelled || menu.visible ? "" : text
+                upright: true
+                width: root.tabWidth
                 OVAccessible.role: Accessible.ButtonMenu
                 onClicked: menu.visible ? menu.close() : menu.open()
 

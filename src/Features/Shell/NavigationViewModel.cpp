@@ -1,6 +1,8 @@
 #include "Features/Shell/NavigationViewModel.h"
 
+#include "DesignSystem/KeyText.h"
 #include "Session/PageActions.h"
+#include "Support/OVShortcuts.h"
 #include "Support/OrvelNavigation.h"
 
 namespace
@@ -9,73 +11,55 @@ QList<ModuleTab> tabsOf(const QList<OrvelModule> &modules)
 {
     QList<ModuleTab> tabs;
     for (OrvelModule module : modules)
-        tabs.append({QUuid::createUuidV5(QUuid(), enumRawText(module)), enumLabel(module), enumSymbol(module),
-                     OrvelNavigation::destination(module).text()});
+        tabs.append({OrvelNavigation::destination(module).text(), enumLabel(module), enumSymbol(module)});
     return tabs;
 }
 } // namespace
 
-void NavigationViewModel::setStore(WorkspaceStore *store)
+NavigationViewModel::NavigationViewModel(QObject *parent) : ViewModel(parent)
 {
-    if (m_store == store)
-        return;
-    m_store = store;
-    connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
-        if (changes.settings)
-            m_followSettings.request();
-    });
     followSettings();
-    emit storeChanged();
 }
 
-void NavigationViewModel::setUi(UIState *ui)
+QString NavigationViewModel::keys(const QString &shortcut)
 {
-    if (m_ui == ui)
-        return;
-    m_ui = ui;
-    connect(ui, &UIState::selectionChanged, this, &NavigationViewModel::followSelection);
-    followSelection();
-    emit uiChanged();
+    return KeyText::of(OVShortcuts::portableKeys(shortcut));
 }
 
 void NavigationViewModel::newPage()
 {
-    PageActions::create(*m_store, *m_ui, PageKind::page);
+    PageActions::create(store(), ui(), PageKind::page);
 }
 
 void NavigationViewModel::newNote()
 {
-    PageActions::create(*m_store, *m_ui, PageKind::note);
+    PageActions::create(store(), ui(), PageKind::note);
 }
 
-void NavigationViewModel::followSettings()
+void NavigationViewModel::start()
 {
-    const AppSettings &settings = m_store->settings();
-    const QList<OrvelModule> visible = settings.visibleModules();
-    const auto counts = std::pair(tabCount(), inlineTabCount());
+    connect(&ui(), &UIState::selectionChanged, this, &NavigationViewModel::followSelection);
+    m_selection = ui().selection().text();
+}
+
+void NavigationViewModel::refresh(const ChangeSet &)
+{
+    const QList<OrvelModule> visible = store().settings().visibleModules();
     m_tabs.setRows(tabsOf(visible));
     m_inlineTabs.setRows(tabsOf(OrvelNavigation::splitTabs(visible).inlineModules));
-    if (counts != std::pair(tabCount(), inlineTabCount()))
-        emit tabCountChanged();
-    const auto before = std::tuple(m_style, m_workspaceName, m_workspaceIcon);
-    m_style = enumRawText(settings.theme.navigation);
-    m_workspaceName = OrvelNavigation::windowTitle(settings);
-    m_workspaceIcon = settings.workspaceIcon;
-    if (before != std::tuple(m_style, m_workspaceName, m_workspaceIcon))
-        emit changed();
     findChosenTab();
 }
 
 void NavigationViewModel::followSelection()
 {
-    m_selection = m_ui->selection().text();
+    m_selection = ui().selection().text();
     emit selectionChanged();
     findChosenTab();
 }
 
 void NavigationViewModel::findChosenTab()
 {
-    const auto found = std::ranges::find(tabList(), m_selection, &ModuleTab::destination);
+    const auto found = std::ranges::find(tabList(), m_selection, &ModuleTab::id);
     m_chosenTab = found == tabList().end() ? -1 : int(found - tabList().begin());
     emit chosenTabChanged();
 }

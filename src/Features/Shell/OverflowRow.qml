@@ -14,12 +14,12 @@ OVPressable {
 
     readonly property bool isPlace: destination !== ""
 
-    tabStop: false
     hoverEnabled: isPlace
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.space12
     pressedScale: 1
     rightPadding: Theme.space12
+    tabStop: false
     text: title
     Accessible.name: title
     OVAccessible.role: isPlace ? Accessible.MenuItem : Accessible.Heading

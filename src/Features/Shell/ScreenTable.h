@@ -1,40 +1,60 @@
 #pragma once
 
-#include "Support/Destination.h"
+#include "Session/SessionTypes.h"
 
-#include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
-/// Which QML file shows which place. A screen joins the window by one line here and by its module in the
-/// build file beside it.
-namespace ScreenTable
-{
-struct Screen {
-    Destination::Kind kind;
-    /// Below the import path of QML.
-    std::string_view file;
-    /// The property of the screen that takes the id of the record; empty where there is none.
-    std::string_view recordProperty;
+#include <span>
+
+/// Where a place shows one record: which, whether it exists, and what stands there if it doesn't.
+struct ScreenRecord {
+    bool (*exists)(const WorkspaceStore &store, const QUuid &id);
+    /// The property of the screen that takes the id.
+    const char *property;
+    /// Shown in place of a record that is gone; the texts are marked for translation.
+    const char *symbol;
+    const char *title;
+    const char *action;
+    /// Where the action leads.
+    Destination::Kind wayBack;
 };
 
-inline constexpr auto screens = std::to_array<Screen>({
-    {Destination::Kind::page, "Orvel/Pages/PageEditorView.qml", "pageID"},
-    {Destination::Kind::notes, "Orvel/Notes/NotesView.qml", {}},
-    {Destination::Kind::code, "Orvel/Code/CodeView.qml", {}},
-    {Destination::Kind::codeDocument, "Orvel/Code/CodeView.qml", {}},
-    {Destination::Kind::tasks, "Orvel/Tasks/TasksView.qml", {}},
-});
-
-/// The screen of this kind; null where none is made yet.
-constexpr const Screen *find(Destination::Kind kind)
+template <typename Record>
+bool recordExists(const WorkspaceStore &store, const QUuid &id)
 {
-    for (const Screen &screen : screens)
-        if (screen.kind == kind)
-            return &screen;
-    return nullptr;
+    return store.list<Record>().first(id);
 }
 
-inline QUrl url(std::string_view file)
+/// All there is to know of what stands in the detail pane at one kind of place.
+struct PlaceScreen {
+    Destination::Kind kind;
+    /// The QML file below the import path; null for a place without a screen of its own.
+    const char *file = nullptr;
+    std::optional<ScreenRecord> record = {};
+};
+
+/// Which screen shows which place. The application has the table, since it alone knows all screens.
+class ScreenTable : public QObject
 {
-    return QUrl(QStringLiteral("qrc:/qt/qml/") + QLatin1String(file.data(), qsizetype(file.size())));
-}
-} // namespace ScreenTable
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application makes the table of screens.")
+
+public:
+    const std::span<const PlaceScreen> screens;
+
+    /// The screen of this kind of place; null for none.
+    const PlaceScreen *find(Destination::Kind kind) const
+    {
+        const auto found = std::ranges::find(screens, kind, &PlaceScreen::kind);
+        return found == screens.end() ? nullptr : &*found;
+    }
+    /// A text of the table in the user's language.
+    virtual QString text(const char *text) const = 0;
+
+protected:
+    explicit ScreenTable(std::span<const PlaceScreen> screens, QObject *parent)
+        : QObject(parent), screens(screens)
+    {
+    }
+};

@@ -15,7 +15,7 @@ OVPressable {
     radius: height / 2
     rightPadding: Theme.space12
     text: qsTr("Search")
-    Accessible.name: qsTr("%1, %2").arg(text).arg(navigation.searchKeys)
+    Accessible.name: qsTr("%1, %2").arg(text).arg(keys.text)
     onClicked: Orvel.ui.isSearchPresented = true
 
     background: Rectangle {
@@ -49,7 +49,7 @@ OVPressable {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             role: OVText.Caption
-            text: root.navigation.searchKeys
+            text: root.navigation.keys("palette")
             Accessible.ignored: true
         }
     }

@@ -21,7 +21,7 @@ OVPopup {
 
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     focus: true
-    implicitHeight: Math.min(list.contentHeight + topPadding + bottomPadding, 10 * Theme.sidebarWidth / 5)
+    implicitHeight: Math.min(list.contentHeight + topPadding + bottomPadding, 2 * Theme.sidebarWidth)
     implicitWidth: Theme.sidebarWidth + Theme.space24
     modal: false
     padding: Theme.space4
@@ -30,9 +30,13 @@ OVPopup {
     OverflowMenuViewModel {
         id: overflow
 
-        isShown: root.visible
-        store: Orvel.store
-        ui: Orvel.ui
+        active: root.visible
+        session: Orvel
+    }
+
+    readonly property ListFocus keys: ListFocus {
+        stopsAt: row => overflow.isPlace(row)
+        view: list
     }
 
     contentItem: ListView {
@@ -49,8 +53,12 @@ OVPopup {
         Accessible.role: Accessible.PopupMenu
         T.ScrollBar.vertical: OVScrollBar { }
 
-        Keys.onUpPressed: currentIndex = overflow.neighbour(currentIndex, -1)
-        Keys.onDownPressed: currentIndex = overflow.neighbour(currentIndex, 1)
+        Keys.onPressed: event => {
+            const row = root.keys.target(event.key)
+            event.accepted = row >= 0
+            if (row >= 0)
+                currentIndex = row
+        }
         Keys.onReturnPressed: root.choose(currentIndex)
         Keys.onEnterPressed: root.choose(currentIndex)
         Keys.onSpacePressed: root.choose(currentIndex)

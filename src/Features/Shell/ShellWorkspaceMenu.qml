@@ -17,7 +17,7 @@ OVPressable {
     leftPadding: Theme.space8
     pressedScale: 1
     rightPadding: Theme.space8
-    text: navigation.workspaceName
+    text: Orvel.settings.workspaceName
     toolTip: compact ? text : ""
     Accessible.name: qsTr("Workspace menu, %1").arg(text)
     OVAccessible.role: Accessible.ButtonMenu
@@ -28,7 +28,7 @@ OVPressable {
             id: tile
 
             anchors.verticalCenter: parent.verticalCenter
-            emoji: root.navigation.workspaceIcon
+            emoji: Orvel.settings.workspaceIcon
         }
 
         OVText {
@@ -60,14 +60,14 @@ OVPressable {
         id: menu
 
         OVMenuItem {
-            shortcutText: root.navigation.newPageKeys
+            shortcutText: root.navigation.keys("newPage")
             symbol: "doc.badge.plus"
             text: qsTr("New page")
             onTriggered: root.navigation.newPage()
         }
 
         OVMenuItem {
-            shortcutText: root.navigation.newNoteKeys
+            shortcutText: root.navigation.keys("newNote")
             symbol: "note.text.badge.plus"
             text: qsTr("New note")
             onTriggered: root.navigation.newNote()
@@ -76,14 +76,14 @@ OVPressable {
         OVMenuSeparator { }
 
         OVMenuItem {
-            shortcutText: root.navigation.settingsKeys
+            shortcutText: root.navigation.keys("settings")
             symbol: "gearshape"
             text: qsTr("Workspace settings")
             onTriggered: Orvel.ui.select("settings")
         }
 
         OVMenuItem {
-            shortcutText: root.navigation.shortcutsKeys
+            shortcutText: root.navigation.keys("shortcuts")
             symbol: "keyboard"
             text: qsTr("Keyboard shortcuts")
             onTriggered: Orvel.ui.isShortcutsPresented = true

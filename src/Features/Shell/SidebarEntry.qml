@@ -1,11 +1,15 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Shell
 
 /// A line of the sidebar's list: the row, or the field in which a folder is named.
 FocusScope {
     id: root
 
+    required property NavigationViewModel navigation
     required property SidebarViewModel sidebar
     required property int index
     required property string kind
@@ -26,13 +30,14 @@ FocusScope {
 
     /// The row was clicked, so that the keyboard goes on from it.
     signal pressed
+    /// The row has the focus by keys.
+    signal ringShown
     signal menuRequested(Item from, real x, real y)
 
-    implicitHeight: gap + (isEditing ? editor.height : row.implicitHeight)
+    implicitHeight: gap + Theme.rowHeight
 
     SidebarRow {
-        id: row
-
+        chosen: root.destination !== "" && root.destination === root.navigation.selection
         collapsed: root.isCollapsed
         depth: root.depth
         detail: root.detail
@@ -40,9 +45,9 @@ FocusScope {
         focus: !root.isEditing
         foldable: root.isFolder
         hasMenu: root.isFolder || root.isPage
-        chosen: root.destination !== "" && root.destination === root.sidebar.selection
-        showsIcon: root.sidebar.showsIcons
+        showsIcon: Orvel.settings.sidebarShowsIcons
         symbol: root.symbol
+        tabStop: root.ListView.isCurrentItem || activeFocus
         text: root.title
         visible: !root.isEditing
         width: root.width
@@ -50,48 +55,18 @@ FocusScope {
         onClicked: root.sidebar.activate(root.index)
         onMenuRequested: (from, x, y) => root.menuRequested(from, x, y)
         onPressed: root.pressed()
+        onVisualFocusChanged: if (visualFocus) root.ringShown()
     }
 
-    Loader {
-        id: editor
-
+    OVLazyLoader {
         active: root.isEditing
         focus: root.isEditing
+        height: Theme.rowHeight
         width: root.width
         y: root.gap
-        onLoaded: {
-            const field = item as SidebarNameField
-            field.symbol = root.sidebar.showsIcons ? "folder" : ""
-            field.begin(root.isFolder ? root.sidebar.renameText : root.sidebar.folderName)
-        }
 
         sourceComponent: SidebarNameField {
-            placeholderText: qsTr("Folder name")
+            sidebar: root.sidebar
         }
-    }
-
-    Connections {
-        function onCancelled() {
-            if (root.isFolder)
-                root.sidebar.cancelRename()
-            else
-                root.sidebar.cancelFolder()
-        }
-
-        function onCommitted() {
-            if (root.isFolder)
-                root.sidebar.commitRename()
-            else
-                root.sidebar.commitFolder()
-        }
-
-        function onEdited(text: string) {
-            if (root.isFolder)
-                root.sidebar.renameText = text
-            else
-                root.sidebar.folderName = text
-        }
-
-        target: editor.item
     }
 }

@@ -8,13 +8,18 @@ OVPressable {
     required property int index
     required property string title
 
-    tabStop: false
+    /// The row has the focus by keys.
+    signal ringShown
+
+    onVisualFocusChanged: if (visualFocus) ringShown()
+
     clickFocus: true
     leftPadding: Theme.space8 + 2
     rightPadding: Theme.space8 + 2
     bottomPadding: Theme.space8
     topPadding: Theme.space8
     pressedScale: 1
+    tabStop: ListView.isCurrentItem || activeFocus
     text: title
     Accessible.name: text
     OVAccessible.role: Accessible.ListItem

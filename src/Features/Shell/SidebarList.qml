@@ -10,15 +10,44 @@ import Orvel.Shell
 Item {
     id: root
 
+    required property NavigationViewModel navigation
     required property SidebarViewModel sidebar
+    property alias list: list
+    readonly property ListFocus keys: ListFocus {
+        stopsAt: row => root.sidebar.isStop(row)
+        view: list
+    }
 
-    function goTo(row: int) {
-        list.currentIndex = row
+    /// Follows the current row, along with the focus if that is in the list.
+    function follow() {
+        if (list.activeFocus && !sidebar.isNaming)
+            keys.focus(sidebar.currentRow, keys.ringShown ? Qt.TabFocusReason : Qt.MouseFocusReason)
+        else
+            list.currentIndex = sidebar.currentRow
+    }
+
+    function go(row: int) {
+        keys.focus(row)
+        sidebar.currentRow = list.currentIndex
+    }
+
+    function press(row: int) {
+        keys.ringShown = false
+        sidebar.currentRow = list.currentIndex = row
+    }
+
+    /// Brings a row into view, with room for its focus ring.
+    function reveal(row: int) {
         list.positionViewAtIndex(row, ListView.Contain)
-        list.currentItem?.forceActiveFocus(Qt.TabFocusReason)
-        // The view has given the item its focus already, without the reason.
-        if (Window.activeFocusItem)
-            Window.activeFocusItem.focusReason = Qt.TabFocusReason
+        const item = list.itemAtIndex(row)
+        if (!item)
+            return
+        const margin = Theme.space4
+        const lowest = list.originY + list.contentHeight + list.bottomMargin - list.height
+        if (item.y - margin < list.contentY)
+            list.contentY = Math.max(list.originY - list.topMargin, item.y - margin)
+        else if (item.y + item.height + margin > list.contentY + list.height)
+            list.contentY = Math.min(lowest, item.y + item.height + margin - list.height)
     }
 
     function openMenu() {
@@ -36,16 +65,28 @@ Item {
         sidebar: root.sidebar
     }
 
+    Connections {
+        target: root.sidebar
+
+        function onLaidOut() {
+            root.follow()
+        }
+        function onSelectionRevealed() {
+            root.follow()
+            root.reveal(root.sidebar.currentRow)
+        }
+    }
+
     ListView {
         id: list
 
-        activeFocusOnTab: true
         anchors.fill: parent
         anchors.leftMargin: Theme.space12
         anchors.rightMargin: Theme.space12
         bottomMargin: Theme.space8
         boundsBehavior: Flickable.StopAtBounds
         currentIndex: -1
+        focus: true
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
         model: root.sidebar.rows
@@ -54,20 +95,13 @@ Item {
         Accessible.name: qsTr("Pages and places")
         Accessible.role: Accessible.List
         T.ScrollBar.vertical: scrollBar
-        onActiveFocusChanged: {
-            if (activeFocus && currentIndex < 0)
-                root.goTo(root.sidebar.selectedRow())
-        }
 
+        Keys.enabled: !root.sidebar.isNaming
         Keys.onPressed: event => {
             event.accepted = true
             switch (event.key) {
-            case Qt.Key_Up: return root.goTo(root.sidebar.neighbour(currentIndex, -1))
-            case Qt.Key_Down: return root.goTo(root.sidebar.neighbour(currentIndex, 1))
-            case Qt.Key_Home: return root.goTo(root.sidebar.neighbour(-1, 1))
-            case Qt.Key_End: return root.goTo(root.sidebar.neighbour(count, -1))
-            case Qt.Key_Right: return root.goTo(root.sidebar.moveIn(currentIndex))
-            case Qt.Key_Left: return root.goTo(root.sidebar.moveOut(currentIndex))
+            case Qt.Key_Right: return root.go(root.sidebar.moveIn(currentIndex))
+            case Qt.Key_Left: return root.go(root.sidebar.moveOut(currentIndex))
             case Qt.Key_F2: return root.sidebar.beginRename(currentIndex)
             case Qt.Key_Delete: return root.sidebar.remove(currentIndex)
             case Qt.Key_Menu: return root.openMenu()
@@ -75,7 +109,8 @@ Item {
                 if (event.modifiers & Qt.ShiftModifier)
                     return root.openMenu()
             }
-            event.accepted = false
+            event.accepted = root.keys.press(event.key)
+            root.sidebar.currentRow = currentIndex
         }
 
         delegate: chooser
@@ -122,14 +157,15 @@ Item {
             roleValue: "section"
 
             SidebarSection {
-                required property string section
+                required property string name
 
-                actionText: section === "pages" ? qsTr("New page") : ""
+                actionText: name === "pages" ? qsTr("New page") : ""
                 foldable: true
                 width: list.width
                 onActionTriggered: root.sidebar.newPage()
                 onClicked: root.sidebar.activate(index)
-                onPressed: list.currentIndex = index
+                onPressed: root.press(index)
+                onRingShown: root.reveal(index)
             }
         }
 
@@ -139,16 +175,19 @@ Item {
             SidebarHint {
                 width: list.width
                 onClicked: root.sidebar.activate(index)
-                onPressed: list.currentIndex = index
+                onPressed: root.press(index)
+                onRingShown: root.reveal(index)
             }
         }
 
         DelegateChoice {
             SidebarEntry {
+                navigation: root.navigation
                 sidebar: root.sidebar
                 width: list.width
                 onMenuRequested: (from, x, y) => menus.open(this, from, x, y)
-                onPressed: list.currentIndex = index
+                onPressed: root.press(index)
+                onRingShown: root.reveal(index)
             }
         }
     }

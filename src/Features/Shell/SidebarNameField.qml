@@ -1,44 +1,41 @@
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
+import Orvel.Shell
 
 /// The field that stands in place of a row while a folder is named. Losing the focus keeps what was typed.
 Item {
     id: root
 
-    property string symbol
-    property alias placeholderText: field.placeholderText
-
+    required property SidebarViewModel sidebar
     property bool isEnding: false
 
-    signal edited(string text)
-    signal committed
-    signal cancelled
-
-    function begin(text: string) {
-        field.text = text
-        field.selectAll()
-        field.forceActiveFocus(Qt.OtherFocusReason)
-    }
-
-    function end(byUser: bool) {
+    function end(isCancelled: bool) {
         if (isEnding)
             return
         isEnding = true
-        if (byUser)
-            cancelled()
+        if (isCancelled)
+            sidebar.cancelName()
         else
-            committed()
+            sidebar.commitName()
     }
 
     implicitHeight: Theme.rowHeight
+
+    Component.onCompleted: {
+        field.text = sidebar.nameText
+        field.selectAll()
+        field.forceActiveFocus(Qt.OtherFocusReason)
+    }
 
     OVTextField {
         id: field
 
         anchors.fill: parent
         font.pixelSize: Theme.sizeDense
-        leftPadding: Theme.space8 + 2 + (root.symbol === "" ? 0 : Theme.iconRow + Theme.space8 + 2)
-        onTextEdited: root.edited(text)
+        leftPadding: Theme.space8 + 2 + (icon.visible ? Theme.iconRow + Theme.space8 + 2 : 0)
+        placeholderText: qsTr("Folder name")
+        onTextEdited: root.sidebar.nameText = text
         onAccepted: root.end(false)
         onActiveFocusChanged: {
             // A menu over the field and another window only borrow the focus.
@@ -47,14 +44,14 @@ Item {
                 root.end(false)
         }
         Keys.onEscapePressed: root.end(true)
-        Keys.onUpPressed: event => event.accepted = true
-        Keys.onDownPressed: event => event.accepted = true
     }
 
     OVIcon {
+        id: icon
+
         anchors.verticalCenter: parent.verticalCenter
-        symbol: root.symbol
-        visible: root.symbol !== ""
+        symbol: "folder"
+        visible: Orvel.settings.sidebarShowsIcons
         x: Theme.space8 + 2
     }
 }

@@ -25,12 +25,12 @@ OVPressable {
 
     signal menuRequested(Item from, real x, real y)
 
-    tabStop: false
     clickFocus: true
     implicitHeight: Theme.rowHeight
     leftPadding: Theme.space8 + 2 + indent
     pressedScale: 1
     rightPadding: Theme.space8 + 2
+    tabStop: ListView.isCurrentItem || activeFocus
     Accessible.name: detail === "" ? text : qsTr("%1, %2").arg(text).arg(detail)
     OVAccessible.role: Accessible.ListItem
     Accessible.selected: chosen

@@ -9,73 +9,50 @@
 
 namespace
 {
-using Kind = SidebarRow::Kind;
-using SidebarRows::State;
-
-QUuid namedRowID(const QString &name)
-{
-    static const QUuid sidebar(QStringLiteral("{9d0b7c4e-3a55-4c0a-9f0e-6b1f5a2c7d11}"));
-    return QUuid::createUuidV5(sidebar, name);
-}
+using State = SidebarRows::State;
+using PageList = QList<const Page *>;
 
 /// The pages of the sidebar, each list in the order in which it is shown.
 struct Pages {
-    QList<const Page *> favorites;
-    QList<const Page *> loose;
-    QHash<QUuid, QList<const Page *>> byFolder;
+    PageList favorites;
+    PageList loose;
+    QHash<QUuid, PageList> byFolder;
 };
 
-// One walk for all folders, where asking the store for each folder would walk all pages for each.
+// One walk for all folders, where asking for the pages of each would walk all pages for each.
 Pages sortedPages(const WorkspaceStore &store)
 {
-    const auto any = [](const Page &) { return true; };
+    const auto isShown = [](const Page &page) { return page.isFavorite || page.kind == PageKind::page; };
     Pages pages;
-    for (const Page *page : Questions::ascending(Questions::where(store.pages(), any), &Page::sortOrder)) {
+    for (const Page *page :
+         Questions::ascending(Questions::where(store.pages(), isShown), &Page::sortOrder)) {
         if (page->isFavorite)
             pages.favorites.append(page);
-        if (page->kind != PageKind::page)
-            continue;
-        if (page->folderID)
-            pages.byFolder[*page->folderID].append(page);
-        else
-            pages.loose.append(page);
+        if (page->kind == PageKind::page)
+            (page->folderID ? pages.byFolder[*page->folderID] : pages.loose).append(page);
     }
     return pages;
 }
 
-SidebarRow pageRow(const QUuid &id, const Page &page, int depth)
+void addPages(QList<SidebarRow> &rows, const PageList &pages, const QString &name = {}, int depth = 0)
 {
-    SidebarRow row{.id = id,
-                   .kind = Kind::page,
-                   .recordID = page.id,
-                   .destination = Destination::page(page.id).text(),
-                   .depth = depth};
-    SidebarRows::showPage(row, page);
-    return row;
+    for (const Page *page : pages) {
+        rows.append({.kind = SidebarRow::Kind::page,
+                     .recordID = page->id,
+                     .name = name,
+                     .place = Destination::page(page->id),
+                     .depth = depth});
+        SidebarRows::showPage(rows.last(), *page);
+    }
 }
 
-void addQuickActions(QList<SidebarRow> &rows)
+SidebarRow moduleRow(OrvelModule module)
 {
-    rows.append({.id = namedRowID(QStringLiteral("search")),
-                 .kind = Kind::search,
-                 .title = QStringLiteral("Search"),
-                 .symbol = QStringLiteral("magnifyingglass"),
-                 .detail = KeyText::of(OVShortcuts::portableKeys(u"palette"))});
-    rows.append({.id = namedRowID(QStringLiteral("newPage")),
-                 .kind = Kind::newPage,
-                 .title = QStringLiteral("New page"),
-                 .symbol = QStringLiteral("square.and.pencil"),
-                 .detail = KeyText::of(OVShortcuts::portableKeys(u"newPage"))});
-}
-
-SidebarRow moduleRow(OrvelModule module, const WorkspaceStore &store)
-{
-    return {.id = SidebarRows::moduleRowID(enumRawText(module)),
-            .kind = Kind::module,
+    return {.kind = SidebarRow::Kind::module,
+            .name = enumRawText(module),
             .title = enumLabel(module),
             .symbol = enumSymbol(module),
-            .destination = OrvelNavigation::destination(module).text(),
-            .detail = module == OrvelModule::tasks ? SidebarRows::openTaskCount(store) : QString()};
+            .place = OrvelNavigation::destination(module)};
 }
 
 void addGroups(QList<SidebarRow> &rows, const WorkspaceStore &store)
@@ -83,47 +60,28 @@ void addGroups(QList<SidebarRow> &rows, const WorkspaceStore &store)
     for (const OrvelNavigation::Group &group : OrvelNavigation::visibleGroups(store.settings())) {
         const qsizetype start = rows.size();
         if (group.label)
-            rows.append({.id = namedRowID(QStringLiteral("label/") + group.id),
-                         .kind = Kind::label,
+            rows.append({.kind = SidebarRow::Kind::label,
+                         .name = QStringLiteral("label/") + group.id,
                          .title = *group.label});
-        for (OrvelModule module : group.modules)
-            rows.append(moduleRow(module, store));
+        for (OrvelModule module : group.modules) {
+            rows.append(moduleRow(module));
+            if (module == OrvelModule::tasks)
+                rows.last().detail = SidebarRows::openTaskCount(store);
+        }
         rows[start].startsGroup = true;
     }
 }
 
-void addSection(QList<SidebarRow> &rows, const QString &section, const QString &title, const State &state)
+/// Adds the heading of a section, and tells whether it is open.
+bool addSection(QList<SidebarRow> &rows, const QString &name, const QString &title, const State &state)
 {
-    rows.append({.id = namedRowID(QStringLiteral("section/") + section),
-                 .kind = Kind::section,
+    const bool isCollapsed = state.collapsedSections.contains(name);
+    rows.append({.kind = SidebarRow::Kind::section,
+                 .name = name,
                  .title = title,
                  .startsGroup = true,
-                 .isCollapsed = state.collapsedSections.contains(section),
-                 .section = section});
-}
-
-void addFavorites(QList<SidebarRow> &rows, const Pages &pages, const State &state)
-{
-    if (pages.favorites.isEmpty())
-        return;
-    addSection(rows, QStringLiteral("favorites"), QStringLiteral("Favorites"), state);
-    if (rows.constLast().isCollapsed)
-        return;
-    for (const Page *page : pages.favorites)
-        rows.append(pageRow(SidebarRows::favoriteRowID(page->id), *page, 0));
-}
-
-void addLoosePages(QList<SidebarRow> &rows, const Pages &pages, const State &state)
-{
-    addSection(rows, QStringLiteral("pages"), QStringLiteral("Pages"), state);
-    if (rows.constLast().isCollapsed)
-        return;
-    if (pages.loose.isEmpty())
-        rows.append({.id = namedRowID(QStringLiteral("noPages")),
-                     .kind = Kind::hint,
-                     .title = QStringLiteral("No pages yet. Create your first one.")});
-    for (const Page *page : pages.loose)
-        rows.append(pageRow(page->id, *page, 0));
+                 .isCollapsed = isCollapsed});
+    return !isCollapsed;
 }
 
 void addFolders(QList<SidebarRow> &rows, const WorkspaceStore &store, const Pages &pages, const State &state)
@@ -132,8 +90,7 @@ void addFolders(QList<SidebarRow> &rows, const WorkspaceStore &store, const Page
     for (const Folder *folder : FolderOperations::ordered(store)) {
         const RecordIcon icon = RecordIcon::of(*folder);
         const bool isCollapsed = state.collapsedFolders.contains(folder->id);
-        rows.append({.id = folder->id,
-                     .kind = Kind::folder,
+        rows.append({.kind = SidebarRow::Kind::folder,
                      .recordID = folder->id,
                      .title = folder->name,
                      .symbol = icon.symbol,
@@ -141,28 +98,60 @@ void addFolders(QList<SidebarRow> &rows, const WorkspaceStore &store, const Page
                      .startsGroup = std::exchange(isFirst, false),
                      .isCollapsed = isCollapsed,
                      .isEditing = folder->id == state.renamingFolderID});
-        if (isCollapsed)
-            continue;
-        for (const Page *page : pages.byFolder.value(folder->id))
-            rows.append(pageRow(page->id, *page, 1));
+        if (!isCollapsed)
+            addPages(rows, pages.byFolder.value(folder->id), {}, 1);
     }
 }
 } // namespace
 
-QList<SidebarRow> SidebarRows::build(const WorkspaceStore &store, const State &state)
+QList<SidebarRow> SidebarRows::sidebar(const WorkspaceStore &store, const State &state)
 {
-    const Pages pages = sortedPages(store);
-    QList<SidebarRow> rows;
-    addQuickActions(rows);
+    const Pages lists = sortedPages(store);
+    QList<SidebarRow> rows{{.kind = SidebarRow::Kind::search,
+                            .name = QStringLiteral("search"),
+                            .title = tr("Search"),
+                            .symbol = QStringLiteral("magnifyingglass"),
+                            .detail = KeyText::of(OVShortcuts::portableKeys(u"palette"))},
+                           {.kind = SidebarRow::Kind::newPage,
+                            .name = QStringLiteral("newPage"),
+                            .title = tr("New page"),
+                            .symbol = QStringLiteral("square.and.pencil"),
+                            .detail = KeyText::of(OVShortcuts::portableKeys(u"newPage"))}};
     addGroups(rows, store);
-    addFavorites(rows, pages, state);
-    addLoosePages(rows, pages, state);
-    addFolders(rows, store, pages, state);
-    rows.append({.id = namedRowID(QStringLiteral("newFolder")),
-                 .kind = Kind::newFolder,
-                 .title = QStringLiteral("New folder"),
+    if (!lists.favorites.isEmpty() && addSection(rows, favorites, tr("Favorites"), state))
+        addPages(rows, lists.favorites, favorites);
+    if (addSection(rows, pages, tr("Pages"), state)) {
+        if (lists.loose.isEmpty())
+            rows.append({.kind = SidebarRow::Kind::hint,
+                         .name = QStringLiteral("noPages"),
+                         .title = tr("No pages yet. Create your first one.")});
+        addPages(rows, lists.loose);
+    }
+    addFolders(rows, store, lists, state);
+    rows.append({.kind = SidebarRow::Kind::newFolder,
+                 .name = QStringLiteral("newFolder"),
+                 .title = tr("New folder"),
                  .symbol = QStringLiteral("folder.badge.plus"),
                  .isEditing = state.addingFolder});
+    return rows;
+}
+
+QList<SidebarRow> SidebarRows::overflow(const WorkspaceStore &store, bool withModules)
+{
+    QList<SidebarRow> rows;
+    if (withModules)
+        for (OrvelModule module : OrvelNavigation::splitTabs(store.settings().visibleModules()).overflow)
+            rows.append(moduleRow(module));
+    const auto addList = [&rows](const QString &name, const QString &title, const PageList &list) {
+        if (list.isEmpty())
+            return;
+        rows.append({.name = QStringLiteral("label/") + name, .title = title});
+        addPages(rows, list, name);
+    };
+    addList(favorites, tr("Favourites"), PageOperations::pinned(store));
+    addList(pages, tr("Pages"), PageOperations::loose(store));
+    if (rows.isEmpty())
+        rows.append({.name = QStringLiteral("noPages"), .title = tr("No pages yet. Create your first one.")});
     return rows;
 }
 
@@ -179,17 +168,4 @@ void SidebarRows::showPage(SidebarRow &row, const Page &page)
     row.title = page.title.isEmpty() ? Page().title : page.title;
     row.symbol = icon.symbol;
     row.emoji = icon.emoji;
-}
-
-QUuid SidebarRows::moduleRowID(const QString &module)
-{
-    return namedRowID(QStringLiteral("module/") + module);
-}
-
-QUuid SidebarRows::favoriteRowID(const QUuid &pageID)
-{
-    // Cheap, since there may be thousands, and different for different pages.
-    QUuid id = pageID;
-    id.data1 = ~id.data1;
-    return id;
 }

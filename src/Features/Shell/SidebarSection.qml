@@ -15,7 +15,10 @@ FocusScope {
     readonly property bool lit: heading.hovered || action.hovered || heading.visualFocus
 
     signal clicked
+    /// The heading was clicked, so that the keyboard goes on from it.
     signal pressed
+    /// The heading has the focus by keys.
+    signal ringShown
     signal actionTriggered
 
     implicitHeight: heading.y + heading.height
@@ -23,13 +26,13 @@ FocusScope {
     OVPressable {
         id: heading
 
-        tabStop: false
-        focus: true
         clickFocus: root.foldable
+        focus: true
         height: Theme.rowHeight - Theme.space4
         hoverEnabled: root.foldable
         leftPadding: Theme.space8 + 2
         pressedScale: 1
+        tabStop: root.foldable && (root.ListView.isCurrentItem || activeFocus)
         text: root.title
         washed: false
         width: root.width
@@ -38,6 +41,7 @@ FocusScope {
         OVAccessible.role: root.foldable ? Accessible.ListItem : Accessible.Heading
         onClicked: root.clicked()
         onPressed: root.pressed()
+        onVisualFocusChanged: if (visualFocus) root.ringShown()
 
         contentItem: Item {
             OVText {
@@ -76,7 +80,6 @@ FocusScope {
     OVIconButton {
         id: action
 
-        tabStop: false
         anchors.right: parent.right
         anchors.rightMargin: Theme.space4
         anchors.verticalCenter: heading.verticalCenter
@@ -84,6 +87,7 @@ FocusScope {
         iconSize: Theme.iconRow
         opacity: root.lit ? 1 : 0
         symbol: "plus"
+        tabStop: false
         text: root.actionText
         visible: root.actionText !== ""
         width: height

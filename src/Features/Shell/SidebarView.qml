@@ -7,23 +7,17 @@ import Orvel.Shell
 FocusScope {
     id: root
 
+    required property NavigationViewModel navigation
+
     implicitWidth: Theme.sidebarWidth
     Accessible.name: qsTr("Sidebar")
     Accessible.role: Accessible.Pane
 
-    NavigationViewModel {
-        id: navigationModel
-
-        store: Orvel.store
-        ui: Orvel.ui
-    }
-
     SidebarViewModel {
         id: sidebar
 
-        isShown: root.visible
-        store: Orvel.store
-        ui: Orvel.ui
+        active: root.visible
+        session: Orvel
     }
 
     ShellGround {
@@ -33,36 +27,10 @@ FocusScope {
     ShellWorkspaceMenu {
         id: header
 
-        anchors.left: parent.left
-        anchors.leftMargin: Theme.space8
-        anchors.right: hideButton.left
-        anchors.rightMargin: Theme.space4
-        navigation: navigationModel
+        navigation: root.navigation
+        width: parent.width - 2 * x
+        x: Theme.space8
         y: Theme.space12
-    }
-
-    OVIconButton {
-        id: hideButton
-
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.space12
-        anchors.verticalCenter: header.verticalCenter
-        color: Theme.ovInkTertiary
-        opacity: headerHover.hovered || visualFocus ? 1 : 0
-        symbol: "sidebar.left"
-        text: qsTr("Hide sidebar")
-        onClicked: Orvel.ui.isSidebarVisible = false
-
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.durationHover }
-        }
-    }
-
-    HoverHandler {
-        id: headerHover
-
-        parent: root
-        target: root
     }
 
     SidebarList {
@@ -71,29 +39,40 @@ FocusScope {
         anchors.right: parent.right
         anchors.top: header.bottom
         anchors.topMargin: Theme.space8
+        focus: true
+        navigation: root.navigation
         sidebar: sidebar
     }
 
-    Item {
+    Row {
         id: footer
 
         anchors.bottom: parent.bottom
-        height: settingsRow.height + 2 * Theme.space8
-        width: parent.width
+        bottomPadding: Theme.space8
+        spacing: Theme.space4
+        topPadding: Theme.space8
+        x: Theme.space12
 
         SidebarRow {
-            id: settingsRow
-
+            chosen: root.navigation.selection === "settings"
+            showsIcon: Orvel.settings.sidebarShowsIcons
             tabStop: true
-            anchors.verticalCenter: parent.verticalCenter
-            chosen: sidebar.selection === "settings"
-            showsIcon: sidebar.showsIcons
             symbol: "gearshape"
             text: qsTr("Settings")
-            width: parent.width - 2 * x
-            x: Theme.space12
+            width: root.width - 2 * footer.x - hideButton.width - footer.spacing
             OVAccessible.role: Accessible.Button
             onClicked: Orvel.ui.select("settings")
+        }
+
+        OVIconButton {
+            id: hideButton
+
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInkTertiary
+            iconSize: Theme.iconRow
+            symbol: "sidebar.left"
+            text: qsTr("Hide sidebar")
+            onClicked: Orvel.ui.isSidebarVisible = false
         }
     }
 }

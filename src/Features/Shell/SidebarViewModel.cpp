@@ -3,14 +3,29 @@
 #include "Session/PageActions.h"
 #include "Store/PageOperations.h"
 
-SidebarViewModel::PageFace::PageFace(const Page &page)
-    : title(page.title),
-      icon(page.icon),
-      kind(page.kind),
-      isFavorite(page.isFavorite),
-      folderID(page.folderID),
-      sortOrder(page.sortOrder)
+#include <QScopedValueRollback>
+
+SidebarViewModel::SidebarViewModel(QObject *parent) : ViewModel(parent)
 {
+    follow<Page, Folder, TaskItem>();
+    followSettings();
+}
+
+void SidebarViewModel::start()
+{
+    connect(&ui(), &UIState::selectionChanged, this, &SidebarViewModel::followSelection);
+    m_revealSelection.request();
+}
+
+void SidebarViewModel::refresh(const ChangeSet &changes)
+{
+    const bool pagesStand = showPages(changes.of<Page>());
+    const bool modulesStand = store().settings().visibleModules() == m_modules;
+    if (!pagesStand || !modulesStand || changes.touches<Folder>())
+        return layOut();
+    if (changes.touches<TaskItem>())
+        m_rows.changeRow({QUuid(), enumRawText(OrvelModule::tasks)},
+                         [this](SidebarRow &row) { row.detail = SidebarRows::openTaskCount(store()); });
 }
 
 bool SidebarViewModel::PageFace::standsWith(const PageFace &other) const
@@ -19,53 +34,105 @@ bool SidebarViewModel::PageFace::standsWith(const PageFace &other) const
            sortOrder == other.sortOrder;
 }
 
-SidebarViewModel::SidebarViewModel(QObject *parent) : QObject(parent) {}
-
-void SidebarViewModel::setStore(WorkspaceStore *store)
+bool SidebarViewModel::showPages(const RecordChanges &changes)
 {
-    if (m_store == store)
-        return;
-    m_store = store;
-    connect(store, &WorkspaceStore::changed, this, &SidebarViewModel::follow);
-    followSettings();
-    rebuild();
-    emit storeChanged();
+    if (changes.isReloaded) {
+        m_faces.clear();
+        m_faces.reserve(store().pages().size());
+        for (const Page &page : store().pages())
+            showPage(page);
+        return false;
+    }
+    bool isStanding = changes.removed.isEmpty();
+    for (const QUuid &id : changes.removed)
+        m_faces.remove(id);
+    for (const QSet<QUuid> *ids : {&changes.inserted, &changes.replaced})
+        for (const QUuid &id : *ids)
+            isStanding &= showPage(*store().pages().first(id));
+    return isStanding;
 }
 
-void SidebarViewModel::setUi(UIState *ui)
+bool SidebarViewModel::showPage(const Page &page)
 {
-    if (m_ui == ui)
-        return;
-    m_ui = ui;
-    connect(ui, &UIState::selectionChanged, this, &SidebarViewModel::followSelection);
-    followSelection();
-    emit uiChanged();
+    PageFace next{page.title, page.icon, page.kind, page.isFavorite, page.folderID, page.sortOrder};
+    const auto shown = m_faces.find(page.id);
+    if (shown == m_faces.end()) {
+        m_faces.insert(page.id, std::move(next));
+        return false;
+    }
+    if (*shown == next)
+        return true;
+    const bool isStanding = shown->standsWith(next);
+    *shown = std::move(next);
+    if (isStanding)
+        for (const QString &name : {QString(), SidebarRows::favorites})
+            m_rows.changeRow({page.id, name}, [&page](SidebarRow &row) { SidebarRows::showPage(row, page); });
+    return isStanding;
 }
 
-void SidebarViewModel::setShown(bool shown)
+void SidebarViewModel::layOut()
 {
-    if (m_isShown == shown)
-        return;
-    m_isShown = shown;
-    if (m_store)
-        rebuild();
-    emit isShownChanged();
+    m_modules = store().settings().visibleModules();
+    m_rows.setRows(SidebarRows::sidebar(store(), m_state));
+    restoreCurrentRow();
+    emit laidOut();
 }
 
-void SidebarViewModel::setFolderName(const QString &name)
+bool SidebarViewModel::reveal(const UndoPlace &place)
 {
-    if (m_folderName == name)
-        return;
-    m_folderName = name;
-    emit folderNameChanged();
+    const int row = folderRow(place.record);
+    if (!store().list<Folder>().first(place.record) || row < 0)
+        return false;
+    setCurrentRow(row);
+    emit selectionRevealed();
+    return true;
 }
 
-void SidebarViewModel::setRenameText(const QString &text)
+void SidebarViewModel::setCurrentRow(int row)
 {
-    if (m_renameText == text)
+    const SidebarRow *const found = rowAt(row);
+    m_currentId = found ? found->id() : RowId();
+    if (std::exchange(m_currentRow, row) != row)
+        emit currentRowChanged();
+}
+
+void SidebarViewModel::restoreCurrentRow()
+{
+    int row = rowOf(m_currentId);
+    if (row < 0) {
+        // A page that went out of sight is in its folder.
+        const Page *const page = store().pages().first(m_currentId.first);
+        row = page && page->folderID ? folderRow(*page->folderID) : -1;
+    }
+    if (row < 0) {
+        row = std::min(m_currentRow, int(rowList().size()) - 1);
+        while (row > 0 && !isStop(row))
+            --row;
+    }
+    setCurrentRow(row);
+}
+
+void SidebarViewModel::followSelection()
+{
+    const Page *const page = store().pages().first(ui().selection().id);
+    if (page && selectedRow() < 0) {
+        const bool wasFolded = page->folderID ? m_state.collapsedFolders.remove(*page->folderID)
+                                              : m_state.collapsedSections.remove(SidebarRows::pages);
+        if (wasFolded)
+            m_layOut.request();
+    }
+    if (!m_isRemoving)
+        m_revealSelection.request();
+}
+
+void SidebarViewModel::revealSelection()
+{
+    const SidebarRow *const current = rowAt(m_currentRow);
+    const int row = selectedRow();
+    if (row < 0 || (current && current->place == ui().selection()))
         return;
-    m_renameText = text;
-    emit renameTextChanged();
+    setCurrentRow(row);
+    emit selectionRevealed();
 }
 
 const SidebarRow *SidebarViewModel::rowAt(int row) const
@@ -73,27 +140,38 @@ const SidebarRow *SidebarViewModel::rowAt(int row) const
     return row >= 0 && row < rowList().size() ? &rowList().at(row) : nullptr;
 }
 
+int SidebarViewModel::rowOf(const RowId &id) const
+{
+    const auto found = std::ranges::find(rowList(), id, &SidebarRow::id);
+    return found == rowList().end() ? -1 : int(found - rowList().begin());
+}
+
+int SidebarViewModel::selectedRow() const
+{
+    const auto found = std::ranges::find(rowList(), std::optional(ui().selection()), &SidebarRow::place);
+    return found == rowList().end() ? -1 : int(found - rowList().begin());
+}
+
 void SidebarViewModel::activate(int row)
 {
-    using Kind = SidebarRow::Kind;
     const SidebarRow *const found = rowAt(row);
     if (!found)
         return;
     switch (found->kind) {
-    case Kind::search:
-        return m_ui->setSearchPresented(true);
-    case Kind::newPage:
-    case Kind::hint:
+    case SidebarRow::Kind::search:
+        return ui().setSearchPresented(true);
+    case SidebarRow::Kind::newPage:
+    case SidebarRow::Kind::hint:
         return newPage();
-    case Kind::section:
-    case Kind::folder:
+    case SidebarRow::Kind::section:
+    case SidebarRow::Kind::folder:
         return setFolded(*found, !found->isCollapsed);
-    case Kind::newFolder:
-        return beginFolder();
-    case Kind::module:
-    case Kind::page:
-        return m_ui->select(found->destination);
-    case Kind::label:
+    case SidebarRow::Kind::newFolder:
+        return beginNaming({}, {});
+    case SidebarRow::Kind::module:
+    case SidebarRow::Kind::page:
+        return ui().setSelection(*found->place);
+    case SidebarRow::Kind::label:
         return;
     }
 }
@@ -104,23 +182,23 @@ void SidebarViewModel::remove(int row)
     if (!found)
         return;
     const QUuid id = found->recordID;
+    // The window may go to another place by it, but the keyboard stays where the row was.
+    const QScopedValueRollback removing(m_isRemoving, true);
     if (found->kind == SidebarRow::Kind::page)
-        PageActions::erase(*m_store, *m_ui, id);
+        PageActions::erase(store(), ui(), id);
     else if (found->kind == SidebarRow::Kind::folder)
-        FolderOperations::remove(*m_store, id);
+        FolderOperations::remove(store(), id);
 }
 
 void SidebarViewModel::newPage()
 {
-    PageActions::create(*m_store, *m_ui, PageKind::page);
+    PageActions::create(store(), ui(), PageKind::page);
 }
 
-int SidebarViewModel::neighbour(int row, int direction) const
+bool SidebarViewModel::isStop(int row) const
 {
-    for (int next = row + direction; rowAt(next); next += direction)
-        if (rowAt(next)->isReachable())
-            return next;
-    return row;
+    const SidebarRow *const found = rowAt(row);
+    return found && found->kind != SidebarRow::Kind::label;
 }
 
 int SidebarViewModel::moveIn(int row)
@@ -133,7 +211,7 @@ int SidebarViewModel::moveIn(int row)
         return row;
     }
     const SidebarRow *const next = rowAt(row + 1);
-    const bool isInside = next && (next->kind == SidebarRow::Kind::page) &&
+    const bool isInside = next && next->kind == SidebarRow::Kind::page &&
                           (found->kind == SidebarRow::Kind::section || next->depth > found->depth);
     return isInside ? row + 1 : row;
 }
@@ -141,30 +219,15 @@ int SidebarViewModel::moveIn(int row)
 int SidebarViewModel::moveOut(int row)
 {
     const SidebarRow *const found = rowAt(row);
-    if (!found)
+    if (!found || (found->kind != SidebarRow::Kind::page && !found->isFoldable()))
         return row;
     if (found->isFoldable()) {
         setFolded(*found, true);
         return row;
     }
-    if (found->kind != SidebarRow::Kind::page)
-        return row;
-    int parent = row;
-    while (rowAt(parent) && !rowAt(parent)->isFoldable())
-        --parent;
-    return std::max(parent, 0);
-}
-
-int SidebarViewModel::selectedRow() const
-{
-    const auto found = std::ranges::find(rowList(), m_selection, &SidebarRow::destination);
-    return found == rowList().end() ? 0 : int(found - rowList().begin());
-}
-
-int SidebarViewModel::folderRow(const QUuid &folderID) const
-{
-    const auto found = std::ranges::find(rowList(), folderID, &SidebarRow::id);
-    return found == rowList().end() ? -1 : int(found - rowList().begin());
+    while (rowAt(row) && !rowAt(row)->isFoldable())
+        --row;
+    return std::max(row, 0);
 }
 
 void SidebarViewModel::setFolded(const SidebarRow &row, bool folded)
@@ -178,128 +241,43 @@ void SidebarViewModel::setFolded(const SidebarRow &row, bool folded)
     if (row.kind == SidebarRow::Kind::folder)
         keep(m_state.collapsedFolders, row.recordID);
     else
-        keep(m_state.collapsedSections, row.section);
-    m_rebuild.request();
+        keep(m_state.collapsedSections, row.name);
+    m_layOut.request();
 }
 
 void SidebarViewModel::beginRename(int row)
 {
     const SidebarRow *const found = rowAt(row);
-    if (!found || found->kind != SidebarRow::Kind::folder)
+    if (found && found->kind == SidebarRow::Kind::folder && !found->isEditing)
+        beginNaming(found->recordID, found->title);
+}
+
+void SidebarViewModel::beginNaming(const QUuid &folderID, const QString &name)
+{
+    m_nameText = name;
+    emit nameTextChanged();
+    m_state.renamingFolderID = folderID;
+    m_state.addingFolder = folderID.isNull();
+    emit isNamingChanged();
+    m_layOut.request();
+}
+
+void SidebarViewModel::commitName()
+{
+    const QString name = m_nameText.trimmed();
+    if (!name.isEmpty() && m_state.addingFolder)
+        m_currentId = {FolderOperations::create(store(), name, QStringLiteral("📁")).id, {}};
+    else if (!name.isEmpty() && isNaming())
+        FolderOperations::rename(store(), m_state.renamingFolderID, name);
+    cancelName();
+}
+
+void SidebarViewModel::cancelName()
+{
+    if (!isNaming())
         return;
-    setRenameText(found->title);
-    m_state.renamingFolderID = found->recordID;
-    m_state.addingFolder = false;
-    m_rebuild.request();
-}
-
-void SidebarViewModel::commitRename()
-{
-    const QString name = m_renameText.trimmed();
-    if (!name.isEmpty())
-        FolderOperations::rename(*m_store, m_state.renamingFolderID, name);
-    cancelRename();
-}
-
-void SidebarViewModel::cancelRename()
-{
-    endNaming();
-}
-
-void SidebarViewModel::beginFolder()
-{
-    setFolderName({});
-    m_state.renamingFolderID = {};
-    m_state.addingFolder = true;
-    m_rebuild.request();
-}
-
-void SidebarViewModel::commitFolder()
-{
-    const QString name = m_folderName.trimmed();
-    if (!name.isEmpty())
-        FolderOperations::create(*m_store, name, QStringLiteral("📁"));
-    cancelFolder();
-}
-
-void SidebarViewModel::cancelFolder()
-{
-    setFolderName({});
-    endNaming();
-}
-
-void SidebarViewModel::endNaming()
-{
     m_state.addingFolder = false;
     m_state.renamingFolderID = {};
-    m_rebuild.request();
-}
-
-void SidebarViewModel::follow(const ChangeSet &changes)
-{
-    if (changes.settings)
-        followSettings();
-    if (changes.touches<Folder>())
-        m_rebuild.request();
-    if (changes.touches<TaskItem>())
-        m_countTasks.request();
-    followPages(changes.of<Page>());
-}
-
-void SidebarViewModel::followPages(const RecordChanges &changes)
-{
-    if (!changes.isReplacedOnly() || (!m_isShown && !changes.isEmpty()))
-        return m_rebuild.request();
-    for (const QUuid &id : changes.replaced)
-        followPage(*m_store->pages().first(id));
-}
-
-void SidebarViewModel::followPage(const Page &page)
-{
-    const PageFace next(page);
-    const auto shown = m_faces.find(page.id);
-    if (shown == m_faces.end())
-        return m_rebuild.request();
-    if (*shown == next)
-        return;
-    if (!shown->standsWith(next))
-        m_rebuild.request();
-    *shown = next;
-    const auto show = [&page](SidebarRow &row) { SidebarRows::showPage(row, page); };
-    m_rows.changeRow(page.id, show);
-    if (page.isFavorite)
-        m_rows.changeRow(SidebarRows::favoriteRowID(page.id), show);
-}
-
-void SidebarViewModel::followSettings()
-{
-    const bool showsIcons = m_store->settings().sidebarShowsIcons;
-    if (std::exchange(m_showsIcons, showsIcons) != showsIcons)
-        emit showsIconsChanged();
-    m_rebuild.request();
-}
-
-void SidebarViewModel::followSelection()
-{
-    m_selection = m_ui->selection().text();
-    emit selectionChanged();
-}
-
-void SidebarViewModel::rebuild()
-{
-    if (!m_isShown)
-        return;
-    m_faces.clear();
-    m_faces.reserve(m_store->pages().size());
-    for (const Page &page : m_store->pages())
-        m_faces.emplace(page.id, PageFace(page));
-    m_rows.setRows(SidebarRows::build(*m_store, m_state));
-}
-
-void SidebarViewModel::countTasks()
-{
-    if (!m_isShown)
-        return;
-    m_rows.changeRow(SidebarRows::moduleRowID(enumRawText(OrvelModule::tasks)),
-                     [this](SidebarRow &row) { row.detail = SidebarRows::openTaskCount(*m_store); });
+    emit isNamingChanged();
+    m_layOut.request();
 }

@@ -1,48 +1,31 @@
 #pragma once
 
 #include "Features/Shell/SidebarRows.h"
-#include "Foundation/CoalescedCall.h"
 #include "Foundation/KeyedListModel.h"
-#include "Session/SessionTypes.h"
+#include "Models/Page.h"
+#include "Session/ViewModel.h"
 
-#include <QtQml/qqmlregistration.h>
-
-/// The sidebar: all its lines in one list, what folds and what is being named. Rows are told by their place
-/// in the list.
-class SidebarViewModel : public QObject
+/// The sidebar: all its rows in one list, what is folded, and what is being named. Rows are told by their
+/// position in the list.
+class SidebarViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(WorkspaceStore *store READ store WRITE setStore NOTIFY storeChanged REQUIRED FINAL)
-    Q_PROPERTY(UIState *ui READ ui WRITE setUi NOTIFY uiChanged REQUIRED FINAL)
-    /// Whether the person sees the sidebar. A hidden one works out nothing.
-    Q_PROPERTY(bool isShown READ isShown WRITE setShown NOTIFY isShownChanged FINAL)
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
-    /// `Destination::text()` of what the window shows.
-    Q_PROPERTY(QString selection READ selection NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool showsIcons READ showsIcons NOTIFY showsIconsChanged FINAL)
-    Q_PROPERTY(QString folderName READ folderName WRITE setFolderName NOTIFY folderNameChanged FINAL)
-    Q_PROPERTY(QString renameText READ renameText WRITE setRenameText NOTIFY renameTextChanged FINAL)
+    /// The row at which the keyboard stands in the list.
+    Q_PROPERTY(int currentRow READ currentRow WRITE setCurrentRow NOTIFY currentRowChanged FINAL)
+    /// Whether a field stands in place of a row, in which a folder gets its name.
+    Q_PROPERTY(bool isNaming READ isNaming NOTIFY isNamingChanged FINAL)
+    Q_PROPERTY(QString nameText MEMBER m_nameText NOTIFY nameTextChanged FINAL)
 
 public:
     explicit SidebarViewModel(QObject *parent = nullptr);
 
-    WorkspaceStore *store() const { return m_store; }
-    void setStore(WorkspaceStore *store);
-    UIState *ui() const { return m_ui; }
-    void setUi(UIState *ui);
-    bool isShown() const { return m_isShown; }
-    void setShown(bool shown);
     QAbstractItemModel *rows() { return &m_rows; }
     const QList<SidebarRow> &rowList() const { return m_rows.rows(); }
-    QString selection() const { return m_selection; }
-    bool showsIcons() const { return m_showsIcons; }
-
-    /// The name typed for a new folder, and the one typed for the folder being renamed.
-    QString folderName() const { return m_folderName; }
-    void setFolderName(const QString &name);
-    QString renameText() const { return m_renameText; }
-    void setRenameText(const QString &text);
+    int currentRow() const { return m_currentRow; }
+    void setCurrentRow(int row);
+    bool isNaming() const { return m_state.addingFolder || !m_state.renamingFolderID.isNull(); }
 
     /// Does what a click on the row does.
     Q_INVOKABLE void activate(int row);
@@ -50,74 +33,75 @@ public:
     Q_INVOKABLE void remove(int row);
     Q_INVOKABLE void newPage();
 
-    /// The nearest row before or after this one at which the keyboard stops, or this one at the ends.
-    /// @param direction -1 or 1
-    Q_INVOKABLE int neighbour(int row, int direction) const;
+    /// Whether the keyboard stops at the row.
+    Q_INVOKABLE bool isStop(int row) const;
     /// Unfolds the row, or goes into it when it is open: the row to go to.
     Q_INVOKABLE int moveIn(int row);
     /// Folds the row, or goes from a page to its folder: the row to go to.
     Q_INVOKABLE int moveOut(int row);
-    /// The row of what the window shows, or the first one.
-    Q_INVOKABLE int selectedRow() const;
     /// -1 for an unknown folder.
-    Q_INVOKABLE int folderRow(const QUuid &folderID) const;
+    Q_INVOKABLE int folderRow(const QUuid &folderID) const { return rowOf({folderID, {}}); }
 
     Q_INVOKABLE void beginRename(int row);
-    /// Gives the folder its new name; one that is blank leaves the old.
-    Q_INVOKABLE void commitRename();
-    Q_INVOKABLE void cancelRename();
-    Q_INVOKABLE void beginFolder();
-    /// Makes the folder; a blank name makes none.
-    Q_INVOKABLE void commitFolder();
-    Q_INVOKABLE void cancelFolder();
+    /// Makes the folder, or gives it its new name; a blank name changes nothing.
+    Q_INVOKABLE void commitName();
+    Q_INVOKABLE void cancelName();
 
 signals:
-    void storeChanged();
-    void uiChanged();
-    void isShownChanged();
-    void selectionChanged();
-    void showsIconsChanged();
-    void folderNameChanged();
-    void renameTextChanged();
+    void currentRowChanged();
+    void isNamingChanged();
+    void nameTextChanged();
+    /// The rows stand as they are to, and the current row is known among them.
+    void laidOut();
+    /// The current row is now that of what the window shows, and has to come into view.
+    void selectionRevealed();
 
 private:
+    using RowId = RowKey<SidebarRow>;
+
     /// What the sidebar shows of a page, and where.
     struct PageFace {
         QString title;
         QString icon;
-        PageKind kind;
-        bool isFavorite;
+        PageKind kind = PageKind::page;
+        bool isFavorite = false;
         std::optional<QUuid> folderID;
-        double sortOrder;
+        double sortOrder = 0;
 
-        explicit PageFace(const Page &page);
         bool operator==(const PageFace &) const = default;
         bool standsWith(const PageFace &other) const;
     };
 
-    const SidebarRow *rowAt(int row) const;
-    void setFolded(const SidebarRow &row, bool folded);
-    void endNaming();
+    void start() override;
+    void refresh(const ChangeSet &changes) override;
+    bool reveal(const UndoPlace &place) override;
 
-    void follow(const ChangeSet &changes);
-    void followPages(const RecordChanges &changes);
-    void followPage(const Page &page);
-    void followSettings();
+    /// Shows what changed on pages where they stand; false if the rows are to be laid out anew.
+    bool showPages(const RecordChanges &changes);
+    bool showPage(const Page &page);
+    void layOut();
+    /// Finds the current row among other rows, or what stands for it.
+    void restoreCurrentRow();
     void followSelection();
-    void rebuild();
-    void countTasks();
+    void revealSelection();
 
-    WorkspaceStore *m_store = nullptr;
-    UIState *m_ui = nullptr;
-    bool m_isShown = true;
-    bool m_showsIcons = true;
-    QString m_selection;
-    QString m_folderName;
-    QString m_renameText;
+    const SidebarRow *rowAt(int row) const;
+    int rowOf(const RowId &id) const;
+    /// -1 where the window shows what has no row.
+    int selectedRow() const;
+    void setFolded(const SidebarRow &row, bool folded);
+    void beginNaming(const QUuid &folderID, const QString &name);
+
     SidebarRows::State m_state;
+    QList<OrvelModule> m_modules;
+    QString m_nameText;
+    int m_currentRow = 0;
+    /// Of the current row.
+    RowId m_currentId;
+    bool m_isRemoving = false;
     KeyedListModel<SidebarRow> m_rows;
     /// So that typing in a page is known to change nothing here.
     QHash<QUuid, PageFace> m_faces;
-    CoalescedCall m_rebuild{[this] { rebuild(); }};
-    CoalescedCall m_countTasks{[this] { countTasks(); }};
+    CoalescedCall m_layOut{[this] { layOut(); }};
+    CoalescedCall m_revealSelection{[this] { revealSelection(); }};
 };

@@ -1,106 +1,121 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
+import Orvel.Session
+import Orvel.Shell
 
-/// A row of tabs that scrolls where it needs more room, and fades where tabs go on. Tab reaches it as a whole; within it
-/// the arrows go from tab to tab.
-ListView {
+/// Modules as a row of tabs, which scrolls where it needs more room. It is one stop for Tab; the arrow keys, Home and
+/// End move along it.
+FocusScope {
     id: root
 
-    /// The tab to be kept in sight; -1 for none.
-    property int chosenTab: -1
-
-    /// Width of each tab, and their number, where all have one width.
+    required property NavigationViewModel navigation
+    property alias model: repeater.model
+    property alias spacing: row.spacing
+    property bool upright: false
+    property bool lifts: false
+    /// Width of each tab; 0 for that of its content.
     property int tabWidth: 0
-    property int tabCount: 0
-    /// What the strip stands on; tabs fade into it.
-    property color ground: Theme.ovSidebar
+    /// Room for the focus ring on each side.
+    readonly property int margin: Theme.space4
+    /// The tab that Tab leads to.
+    property int current: Math.max(0, navigation.chosenTab)
 
-    function goTo(tab: int) {
-        if (tab < 0 || tab >= count)
+    function focusTab(tab: int, reason: int) {
+        if (tab < 0 || tab >= repeater.count)
             return
-        currentIndex = tab
-        positionViewAtIndex(tab, ListView.Contain)
-        currentItem?.forceActiveFocus(Qt.TabFocusReason)
-        // The view has given the item its focus already, without the reason.
-        if (Window.activeFocusItem)
-            Window.activeFocusItem.focusReason = Qt.TabFocusReason
+        repeater.itemAt(tab).forceActiveFocus(reason)
+        current = tab
+        reveal(tab)
     }
 
-    function reveal() {
-        if (chosenTab >= 0 && !activeFocus)
-            currentIndex = chosenTab
-        if (chosenTab >= 0)
-            positionViewAtIndex(chosenTab, ListView.Contain)
+    function reveal(tab: int) {
+        const item = repeater.itemAt(tab)
+        if (item)
+            flickable.contentX = Math.max(item.x + item.width + 2 * margin - width, Math.min(item.x, flickable.contentX))
     }
 
-    activeFocusOnTab: true
-    boundsBehavior: Flickable.StopAtBounds
-    // All of the few modules are made, so that the chosen one can be shown.
-    cacheBuffer: 4000
-    currentIndex: -1
-    highlightFollowsCurrentItem: false
-    clip: interactive
-    // The view's own count changes while it takes its width.
-    implicitWidth: Math.max(0, tabCount * (tabWidth + spacing) - spacing)
-    interactive: contentWidth > width
-    keyNavigationEnabled: false
-    orientation: ListView.Horizontal
-    spacing: Theme.space4
+    clip: flickable.interactive
+    implicitHeight: row.implicitHeight + 2 * margin
+    implicitWidth: row.implicitWidth + 2 * margin
     Accessible.name: qsTr("Modules")
     Accessible.role: Accessible.PageTabList
-    onChosenTabChanged: reveal()
-    onWidthChanged: {
-        positionViewAtBeginning()
-        reveal()
+    onWidthChanged: reveal(current)
+
+    Keys.onLeftPressed: focusTab(current - 1, Qt.TabFocusReason)
+    Keys.onRightPressed: focusTab(current + 1, Qt.TabFocusReason)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+        if (event.accepted)
+            focusTab(event.key === Qt.Key_Home ? 0 : repeater.count - 1, Qt.TabFocusReason)
     }
-    onActiveFocusChanged: {
-        if (activeFocus && currentIndex < 0)
-            goTo(0)
+
+    Connections {
+        target: root.navigation
+
+        function onChosenTabChanged() {
+            if (!root.activeFocus)
+                root.current = Math.max(0, root.navigation.chosenTab)
+            root.reveal(root.navigation.chosenTab)
+        }
     }
 
-    Keys.onLeftPressed: goTo(currentIndex - 1)
-    Keys.onRightPressed: goTo(currentIndex + 1)
+    Flickable {
+        id: flickable
 
-    component Fade: Rectangle {
-        id: fade
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        contentWidth: row.width + 2 * root.margin
+        interactive: contentWidth > width
 
-        property bool atEnd: false
+        Row {
+            id: row
 
-        height: root.height
-        parent: root
-        width: Theme.space32
-        x: atEnd ? root.width - width : 0
-        z: 1
+            x: root.margin
+            y: root.margin
 
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
+            Repeater {
+                id: repeater
 
-            GradientStop {
-                color: Qt.alpha(root.ground, fade.atEnd ? 0 : 1)
-                position: 0
-            }
-            GradientStop {
-                color: Qt.alpha(root.ground, fade.atEnd ? 1 : 0)
-                position: 1
+                onItemAdded: Qt.callLater(root.reveal, root.current)
+
+                ShellTab {
+                    id: tab
+
+                    required property int index
+                    required property string title
+                    required property string destination
+
+                    // How much of the tab the ends of the strip cut off.
+                    readonly property real hidden: Math.max(flickable.contentX - x,
+                                                            x + width + 2 * root.margin - flickable.contentX - flickable.width)
+
+                    chosen: destination === root.navigation.selection
+                    focus: index === root.current
+                    lifts: root.lifts
+                    opacity: 1 - Math.max(0, Math.min(1, hidden / width))
+                    tabStop: index === root.current || activeFocus
+                    text: title
+                    upright: root.upright
+                    width: root.tabWidth || implicitWidth
+                    onClicked: {
+                        if (root.activeFocus)
+                            root.focusTab(index, Qt.MouseFocusReason)
+                        root.current = index
+                        Orvel.ui.select(destination)
+                    }
+                }
             }
         }
     }
 
-    Fade {
-        visible: root.contentX - root.originX > 1
-    }
-
-    Fade {
-        atEnd: true
-        visible: root.contentX - root.originX < root.contentWidth - root.width - 1
-    }
-
-    // The wheel of a mouse turns the strip too.
+    // The wheel of a mouse scrolls the strip too.
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse
         onWheel: event => {
-            const end = Math.max(0, root.contentWidth - root.width)
-            root.contentX = Math.max(0, Math.min(end, root.contentX - event.angleDelta.y / 2))
+            const end = Math.max(0, flickable.contentWidth - flickable.width)
+            flickable.contentX = Math.max(0, Math.min(end, flickable.contentX - event.angleDelta.y / 2))
         }
     }
 }

@@ -1,7 +1,7 @@
+#include "App/OrvelScreens.h"
 #include "Features/Shell/DetailViewModel.h"
 #include "Features/Shell/NavigationViewModel.h"
 #include "Features/Shell/OverflowMenuViewModel.h"
-#include "Features/Shell/ScreenTable.h"
 #include "Harness/TestWorkspace.h"
 
 #include <QCoreApplication>
@@ -19,7 +19,6 @@ private slots:
     void init();
     void givesTabsToTheFirstModules_data();
     void givesTabsToTheFirstModules();
-    void namesTheWorkspace();
     void opensNewPagesAndNotes();
     void overflowListsModulesFavouritesAndPages();
     void overflowOpensPlacesOnly();
@@ -32,12 +31,16 @@ private:
     void show(int modules);
 
     std::unique_ptr<TestWorkspace> m_workspace;
+    std::unique_ptr<OrvelSession> m_session;
+    OrvelScreens m_screens;
 };
 
 void ShellViewModelsTest::init()
 {
+    m_session.reset();
     m_workspace = std::make_unique<TestWorkspace>();
     m_workspace->reset();
+    m_session = std::make_unique<OrvelSession>(&m_workspace->store(), &m_workspace->ui());
 }
 
 /// Hides all modules but the first ones.
@@ -69,17 +72,15 @@ void ShellViewModelsTest::givesTabsToTheFirstModules()
     QFETCH(QStringList, overflow);
     m_workspace->addPage(QStringLiteral("Plan"));
     NavigationViewModel navigation;
-    navigation.setStore(&m_workspace->store());
-    navigation.setUi(&m_workspace->ui());
+    navigation.setSession(m_session.get());
     OverflowMenuViewModel menu;
-    menu.setStore(&m_workspace->store());
+    menu.setSession(m_session.get());
     menu.setListsModules(true);
-    menu.setShown(true);
     show(modules);
     QCOMPARE(navigation.tabList().size(), modules);
     QCOMPARE(navigation.inlineTabList(), navigation.tabList().first(inlineTabs));
     QStringList listed;
-    for (const OverflowRow &row : menu.rowList())
+    for (const SidebarRow &row : menu.rowList())
         listed.append(row.title);
     QCOMPARE(listed, overflow + QStringList({"Pages", "Plan"}));
 
@@ -93,23 +94,10 @@ void ShellViewModelsTest::givesTabsToTheFirstModules()
     QVERIFY(!navigation.isMoreChosen());
 }
 
-void ShellViewModelsTest::namesTheWorkspace()
-{
-    NavigationViewModel navigation;
-    navigation.setStore(&m_workspace->store());
-    QCOMPARE(navigation.workspaceName(), QStringLiteral("My Workspace"));
-    m_workspace->setWorkspaceName(QStringLiteral(" \n"));
-    m_workspace->setNavigation(QStringLiteral("glassDock"));
-    QCoreApplication::processEvents();
-    QCOMPARE(navigation.workspaceName(), QStringLiteral("Orvel"));
-    QCOMPARE(navigation.style(), QStringLiteral("glassDock"));
-}
-
 void ShellViewModelsTest::opensNewPagesAndNotes()
 {
     NavigationViewModel navigation;
-    navigation.setStore(&m_workspace->store());
-    navigation.setUi(&m_workspace->ui());
+    navigation.setSession(m_session.get());
     navigation.newNote();
     QCOMPARE(m_workspace->store().pages().all().first().kind, PageKind::note);
     navigation.newPage();
@@ -121,14 +109,13 @@ void ShellViewModelsTest::opensNewPagesAndNotes()
 void ShellViewModelsTest::overflowListsModulesFavouritesAndPages()
 {
     OverflowMenuViewModel menu;
-    menu.setStore(&m_workspace->store());
-    menu.setShown(true);
+    menu.setSession(m_session.get());
     QCOMPARE(menu.rowList().size(), 1);
     m_workspace->addPage(QStringLiteral("Plan"), true);
     m_workspace->addPage(QStringLiteral("Inside"), false, m_workspace->addFolder(QStringLiteral("Travel")));
     QCoreApplication::processEvents();
     QStringList listed;
-    for (const OverflowRow &row : menu.rowList())
+    for (const SidebarRow &row : menu.rowList())
         listed.append(row.title);
     QCOMPARE(listed, QStringList({"Favourites", "Plan", "Pages", "Plan"}));
 }
@@ -137,14 +124,10 @@ void ShellViewModelsTest::overflowOpensPlacesOnly()
 {
     const QUuid page(m_workspace->addPage(QStringLiteral("Plan"), true));
     OverflowMenuViewModel menu;
-    menu.setStore(&m_workspace->store());
-    menu.setProperty("ui", QVariant::fromValue(&m_workspace->ui()));
-    menu.setShown(true);
+    menu.setSession(m_session.get());
     QVERIFY(!menu.activate(0));
     QCOMPARE(m_workspace->ui().selection(), Destination());
-    QCOMPARE(menu.neighbour(-1, 1), 1);
-    QCOMPARE(menu.neighbour(1, 1), 3);
-    QCOMPARE(menu.neighbour(3, 1), 3);
+    QVERIFY(menu.isPlace(1) && !menu.isPlace(2) && menu.isPlace(3) && !menu.isPlace(4));
     QVERIFY(menu.activate(1));
     QCOMPARE(m_workspace->ui().selection(), Destination::page(page));
 }
@@ -152,27 +135,27 @@ void ShellViewModelsTest::overflowOpensPlacesOnly()
 void ShellViewModelsTest::routesToScreens()
 {
     DetailViewModel detail;
-    detail.setStore(&m_workspace->store());
-    detail.setUi(&m_workspace->ui());
+    detail.setProperty("screens", QVariant::fromValue<ScreenTable *>(&m_screens));
+    detail.setSession(m_session.get());
     QCoreApplication::processEvents();
     // A hidden module is shown all the same.
     show(0);
     m_workspace->ui().select(QStringLiteral("relax"));
     QCoreApplication::processEvents();
     QCOMPARE(detail.properties().value(QStringLiteral("title")).toString(), QStringLiteral("Relax"));
-    QCOMPARE(detail.properties().value(QStringLiteral("blurb")).toString(),
+    QCOMPARE(detail.properties().value(QStringLiteral("message")).toString(),
              QStringLiteral("Loops of calm to help you unwind."));
     m_workspace->ui().select(QStringLiteral("tasks"));
     QCoreApplication::processEvents();
-    QCOMPARE(detail.source(), ScreenTable::url("Orvel/Tasks/TasksView.qml"));
+    QCOMPARE(detail.source(), DetailViewModel::url("Orvel/Tasks/TasksView.qml"));
     QVERIFY(detail.properties().isEmpty());
 }
 
 void ShellViewModelsTest::tellsWhatIsMissing()
 {
     DetailViewModel detail;
-    detail.setStore(&m_workspace->store());
-    detail.setUi(&m_workspace->ui());
+    detail.setProperty("screens", QVariant::fromValue<ScreenTable *>(&m_screens));
+    detail.setSession(m_session.get());
     const auto shown = [&detail](const char *property) {
         QCoreApplication::processEvents();
         return detail.properties().value(QString::fromLatin1(property)).toString();
@@ -180,7 +163,7 @@ void ShellViewModelsTest::tellsWhatIsMissing()
     const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
     m_workspace->ui().selectPage(page);
     QCOMPARE(shown("pageID"), page.toString());
-    QCOMPARE(detail.source(), ScreenTable::url("Orvel/Pages/PageEditorView.qml"));
+    QCOMPARE(detail.source(), DetailViewModel::url("Orvel/Pages/PageEditorView.qml"));
     m_workspace->store().erase<Page>(page);
     QCOMPARE(shown("symbol"), QStringLiteral("doc.questionmark"));
     QCOMPARE(shown("title"), QStringLiteral("Page not found"));
@@ -197,8 +180,8 @@ void ShellViewModelsTest::tellsWhatIsMissing()
 void ShellViewModelsTest::themeRebuildsAllButTheSettings()
 {
     DetailViewModel detail;
-    detail.setStore(&m_workspace->store());
-    detail.setUi(&m_workspace->ui());
+    detail.setProperty("screens", QVariant::fromValue<ScreenTable *>(&m_screens));
+    detail.setSession(m_session.get());
     QSignalSpy rebuilt(&detail, &DetailViewModel::screenChanged);
     m_workspace->ui().select(QStringLiteral("tasks"));
     detail.setThemeRevision(3);
@@ -222,11 +205,13 @@ void ShellViewModelsTest::themeRebuildsAllButTheSettings()
 
 void ShellViewModelsTest::everyScreenOfTheTableExists()
 {
-    for (const ScreenTable::Screen &screen : ScreenTable::screens)
-        QVERIFY2(QFile::exists(QStringLiteral(":") + ScreenTable::url(screen.file).path()),
-                 screen.file.data());
-    for (const char *own : {"Orvel/Shell/MissingRecord.qml", "Orvel/Shell/ModulePlaceholder.qml"})
-        QVERIFY2(QFile::exists(QStringLiteral(":") + ScreenTable::url(own).path()), own);
+    QSet<Destination::Kind> kinds;
+    for (const PlaceScreen &screen : m_screens.screens) {
+        QVERIFY(!kinds.contains(screen.kind));
+        kinds.insert(screen.kind);
+        const char *const file = screen.file ? screen.file : "Orvel/Shell/PlaceNotice.qml";
+        QVERIFY2(QFile::exists(QStringLiteral(":") + DetailViewModel::url(file).path()), file);
+    }
 }
 
 QTEST_MAIN(ShellViewModelsTest)

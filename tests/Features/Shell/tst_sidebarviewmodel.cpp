@@ -21,6 +21,7 @@ private slots:
     void showsAGroupOnlyWithItsModules();
     void foldsSectionsAndFolders();
     void walksWithTheKeyboard();
+    void currentRowStaysWithWhatItStandsFor();
     void showsWhatChangesOnAPage();
     void typingElsewhereChangesNoRow();
     void countsOpenTasks();
@@ -36,20 +37,22 @@ private:
     void fold(const QString &title);
 
     std::unique_ptr<TestWorkspace> m_workspace;
+    std::unique_ptr<OrvelSession> m_session;
     std::unique_ptr<SidebarViewModel> m_sidebar;
 };
 
 void SidebarViewModelTest::init()
 {
     m_sidebar.reset();
+    m_session.reset();
     m_workspace = std::make_unique<TestWorkspace>();
     m_workspace->reset();
     for (const EnumCase<OrvelModule> &module : enumCases<OrvelModule>())
         if (module.value != OrvelModule::dashboard && module.value != OrvelModule::tasks)
             m_workspace->hideModule(enumRawText(module.value));
     m_sidebar = std::make_unique<SidebarViewModel>();
-    m_sidebar->setStore(&m_workspace->store());
-    m_sidebar->setUi(&m_workspace->ui());
+    m_session = std::make_unique<OrvelSession>(&m_workspace->store(), &m_workspace->ui());
+    m_sidebar->setSession(m_session.get());
     new QAbstractItemModelTester(m_sidebar->rows(), QAbstractItemModelTester::FailureReportingMode::QtTest,
                                  m_sidebar.get());
 }
@@ -130,14 +133,11 @@ void SidebarViewModelTest::walksWithTheKeyboard()
 {
     const QString folder = m_workspace->addFolder(QStringLiteral("Travel"));
     m_workspace->addPage(QStringLiteral("Inside"), false, folder);
-    const int dashboard = rowOf(QStringLiteral("Dashboard"));
-    const int tasks = rowOf(QStringLiteral("Tasks"));
-    QCOMPARE(tasks, dashboard + 2);
-    QCOMPARE(m_sidebar->neighbour(dashboard, 1), tasks);
-    QCOMPARE(m_sidebar->neighbour(tasks, -1), dashboard);
-    QCOMPARE(m_sidebar->neighbour(0, -1), 0);
-    QCOMPARE(m_sidebar->selectedRow(), dashboard);
+    QVERIFY(!m_sidebar->isStop(rowOf(QStringLiteral("Workspaces"))));
+    QVERIFY(m_sidebar->isStop(rowOf(QStringLiteral("Pages"))));
+    QVERIFY(!m_sidebar->isStop(-1));
 
+    const int tasks = rowOf(QStringLiteral("Tasks"));
     const int travel = rowOf(QStringLiteral("Travel"));
     QCOMPARE(m_sidebar->moveIn(travel), travel + 1);
     QCOMPARE(m_sidebar->moveOut(travel + 1), travel);
@@ -147,6 +147,36 @@ void SidebarViewModelTest::walksWithTheKeyboard()
     QVERIFY(shown().contains(QStringLiteral("Travel")));
     QCOMPARE(m_sidebar->moveOut(tasks), tasks);
     QCOMPARE(m_sidebar->moveIn(rowOf(QStringLiteral("Pages"))), rowOf(QStringLiteral("Pages")));
+}
+
+void SidebarViewModelTest::currentRowStaysWithWhatItStandsFor()
+{
+    const auto current = [this] {
+        QCoreApplication::processEvents();
+        return m_sidebar->rowList().at(m_sidebar->currentRow()).title;
+    };
+    QCOMPARE(current(), QStringLiteral("Dashboard"));
+    const QString folder = m_workspace->addFolder(QStringLiteral("Travel"));
+    const QUuid plan(m_workspace->addPage(QStringLiteral("Plan")));
+    m_workspace->ui().selectPage(plan);
+    QCOMPARE(current(), QStringLiteral("Plan"));
+    m_workspace->addPage(QStringLiteral("Before"), true);
+    QCOMPARE(current(), QStringLiteral("Plan"));
+
+    // A page that goes out of sight leaves the keyboard on its folder; one that is selected opens it.
+    fold(QStringLiteral("Travel"));
+    PageOperations::move(m_workspace->store(), plan, QUuid(folder));
+    QCOMPARE(current(), QStringLiteral("Travel"));
+    m_workspace->ui().select(QStringLiteral("tasks"));
+    QCOMPARE(current(), QStringLiteral("Tasks"));
+    m_workspace->ui().selectPage(plan);
+    QCOMPARE(current(), QStringLiteral("Plan"));
+
+    m_sidebar->remove(m_sidebar->currentRow());
+    QCOMPARE(current(), QStringLiteral("New folder"));
+    m_sidebar->setCurrentRow(rowOf(QStringLiteral("Travel")));
+    m_sidebar->remove(m_sidebar->currentRow());
+    QCOMPARE(current(), QStringLiteral("New folder"));
 }
 
 void SidebarViewModelTest::showsWhatChangesOnAPage()
@@ -195,41 +225,46 @@ void SidebarViewModelTest::countsOpenTasks()
 
 void SidebarViewModelTest::makesFoldersFromTrimmedNames()
 {
-    m_sidebar->activate(rowOf(QStringLiteral("New folder")));
-    QCOMPARE(shown().last(), QStringLiteral("New folder ..."));
-    m_sidebar->setFolderName(QStringLiteral("  \n"));
-    m_sidebar->commitFolder();
-    QCOMPARE(shown().last(), QStringLiteral("New folder"));
+    const auto name = [this](const QString &text) {
+        m_sidebar->activate(rowOf(QStringLiteral("New folder")));
+        QVERIFY(m_sidebar->isNaming());
+        QCOMPARE(shown().last(), QStringLiteral("New folder ..."));
+        m_sidebar->setProperty("nameText", text);
+        m_sidebar->commitName();
+        QVERIFY(!m_sidebar->isNaming());
+        QCOMPARE(shown().last(), QStringLiteral("New folder"));
+    };
+    name(QStringLiteral("  \n"));
     QVERIFY(m_workspace->store().folders().isEmpty());
-
-    m_sidebar->beginFolder();
-    m_sidebar->setFolderName(QStringLiteral(" Travel "));
-    m_sidebar->commitFolder();
+    name(QStringLiteral(" Travel "));
     QCOMPARE(m_workspace->store().folders().all().first().name, QStringLiteral("Travel"));
     QCOMPARE(m_workspace->store().folders().all().first().icon, QStringLiteral("📁"));
-    QVERIFY(m_sidebar->folderName().isEmpty());
+    QCOMPARE(m_sidebar->currentRow(), rowOf(QStringLiteral("Travel")));
     // The field may commit once more while it goes.
-    m_sidebar->commitFolder();
+    m_sidebar->commitName();
     QCOMPARE(m_workspace->store().folders().size(), 1);
 }
 
 void SidebarViewModelTest::renamesFolders()
 {
     m_workspace->addFolder(QStringLiteral("Travel"));
-    m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
-    QVERIFY(shown().contains(QStringLiteral("Travel ...")));
-    QCOMPARE(m_sidebar->renameText(), QStringLiteral("Travel"));
-    m_sidebar->setRenameText(QStringLiteral("   "));
-    m_sidebar->commitRename();
-    QVERIFY(shown().contains(QStringLiteral("Travel")));
-    m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
-    m_sidebar->setRenameText(QStringLiteral(" Journeys "));
-    m_sidebar->commitRename();
-    m_sidebar->setRenameText(QStringLiteral("Late"));
-    m_sidebar->commitRename();
+    const auto rename = [this](const QString &text) {
+        m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
+        QVERIFY(shown().contains(QStringLiteral("Travel ...")));
+        QCOMPARE(m_sidebar->property("nameText"), QStringLiteral("Travel"));
+        m_sidebar->setProperty("nameText", text);
+        // The key that began it changes nothing of what was typed.
+        m_sidebar->beginRename(rowOf(QStringLiteral("Travel")));
+        QCOMPARE(m_sidebar->property("nameText"), text);
+        m_sidebar->commitName();
+    };
+    rename(QStringLiteral("   "));
+    rename(QStringLiteral(" Journeys "));
+    m_sidebar->setProperty("nameText", QStringLiteral("Late"));
+    m_sidebar->commitName();
     QVERIFY(shown().contains(QStringLiteral("Journeys")));
     m_sidebar->beginRename(rowOf(QStringLiteral("Tasks")));
-    QVERIFY(!shown().join(QString()).contains(QStringLiteral("...")));
+    QVERIFY(!m_sidebar->isNaming());
 }
 
 void SidebarViewModelTest::deletesPagesAndFolders()
@@ -286,12 +321,12 @@ void SidebarViewModelTest::followsNothingWhileHidden()
 {
     const QUuid page(m_workspace->addPage(QStringLiteral("Plan")));
     shown();
-    m_sidebar->setShown(false);
+    m_sidebar->setActive(false);
     m_workspace->store().change<Page>(page, [](Page &changed) { changed.title = QStringLiteral("Plans"); });
     m_workspace->addTask(QStringLiteral("Write"));
     const QStringList before = shown();
     QVERIFY(before.contains(QStringLiteral("Plan")) && before.contains(QStringLiteral("Tasks")));
-    m_sidebar->setShown(true);
+    m_sidebar->setActive(true);
     const QStringList after = shown();
     QVERIFY(after.contains(QStringLiteral("Plans")) && after.contains(QStringLiteral("Tasks|1")));
 }

@@ -1,26 +1,22 @@
 import QtQuick
+import Orvel.App
 import Orvel.Session
 import Orvel.Shell
 
-/// Everything in the window once the onboarding is done, in layers: the shell, a presented deck over it, and over both
-/// the palette and the sheet of shortcuts, which float.
+/// Everything in the window once the onboarding is done: the shell around the screens, and over it the palette and the
+/// sheet of shortcuts.
 FocusScope {
-    id: root
-
     AppShellView {
+        id: shell
+
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: saveProblem.top }
         focus: true
+        screens: OrvelScreens { }
     }
 
     SaveProblemLine {
         id: saveProblem
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-    }
-
-    // The presenter, while `Orvel.ui.presentingDeckID` names a deck.
-    Item {
-        anchors.fill: parent
-        z: 3
     }
 
     // Made ahead, so that it opens with the next frame.
@@ -32,5 +28,9 @@ FocusScope {
     Loader {
         active: Orvel.ui.isShortcutsPresented || status === Loader.Ready
         source: "../Palette/ShortcutsSheet.qml"
+    }
+
+    UndoToast {
+        lift: shell.bottomHeight + saveProblem.height
     }
 }

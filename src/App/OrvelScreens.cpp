@@ -1,0 +1,23 @@
+#include "App/OrvelScreens.h"
+
+namespace
+{
+using enum Destination::Kind;
+
+constexpr std::array table{
+    PlaceScreen{page, "Orvel/Pages/PageEditorView.qml",
+                ScreenRecord{recordExists<Page>, "pageID", "doc.questionmark",
+                             QT_TRANSLATE_NOOP("OrvelScreens", "Page not found"),
+                             QT_TRANSLATE_NOOP("OrvelScreens", "Back to dashboard"), dashboard}},
+    PlaceScreen{project, nullptr,
+                ScreenRecord{recordExists<Project>, "projectID", "target",
+                             QT_TRANSLATE_NOOP("OrvelScreens", "Project not found"),
+                             QT_TRANSLATE_NOOP("OrvelScreens", "Back to projects"), projects}},
+    PlaceScreen{codeDocument, "Orvel/Code/CodeView.qml"},
+    PlaceScreen{tasks, "Orvel/Tasks/TasksView.qml"},
+    PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
+    PlaceScreen{code, "Orvel/Code/CodeView.qml"},
+};
+} // namespace
+
+OrvelScreens::OrvelScreens(QObject *parent) : ScreenTable(table, parent) {}

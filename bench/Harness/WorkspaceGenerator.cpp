@@ -1,6 +1,7 @@
 #include "Harness/WorkspaceGenerator.h"
 
 #include "Store/SnapshotCodec.h"
+#include "Store/WorkspaceStore.h"
 
 #include <array>
 #include <random>
@@ -211,4 +212,40 @@ QList<Page> WorkspaceGenerator::longPages(int count, qsizetype length)
                       .content = {{.id = QUuid::createUuid(), .text = text.left(length)}}});
     }
     return pages;
+}
+
+Snapshot WorkspaceGenerator::ofEveryKind(int count, qsizetype pageLength)
+{
+    Snapshot workspace;
+    workspace.list<Page>() = longPages(count, pageLength);
+    for (int i = 0; i < count; ++i) {
+        const auto id = [] { return QUuid::createUuid(); };
+        const auto title = [i](const char *kind) {
+            return QStringLiteral("%1 %2").arg(QLatin1String(kind)).arg(i);
+        };
+        workspace.list<TaskItem>().append({.id = id(), .title = title("Task")});
+        workspace.list<Project>().append({.id = id(), .name = title("Project"), .details = title("About")});
+        workspace.list<DatabaseTable>().append({.id = id(), .name = title("Database")});
+        workspace.list<DBRow>().append({.id = id(), .tableID = workspace.list<DatabaseTable>().last().id});
+        workspace.list<CalendarEvent>().append({.id = id(), .title = title("Event")});
+        workspace.list<Habit>().append({.id = id(), .name = title("Habit")});
+        workspace.list<CodeDocument>().append({.id = id(), .title = title("Code"), .source = title("print")});
+        workspace.list<Book>().append({.id = id(), .title = title("Book"), .author = title("Author")});
+        workspace.list<Deck>().append({.id = id(), .title = title("Deck")});
+    }
+    return workspace;
+}
+
+void WorkspaceGenerator::addTo(WorkspaceStore &store, const Snapshot &workspace)
+{
+    const Action action(store, QString());
+    std::apply(
+        [&]<typename... Kind>(const Kind &...) {
+            const auto add = [&](const auto &records) {
+                for (const auto &record : records)
+                    store.add(record);
+            };
+            (add(workspace.list<typename Kind::Record>()), ...);
+        },
+        RecordKinds::all);
 }

@@ -2,6 +2,8 @@
 
 #include "Store/Snapshot.h"
 
+class WorkspaceStore;
+
 /// Workspaces for measuring, the same at every run. Their texts read like English with a few accents, quotes,
 /// line ends, links and emoji.
 namespace WorkspaceGenerator
@@ -11,6 +13,13 @@ Snapshot ofFileSize(qsizetype bytes);
 
 /// Nothing but these.
 Snapshot ofTasksAndPages(int tasks, int pages);
+
+/// As many of each kind that the search looks into, titled "Page 0", "Task 0" and so on; the pages with a
+/// text of this length in units.
+Snapshot ofEveryKind(int count, qsizetype pageLength);
+
+/// Adds all records in one action.
+void addTo(WorkspaceStore &store, const Snapshot &workspace);
 
 /// Pages titled "Page 0" and so on, each with one text of this length in units.
 QList<Page> longPages(int count, qsizetype length);

@@ -1,6 +1,7 @@
 #include "Foundation/TextSignature.h"
 
 #include <algorithm>
+#include <bit>
 #include <ranges>
 
 namespace
@@ -33,21 +34,49 @@ void forEachRun(QStringView folded, Take take)
 }
 } // namespace
 
+void TextSignature::add(QStringView folded)
+{
+    forEachRun(folded, [this](std::size_t, quint32 bit) { m_bits[bit / 64] |= maskOf(bit); });
+}
+
 SignatureQuery::SignatureQuery(QStringView folded)
 {
     std::array<std::vector<quint32>, longestRun> bits;
     forEachRun(folded, [&](std::size_t run, quint32 bit) { bits[run].push_back(bit); });
     // What was typed last is what the texts found so far do not have in common.
-    for (const quint32 bit : bits | std::views::join | std::views::reverse) {
-        const auto word = std::ranges::find(m_words, bit / 64, &Word::index);
-        if (word == m_words.end())
-            m_words.push_back({bit / 64, maskOf(bit)});
-        else
-            word->bits |= maskOf(bit);
-    }
+    for (const quint32 bit : bits | std::views::join | std::views::reverse)
+        if (std::ranges::find(m_bits, bit) == m_bits.end())
+            m_bits.push_back(bit);
 }
 
-void TextSignature::add(QStringView folded)
+void TextSignatures::set(std::size_t number, const TextSignature &signature)
 {
-    forEachRun(folded, [this](std::size_t, quint32 bit) { m_bits[bit / 64] |= maskOf(bit); });
+    const std::size_t block = number / blockSize;
+    while (m_blocks.size() <= block)
+        m_blocks.push_back(std::make_unique<quint64[]>(m_bitCount));
+    quint64 *const words = m_blocks[block].get();
+    const quint64 mask = maskOf(quint32(number));
+    for (std::size_t i = 0; i < signature.m_bits.size(); ++i)
+        for (quint64 rest = signature.m_bits[i]; rest != 0; rest &= rest - 1)
+            words[(i * 64 + std::size_t(std::countr_zero(rest))) & (m_bitCount - 1)] |= mask;
+}
+
+void TextSignatures::clear(std::size_t number)
+{
+    quint64 *const words = m_blocks[number / blockSize].get();
+    const quint64 mask = maskOf(quint32(number));
+    for (std::size_t i = 0; i < m_bitCount; ++i)
+        words[i] &= ~mask;
+}
+
+quint64 TextSignatures::mayHold(std::size_t block, const SignatureQuery &query) const
+{
+    const quint64 *const words = m_blocks[block].get();
+    quint64 texts = ~quint64(0);
+    for (const quint32 bit : query.m_bits) {
+        texts &= words[bit & (m_bitCount - 1)];
+        if (texts == 0)
+            break;
+    }
+    return texts;
 }

@@ -3,7 +3,23 @@
 #include <QStringView>
 
 #include <array>
+#include <memory>
 #include <vector>
+
+/// A small set of the runs of one to three characters that occur in a text.
+class TextSignature
+{
+public:
+    static constexpr std::size_t bitCount = 4096;
+
+    /// Adds the runs of this text. Case counts: fold both the text and the query first, the same way.
+    void add(QStringView folded);
+    void clear() { m_bits = {}; }
+
+private:
+    friend class TextSignatures;
+    std::array<quint64, bitCount / 64> m_bits{};
+};
 
 /// What signatures are asked for: the runs of one to three characters of a query, those first that the
 /// fewest texts hold.
@@ -13,42 +29,31 @@ public:
     explicit SignatureQuery(QStringView folded);
 
 private:
-    friend class TextSignature;
-    struct Word {
-        std::size_t index;
-        quint64 bits;
-    };
-    std::vector<Word> m_words;
+    friend class TextSignatures;
+    std::vector<quint32> m_bits;
 };
 
-/// A small set of the runs of one to three characters that occur in a text. It tells for certain that a text
-/// does not hold a query, and so spares looking into most texts at all; where it cannot tell, the text itself
-/// has to be searched.
-class TextSignature
+/// The signatures of many texts, each with a number. They tell for certain that a text does not hold a query,
+/// and so spare looking into most texts at all; where they cannot tell, the text itself has to be searched.
+///
+/// One bit of 64 signatures lies in one word, so that a query costs a few words for 64 texts.
+class TextSignatures
 {
 public:
-    /// Adds the runs of this text. Case counts: fold both the text and the query first, the same way.
-    void add(QStringView folded);
+    static constexpr std::size_t blockSize = 64;
 
-    /// False only if no text added so far can hold the query.
-    bool mayHold(const SignatureQuery &query) const
-    {
-        for (const SignatureQuery::Word &word : query.m_words)
-            if ((word.bits & ~m_bits[word.index]) != 0)
-                return false;
-        return true;
-    }
+    /// @param bitCount kept of each signature, a power of two: the longer the texts, the more
+    explicit TextSignatures(std::size_t bitCount) : m_bitCount(bitCount) {}
 
-    /// Has the machine fetch from memory what `mayHold` looks at first.
-    void prefetch(const SignatureQuery &query) const
-    {
-        // Most texts fail one of the first.
-        for (std::size_t i = 0; i < query.m_words.size() && i < 3; ++i)
-            __builtin_prefetch(&m_bits[query.m_words[i].index]);
-    }
+    /// A number that was never set, or has been cleared.
+    void set(std::size_t number, const TextSignature &signature);
+    void clear(std::size_t number);
+
+    std::size_t blockCount() const { return m_blocks.size(); }
+    /// One bit for each text of a block, the lowest for the first: clear if the text cannot hold the query.
+    quint64 mayHold(std::size_t block, const SignatureQuery &query) const;
 
 private:
-    static constexpr std::size_t bitCount = 4096;
-
-    std::array<quint64, bitCount / 64> m_bits{};
+    std::size_t m_bitCount;
+    std::vector<std::unique_ptr<quint64[]>> m_blocks;
 };

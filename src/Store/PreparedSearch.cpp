@@ -10,10 +10,7 @@ PreparedSearch::PreparedSearch(const WorkspaceStore &store, Timing timing, QObje
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &PreparedSearch::prepareSlice);
-    connect(&store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {
-        if (changes.touches<Page, CodeDocument>())
-            prepareLater();
-    });
+    connect(&store, &WorkspaceStore::changed, this, &PreparedSearch::prepareLater);
     prepareLater();
 }
 

@@ -26,6 +26,12 @@ public:
 
     /// As `WorkspaceSearch::search`; it also answers before everything is ready, only later.
     QList<SearchResult> search(const QString &query) { return m_search.search(query); }
+    /// As `WorkspaceSearch::matching`.
+    template <typename Record>
+    QList<const Record *> matching(const QString &query)
+    {
+        return m_search.matching<Record>(query);
+    }
     bool isReady() const { return !m_timer.isActive(); }
 
 private:

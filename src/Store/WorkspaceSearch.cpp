@@ -1,7 +1,6 @@
 #include "Store/WorkspaceSearch.h"
 
 #include "Foundation/Graphemes.h"
-#include "Store/DatabaseOperations.h"
 #include "Support/HabitDays.h"
 #include "Support/OVDate.h"
 
@@ -34,42 +33,36 @@ public:
     QList<SearchResult> take() { return std::move(m_results); }
 
     template <typename Record>
-    void addSigned(const RecordList<Record> &list, SearchSignatures<Record> &signatures)
+    void add(SearchSignatures<Record> &signatures)
     {
+        if (m_results.size() >= WorkspaceSearch::mostResults)
+            return;
+        const RecordList<Record> &list = m_store.list<Record>();
         signatures.follow(list);
-        for (qsizetype i = 0; i < list.size() && !isFull(); ++i) {
-            signatures.prefetch(i + 16, m_signatureQuery);
-            if (signatures.signature(list, i).mayHold(m_signatureQuery) &&
-                m_texts.hold(list.all()[i], m_query))
-                m_results.append(result(list.all()[i]));
-        }
-    }
-
-    template <typename Record, typename Texts>
-    void add(const RecordList<Record> &list, Texts texts)
-    {
-        for (const Record &record : list) {
-            if (isFull())
-                return;
-            if (isIn(texts(record)))
-                m_results.append(result(record));
-        }
-    }
-
-    void addDecks()
-    {
-        for (const Deck &deck : m_store.list<Deck>())
-            if (!isFull() && deck.matches(m_query))
-                m_results.append(result(deck));
+        QList<const Record *> found;
+        signatures.forEachCandidate(list, m_signatureQuery, [&](const Record &record) {
+            if (m_texts.hold(record, m_query))
+                found.append(&record);
+            return m_results.size() + found.size() < WorkspaceSearch::mostResults;
+        });
+        if constexpr (std::is_same_v<Record, DatabaseTable>)
+            countRows(found);
+        for (const Record *const record : std::as_const(found))
+            m_results.append(result(*record));
     }
 
 private:
-    bool isFull() const { return m_results.size() >= WorkspaceSearch::mostResults; }
-
-    bool isIn(const QStringList &texts) const
+    /// In one walk, as there may be very many rows.
+    void countRows(const QList<const DatabaseTable *> &tables)
     {
-        return std::ranges::any_of(texts,
-                                   [this](const QString &text) { return text.toLower().contains(m_query); });
+        for (const DatabaseTable *const table : tables)
+            if (table->details.isEmpty())
+                m_rowCounts.insert(table->id, 0);
+        if (m_rowCounts.isEmpty())
+            return;
+        for (const DBRow &row : m_store.list<DBRow>())
+            if (const auto count = m_rowCounts.find(row.tableID); count != m_rowCounts.end())
+                ++*count;
     }
 
     static SearchResult result(const Page &page)
@@ -109,8 +102,7 @@ private:
 
     SearchResult result(const DatabaseTable &table) const
     {
-        const QString count =
-            QString::number(DatabaseOperations::rows(m_store, table.id).size()) + u" records"_s;
+        const QString count = QString::number(m_rowCounts.value(table.id)) + u" records"_s;
         return {resultId("db", table.id),
                 SearchResultKind::database,
                 table.name,
@@ -178,6 +170,7 @@ private:
     QString m_query;
     SignatureQuery m_signatureQuery;
     SearchedTexts m_texts;
+    QHash<QUuid, qsizetype> m_rowCounts;
     QList<SearchResult> m_results;
 };
 } // namespace
@@ -185,10 +178,10 @@ private:
 WorkspaceSearch::WorkspaceSearch(const WorkspaceStore &store) : m_store(store)
 {
     QObject::connect(&store, &WorkspaceStore::changed, &m_listener, [this](const ChangeSet &changes) {
-        if (changes.touches<Page>())
-            m_pages.listChanged();
-        if (changes.touches<CodeDocument>())
-            m_codeDocuments.listChanged();
+        forEachKind([&]<typename Record>(SearchSignatures<Record> &signatures) {
+            if (changes.touches<Record>())
+                signatures.listChanged();
+        });
     });
 }
 
@@ -198,18 +191,7 @@ QList<SearchResult> WorkspaceSearch::search(const QString &query)
     if (folded.isEmpty())
         return {};
     Search search(m_store, folded);
-    search.addSigned(m_store.pages(), m_pages);
-    search.add(m_store.tasks(), [](const TaskItem &task) { return QStringList{task.title}; });
-    search.add(m_store.projects(),
-               [](const Project &project) { return QStringList{project.name, project.details}; });
-    search.add(m_store.list<DatabaseTable>(),
-               [](const DatabaseTable &table) { return QStringList{table.name}; });
-    search.add(m_store.list<CalendarEvent>(),
-               [](const CalendarEvent &event) { return QStringList{event.title}; });
-    search.add(m_store.list<Habit>(), [](const Habit &habit) { return QStringList{habit.name}; });
-    search.addSigned(m_store.codeDocuments(), m_codeDocuments);
-    search.add(m_store.list<Book>(), [](const Book &book) { return QStringList{book.title, book.author}; });
-    search.addDecks();
+    forEachKind([&](auto &signatures) { search.add(signatures); });
     return search.take();
 }
 
@@ -217,8 +199,12 @@ bool WorkspaceSearch::prepare(std::chrono::milliseconds budget)
 {
     // A coarse timer may be late by more than a slice takes.
     const QDeadlineTimer deadline(budget, Qt::PreciseTimer);
-    m_pages.follow(m_store.pages());
-    m_codeDocuments.follow(m_store.codeDocuments());
-    return m_pages.makeUntil(m_store.pages(), deadline) &&
-           m_codeDocuments.makeUntil(m_store.codeDocuments(), deadline);
+    bool isDone = true;
+    forEachKind([&]<typename Record>(SearchSignatures<Record> &signatures) {
+        if (!isDone)
+            return;
+        signatures.follow(m_store.list<Record>());
+        isDone = signatures.makeUntil(m_store.list<Record>(), deadline);
+    });
+    return isDone;
 }

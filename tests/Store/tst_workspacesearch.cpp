@@ -31,7 +31,7 @@ private:
     }
     static QString upper(const QUuid &id) { return id.toString(QUuid::WithoutBraces).toUpper(); }
 
-    /// The ids of pages and code documents that a plain look at everything finds.
+    /// The ids of pages, tasks, code documents and decks that a plain look at everything finds.
     static QStringList plainScan(const WorkspaceStore &store, const QString &query)
     {
         const QString wanted = query.trimmed().toLower();
@@ -41,9 +41,15 @@ private:
         for (const Page &page : store.pages())
             if (page.title.toLower().contains(wanted) || page.previewText().toLower().contains(wanted))
                 found.append(u"page-"_s + upper(page.id));
+        for (const TaskItem &task : store.tasks())
+            if (task.title.toLower().contains(wanted))
+                found.append(u"task-"_s + upper(task.id));
         for (const CodeDocument &document : store.codeDocuments())
             if (document.title.toLower().contains(wanted) || document.source.toLower().contains(wanted))
                 found.append(u"code-"_s + upper(document.id));
+        for (const Deck &deck : store.list<Deck>())
+            if (deck.matches(wanted))
+                found.append(u"deck-"_s + upper(deck.id));
         return found.mid(0, WorkspaceSearch::mostResults);
     }
     static QStringList ids(const QList<SearchResult> &results)
@@ -157,10 +163,13 @@ private slots:
         for (int round = 0; round < 20; ++round) {
             const auto store = open();
             WorkspaceSearch search(*store);
+            // Some of the signatures share their words with others, and some don't.
+            for (int i = 0; i < round * 10; ++i)
+                store->add(page(sentence(), {sentence()}));
             for (int step = 0; step < 120; ++step) {
                 const QList<Page> &pages = store->pages().all();
                 const auto any = [&] { return pages[qsizetype(random() % std::size_t(pages.size()))].id; };
-                const unsigned action = pages.isEmpty() ? 0 : unsigned(random() % 10);
+                const unsigned action = pages.isEmpty() ? 0 : unsigned(random() % 14);
                 if (action < 3)
                     store->add(page(sentence(), {sentence(), sentence()}));
                 else if (action == 3)
@@ -176,11 +185,27 @@ private slots:
                     search.prepare(0ms);
                 else if (action == 8 && random() % 20 == 0)
                     store->resetEverything(true);
+                else if (action == 9)
+                    store->add(TaskItem{.id = QUuid::createUuid(), .title = sentence()});
+                else if (action == 10 && !store->tasks().isEmpty())
+                    store->erase<TaskItem>(store->tasks().at(0).id);
+                else if (action == 11)
+                    store->add(Deck{.id = QUuid::createUuid(),
+                                    .title = sentence(),
+                                    .slides = {{.title = sentence(), .body = sentence()}}});
+                else if (action > 11)
+                    store->undo();
                 QString query = sentence().mid(qsizetype(random() % 3), 1 + qsizetype(random() % 8));
                 if (!pages.isEmpty() && random() % 2)
                     query = store->pages().first(any())->previewText().mid(qsizetype(random() % 9),
                                                                            1 + qsizetype(random() % 9));
                 QCOMPARE(ids(search.search(query)), plainScan(*store, query));
+                const QString wanted = query.trimmed().toLower();
+                const auto matching = search.matching<Page>(query);
+                QCOMPARE(matching.size(), std::ranges::count_if(pages, [&](const Page &page) {
+                             return !wanted.isEmpty() && (page.title.toLower().contains(wanted) ||
+                                                          page.previewText().toLower().contains(wanted));
+                         }));
             }
         }
     }

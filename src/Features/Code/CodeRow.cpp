@@ -19,7 +19,11 @@ QString CodeRow::lineCountText(qsizetype count)
 
 bool CodeRow::matches(const CodeDocument &document, const QString &query)
 {
-    return document.title.contains(query, Qt::CaseInsensitive) ||
-           enumLabel(document.language).contains(query, Qt::CaseInsensitive) ||
+    return document.title.contains(query, Qt::CaseInsensitive) || languageMatches(document, query) ||
            document.source.contains(query, Qt::CaseInsensitive);
+}
+
+bool CodeRow::languageMatches(const CodeDocument &document, const QString &query)
+{
+    return enumLabel(document.language).contains(query, Qt::CaseInsensitive);
 }

@@ -24,4 +24,5 @@ public:
     static QString lineCountText(qsizetype count);
     /// Whether the title, the language's label or the source contain the text, whatever its case.
     static bool matches(const CodeDocument &document, const QString &query);
+    static bool languageMatches(const CodeDocument &document, const QString &query);
 };

@@ -148,8 +148,11 @@ void CodeViewModel::layOut()
     const QString query = m_query.trimmed();
     QList<CodeRow> rows;
     const auto &documents = store().codeDocuments().all();
+    QSet<QUuid> matching;
+    for (const CodeDocument *const document : session()->search()->matching<CodeDocument>(query))
+        matching.insert(document->id);
     for (const CodeDocument &document : documents)
-        if (query.isEmpty() || CodeRow::matches(document, query))
+        if (query.isEmpty() || matching.contains(document.id) || CodeRow::languageMatches(document, query))
             rows.append(CodeRow::of(document));
     m_rows.setRows(std::move(rows));
     if (std::exchange(m_isEmpty, documents.isEmpty()) != documents.isEmpty())

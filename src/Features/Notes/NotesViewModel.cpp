@@ -1,25 +1,13 @@
 #include "Features/Notes/NotesViewModel.h"
 
 #include "Session/PageActions.h"
-
-namespace
-{
-// Ahead of a search, a small part of the time goes into learning about the notes.
-constexpr std::chrono::milliseconds prepareInterval(20);
-constexpr std::chrono::milliseconds prepareBudget(4);
-} // namespace
+#include "Store/PageOperations.h"
+#include "Store/Questions.h"
 
 NotesViewModel::NotesViewModel(QObject *parent) : ViewModel(parent)
 {
     follow<Page>();
     followDays();
-    m_prepareTimer.setInterval(prepareInterval);
-    connect(&m_prepareTimer, &QTimer::timeout, this, &NotesViewModel::prepareSearch);
-}
-
-void NotesViewModel::start()
-{
-    m_search.emplace(store());
 }
 
 void NotesViewModel::setQuery(const QString &query)
@@ -61,12 +49,20 @@ void NotesViewModel::refresh(const ChangeSet &)
     const QDate today = clock().today();
     const QTimeZone zone = clock().timeZone();
     QList<NoteRow> rows;
-    for (const Page *note : m_search->filtered(m_query))
+    for (const Page *note : matchingNotes())
         rows.append(NoteRow::of(*note, today, zone));
     m_rows.setRows(std::move(rows));
     m_isSearch = !m_query.trimmed().isEmpty();
     emit shownChanged();
-    m_prepareTimer.start();
+}
+
+QList<const Page *> NotesViewModel::matchingNotes() const
+{
+    if (m_query.trimmed().isEmpty())
+        return PageOperations::notes(store());
+    auto notes = session()->search()->matching<Page>(m_query);
+    notes.removeIf([](const Page *page) { return page->kind != PageKind::note; });
+    return Questions::newestFirst(std::move(notes), &Page::updatedDate);
 }
 
 bool NotesViewModel::reveal(const UndoPlace &place)
@@ -76,10 +72,4 @@ bool NotesViewModel::reveal(const UndoPlace &place)
         return false;
     emit revealed(int(row - m_rows.rows().begin()));
     return true;
-}
-
-void NotesViewModel::prepareSearch()
-{
-    if (!isActive() || m_search->prepare(prepareBudget))
-        m_prepareTimer.stop();
 }

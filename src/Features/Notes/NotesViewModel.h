@@ -1,11 +1,8 @@
 #pragma once
 
 #include "Features/Notes/NoteRow.h"
-#include "Features/Notes/NotesSearch.h"
 #include "Foundation/KeyedListModel.h"
 #include "Session/ViewModel.h"
-
-#include <QTimer>
 
 /// What the screen of all notes shows and does.
 class NotesViewModel : public ViewModel
@@ -44,17 +41,15 @@ signals:
     void revealed(int card);
 
 protected:
-    void start() override;
     void refresh(const ChangeSet &changes) override;
     bool reveal(const UndoPlace &place) override;
 
 private:
-    void prepareSearch();
+    /// Those that the query finds, the last changed first.
+    QList<const Page *> matchingNotes() const;
 
     QString m_query;
     /// Whether the cards are those of a search.
     bool m_isSearch = false;
-    std::optional<NotesSearch> m_search;
     KeyedListModel<NoteRow> m_rows;
-    QTimer m_prepareTimer;
 };

@@ -4,6 +4,7 @@
 #include "App/TerminationSignals.h"
 #include "App/ThemeSync.h"
 #include "Foundation/LogFile.h"
+#include "Session/DesktopNotifications.h"
 #include "Session/OrvelSession.h"
 #include "Support/Updates/PathExchange.h"
 
@@ -110,7 +111,13 @@ int main(int argc, char *argv[])
     UIState ui;
     AppUpdates updates(application.applicationVersion(), QStringLiteral(ORVEL_BUILD),
                        QStringLiteral(ORVEL_UPDATE_SITE));
-    OrvelSession session(&store, &ui, updates.service());
+    Preferences preferences(Preferences::defaultFilePath());
+    DesktopNotifications notifications(&QDBusConnection::sessionBus);
+    Machine machine{.preferences = &preferences};
+    machine.notify = [&notifications](const QString &title, const QString &text) {
+        notifications.show(title, text);
+    };
+    OrvelSession session(&store, &ui, updates.service(), machine);
 
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     QQmlApplicationEngine engine;
@@ -127,6 +134,8 @@ int main(int argc, char *argv[])
     watchStart(*window);
     QObject::connect(&instance, &SingleInstance::raiseRequested, window,
                      [window](const QByteArray &activationToken) { bringToFront(*window, activationToken); });
+    QObject::connect(&notifications, &DesktopNotifications::activated, window,
+                     [window](const QByteArray &token) { bringToFront(*window, token); });
     const int code = application.exec();
     finishLoading(*window);
     return code;

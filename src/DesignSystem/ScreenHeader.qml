@@ -11,6 +11,8 @@ FocusScope {
     property alias title: header.title
     property alias subtitle: header.subtitle
     property alias symbol: header.symbol
+    /// At the right end of the title.
+    property alias actions: header.trailing
     default property alias content: content.data
     /// Below the content.
     property int bottomGap: Theme.space24

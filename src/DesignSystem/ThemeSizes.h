@@ -29,6 +29,9 @@ class ThemeSizes : public ThemeType
     Q_PROPERTY(int iconTile READ iconTile NOTIFY changed FINAL)
     Q_PROPERTY(int iconEmpty READ iconEmpty NOTIFY changed FINAL)
     Q_PROPERTY(int iconPage READ iconPage NOTIFY changed FINAL)
+    /// A round button that is the first thing in its card, and the mark of one day.
+    Q_PROPERTY(int roundMark READ roundMark NOTIFY changed FINAL)
+    Q_PROPERTY(int dayMark READ dayMark NOTIFY changed FINAL)
     Q_PROPERTY(int buttonHeight READ buttonHeight NOTIFY changed FINAL)
     Q_PROPERTY(int fieldHeight READ fieldHeight NOTIFY changed FINAL)
     Q_PROPERTY(int iconButtonSize READ iconButtonSize NOTIFY changed FINAL)
@@ -67,6 +70,8 @@ public:
     int iconTile() const { return scaled(24); }
     int iconEmpty() const { return scaled(40); }
     int iconPage() const { return scaled(58); }
+    int roundMark() const { return scaled(44); }
+    int dayMark() const { return scaled(22); }
     int buttonHeight() const { return control(34); }
     int fieldHeight() const { return control(36); }
     int iconButtonSize() const { return control(30); }

@@ -5,12 +5,14 @@ namespace
 constexpr char sessionProperty[] = "orvelSession";
 }
 
-OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates)
+OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates, const Machine &machine)
     : m_store(store),
       m_ui(ui),
       m_updates(updates),
       m_search(*store),
       m_undo(store, ui),
+      m_preferences(machine.preferences ? *machine.preferences : m_ownPreferences),
+      m_focus(*store, m_preferences, machine),
       m_settings(ShownSettings::of(store->settings()))
 {
     connect(store, &WorkspaceStore::changed, this, [this](const ChangeSet &changes) {

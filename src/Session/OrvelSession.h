@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Session/FocusTimer.h"
 #include "Session/SessionTypes.h"
 #include "Session/ShownSettings.h"
 #include "Session/UndoController.h"
+#include "Support/Preferences.h"
 
 #include <QQmlEngine>
 
@@ -19,12 +21,14 @@ class OrvelSession : public QObject
     Q_PROPERTY(UpdateService *updates READ updates CONSTANT FINAL)
     Q_PROPERTY(PreparedSearch *search READ search CONSTANT FINAL)
     Q_PROPERTY(UndoController *undo READ undo CONSTANT FINAL)
+    Q_PROPERTY(FocusTimer *focus READ focus CONSTANT FINAL)
     Q_PROPERTY(ShownSettings settings READ settings NOTIFY settingsChanged FINAL)
 
 public:
     /// The objects outlive the session, and the session outlives the engine.
     /// @param updates null where no screen speaks of updates
-    OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates = nullptr);
+    OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *updates = nullptr,
+                 const Machine &machine = {});
 
     /// The present moment in the user's time zone, by the one clock.
     Q_INVOKABLE QDateTime now() const;
@@ -38,6 +42,8 @@ public:
     UpdateService *updates() const { return m_updates; }
     PreparedSearch *search() { return &m_search; }
     UndoController *undo() { return &m_undo; }
+    FocusTimer *focus() { return &m_focus; }
+    Preferences &preferences() { return m_preferences; }
     const ShownSettings &settings() const { return m_settings; }
 
 signals:
@@ -49,5 +55,9 @@ private:
     UpdateService *m_updates;
     PreparedSearch m_search;
     UndoController m_undo;
+    /// Where the machine gives none.
+    Preferences m_ownPreferences;
+    Preferences &m_preferences;
+    FocusTimer m_focus;
     ShownSettings m_settings;
 };

@@ -12,11 +12,26 @@ bool isDone(const Habit &habit, QDate day)
 }
 } // namespace
 
+// Day keys sort as their days do, so one walk from today to the past sees each day of the streak once.
 qsizetype HabitDays::currentStreak(const Habit &habit, QDate today)
 {
-    QDate cursor = isDone(habit, today) ? today : today.addDays(-1);
+    QString key = OVDate::dayKey(today);
+    QDate cursor = today;
+    auto day = std::make_reverse_iterator(habit.completions.upper_bound(key));
+    const auto isAtCursor = [&] {
+        // What is no day key may stand between two days.
+        while (day != habit.completions.rend() && *day > key)
+            ++day;
+        return day != habit.completions.rend() && *day == key;
+    };
+    const auto stepBack = [&] {
+        cursor = cursor.addDays(-1);
+        key = OVDate::dayKey(cursor);
+    };
+    if (!isAtCursor())
+        stepBack();
     qsizetype days = 0;
-    for (; isDone(habit, cursor); cursor = cursor.addDays(-1))
+    for (; isAtCursor(); stepBack())
         ++days;
     return days;
 }

@@ -28,7 +28,7 @@ OnboardingPage {
         onTextEdited: root.onboarding.workspaceName = text
     }
 
-    EmojiRow {
+    OVEmojiRow {
         icon: root.onboarding.workspaceIcon
         icons: root.onboarding.workspaceIcons
         label: qsTr("Workspace icon")

@@ -22,7 +22,8 @@ Column {
     signal chosen(icon: string)
     signal accepted
 
-    spacing: Theme.space8
+    bottomPadding: -bleed
+    spacing: Theme.space8 - bleed
 
     OVText {
         id: title

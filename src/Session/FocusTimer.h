@@ -105,5 +105,5 @@ private:
     std::optional<std::chrono::milliseconds> m_startedAt;
     QUuid m_taskID;
     QSet<const QObject *> m_watchers;
-    QTimer m_timer;
+    QTimer m_timer{this};
 };

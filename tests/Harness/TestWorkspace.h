@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Harness/ManualClock.h"
+#include "Store/HabitOperations.h"
 #include "Store/PageOperations.h"
 #include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
@@ -148,6 +149,16 @@ public:
     {
         return FolderOperations::create(m_store, name, QStringLiteral("📁"))
             .id.toString(QUuid::WithoutBraces);
+    }
+
+    /// @param daysAgo the days that are done
+    Q_INVOKABLE QString addHabit(const QString &name, const QList<int> &daysAgo = {}, int target = 7)
+    {
+        const QUuid id =
+            *HabitOperations::create(m_store, name, QStringLiteral("🔥"), AccentPalette::orange, target);
+        for (const int days : daysAgo)
+            HabitOperations::toggle(m_store, id, m_clock.today().addDays(-days));
+        return id.toString(QUuid::WithoutBraces);
     }
 
     /// What stands in the file after a save.

@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property HabitsViewModel viewModel
+    readonly property var accents: viewModel.accents
     readonly property int inset: Theme.space24
 
     function focusName() {
@@ -75,17 +76,17 @@ FocusScope {
                 id: colors
 
                 columns: Math.max(1, Math.floor((width + spacing) / (Theme.chipHeight + spacing)))
-                current: Math.max(0, root.viewModel.accents.findIndex(accent => accent.raw === root.viewModel.accent))
+                current: Math.max(0, root.accents.findIndex(accent => accent.raw === root.viewModel.accent))
                 items: swatches
                 spacing: Theme.space8
                 width: parent.width
                 Accessible.name: qsTr("Colour")
                 Accessible.role: Accessible.Grouping
-                onMoved: index => root.viewModel.accent = root.viewModel.accents[index].raw
+                onMoved: index => root.viewModel.accent = root.accents[index].raw
 
                 Repeater {
                     id: swatches
-                    model: root.viewModel.accents
+                    model: root.accents
 
                     OVColorSwatch {
                         required property int index

@@ -108,6 +108,7 @@ OrvelCommands::OrvelCommands(QObject *parent) : QObject(parent)
         command->startsGroup = entry.group == Entry::Group::next;
         command->isBound = !std::holds_alternative<TextEdit>(entry.action);
         m_menus.last().commands.append(command);
+        m_commands.append(command);
     }
 }
 
@@ -123,9 +124,8 @@ void OrvelCommands::setSession(OrvelSession *session)
 
 void OrvelCommands::prepare(QQuickItem *focusItem)
 {
-    const QList<OrvelCommand *> all = commands();
-    for (qsizetype i = 0; i < all.size(); ++i) {
-        OrvelCommand &command = *all.at(i);
+    for (qsizetype i = 0; i < m_commands.size(); ++i) {
+        OrvelCommand &command = *m_commands.at(i);
         if (const auto *const edit = std::get_if<TextEdit>(&table().at(i).action))
             command.show(command.title, canEdit(focusItem, *edit));
         else if (command.id == u"undo")

@@ -43,14 +43,12 @@ signals:
 struct OrvelMenu {
     Q_GADGET
     Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(QObjectList commands READ objects FINAL)
+    Q_PROPERTY(QList<OrvelCommand *> commands MEMBER commands FINAL)
 
 public:
     /// "&" stands before the letter that opens it.
     QString title;
     QList<OrvelCommand *> commands;
-
-    QObjectList objects() const { return {commands.begin(), commands.end()}; }
 };
 
 /// The commands of the menu bar and their keys.
@@ -61,15 +59,15 @@ class OrvelCommands : public QObject
     Q_PROPERTY(OrvelSession *session MEMBER m_session WRITE setSession NOTIFY sessionChanged REQUIRED FINAL)
     Q_PROPERTY(QList<OrvelMenu> menus READ menus CONSTANT FINAL)
     /// The commands of all menus.
-    Q_PROPERTY(QObjectList commands READ objects CONSTANT FINAL)
+    Q_PROPERTY(QQmlListProperty<OrvelCommand> commands READ commandList CONSTANT FINAL)
 
 public:
     explicit OrvelCommands(QObject *parent = nullptr);
 
     void setSession(OrvelSession *session);
     const QList<OrvelMenu> &menus() const { return m_menus; }
-    QList<OrvelCommand *> commands() const { return findChildren<OrvelCommand *>(); }
-    QObjectList objects() const { return children(); }
+    const QList<OrvelCommand *> &commands() const { return m_commands; }
+    QQmlListProperty<OrvelCommand> commandList() { return {this, &m_commands}; }
 
     /// Does what the command with this id is for; an unknown id does nothing, and before the onboarding is
     /// done neither does anything that belongs to the workspace.
@@ -106,4 +104,5 @@ private:
 
     OrvelSession *m_session = nullptr;
     QList<OrvelMenu> m_menus;
+    QList<OrvelCommand *> m_commands;
 };

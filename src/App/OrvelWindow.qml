@@ -51,6 +51,10 @@ Window {
         window: window
     }
 
+    UndoKeys {
+        window: window
+    }
+
     CommandKeys {
         active: rootView.isDrawn
         commands: commands

@@ -3,13 +3,15 @@ import QtQuick.Templates as T
 import Orvel.DesignSystem
 
 /// Gives the focus back to where it was before a popup opened, with its ring where the keyboard had put it
-/// there.
+/// there. If that is gone, such as the row that the popup moved away, what was around it has the focus.
 QtObject {
     id: root
 
     required property T.Popup popup
     property Item item: null
     property int reason: Qt.OtherFocusReason
+    /// The scopes of focus around the item, the innermost first.
+    property var scopes: []
 
     function remember() {
         const active = popup.parent?.Window.activeFocusItem ?? null
@@ -26,12 +28,18 @@ QtObject {
             item = active
             reason = active?.focusReason ?? Qt.OtherFocusReason
         }
+        scopes = []
+        for (let around = item?.parent; around; around = around.parent) {
+            if (around instanceof FocusScope || around instanceof Flickable)
+                scopes.push(around)
+        }
     }
 
     function giveBack() {
-        const target = item
+        const target = item?.visible ? item : scopes.find(scope => scope.visible)
         item = null
-        if (!target?.visible)
+        scopes = []
+        if (!target)
             return
         const active = target.Window.activeFocusItem
         const nowhere = !active || active === target.Window.contentItem || active === target.T.Overlay.overlay

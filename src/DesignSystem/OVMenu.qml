@@ -64,6 +64,9 @@ T.Menu {
     exit: OVExit { }
 
     contentItem: ListView {
+        // Letters reach it before an item is current; the arrows are the menu's.
+        focus: true
+        keyNavigationEnabled: false
         implicitHeight: contentHeight
         model: menu.contentModel
         interactive: contentHeight > height

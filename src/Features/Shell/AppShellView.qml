@@ -44,6 +44,7 @@ FocusScope {
         visible: width > 0
         width: root.hasSidebar && Orvel.ui.isSidebarVisible ? Theme.sidebarWidth : 0
         onEnabledChanged: Qt.callLater(root.keepFocus)
+        onVisibleChanged: Qt.callLater(root.keepFocus)
 
         Behavior on width {
             enabled: root.hasSidebar

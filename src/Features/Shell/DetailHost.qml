@@ -32,12 +32,12 @@ FocusScope {
                 other.destroy()
         }
         pane = paneComponent.createObject(root, { "isShown": last === null })
-        pane.load(source, properties)
+        pane.setSource(source, properties)
         pane.isShown = true
         shownPlace = detail.place
         // What lies above the workspace when it is first shown, such as the intro, keeps the focus.
-        if (last && (hadFocus || isNewPlace && (!navigationHasFocus || currentItem.wantsKeyboard === true)))
-            currentItem.forceActiveFocus(Qt.OtherFocusReason)
+        if (last && (hadFocus || isNewPlace && (!navigationHasFocus || currentItem?.wantsKeyboard === true)))
+            pane.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     clip: true
@@ -48,18 +48,6 @@ FocusScope {
 
         property bool isShown: false
         property bool isLeaving: false
-
-        function load(source: url, properties: var) {
-            setSource(source, properties)
-            // A file that makes no item must not leave the pane empty.
-            if (!item)
-                setSource("PlaceNotice.qml", {
-                    "symbol": "exclamationmark.triangle",
-                    "title": qsTr("This screen can't be shown"),
-                    "message": qsTr("Choose another place to go on.")
-                })
-            item.focus = true
-        }
 
         function leave() {
             isLeaving = true
@@ -72,9 +60,19 @@ FocusScope {
         enabled: isShown
         focus: isShown
         opacity: isShown ? 1 : 0
+        onLoaded: item.focus = true
         onOpacityChanged: {
             if (isLeaving && opacity === 0)
                 destroy()
+        }
+        // A file that makes no item must not leave the pane empty.
+        onStatusChanged: {
+            if (status === Loader.Error)
+                setSource("PlaceNotice.qml", {
+                    "symbol": "exclamationmark.triangle",
+                    "title": qsTr("This screen can't be shown"),
+                    "message": qsTr("Choose another place to go on.")
+                })
         }
 
         Behavior on opacity {
@@ -93,7 +91,6 @@ FocusScope {
 
         screens: root.screens
         session: Orvel
-        themeRevision: ThemeRevision.value
         onScreenChanged: root.show(detail.source, detail.properties)
     }
 }

@@ -1,5 +1,6 @@
 #include "Features/Shell/DetailViewModel.h"
 
+#include "DesignSystem/ThemeRevision.h"
 #include "Support/OrvelNavigation.h"
 
 using namespace Qt::StringLiterals;
@@ -9,18 +10,16 @@ DetailViewModel::DetailViewModel(QObject *parent) : ViewModel(parent)
     follow<Page, Project, CodeDocument, Deck>();
 }
 
+void DetailViewModel::setScreens(ScreenTable *screens)
+{
+    m_screens = screens;
+    requestRefresh();
+}
+
 void DetailViewModel::start()
 {
     connect(&ui(), &UIState::selectionChanged, this, &DetailViewModel::requestRefresh);
-}
-
-void DetailViewModel::setThemeRevision(int revision)
-{
-    if (m_themeRevision == revision)
-        return;
-    m_themeRevision = revision;
-    requestRefresh();
-    emit themeRevisionChanged();
+    connect(&ThemeRevision::shared(), &ThemeRevision::valueChanged, this, &DetailViewModel::requestRefresh);
 }
 
 void DetailViewModel::refresh(const ChangeSet &)
@@ -38,8 +37,9 @@ DetailViewModel::Screen DetailViewModel::screen() const
 {
     Screen next{.place = ui().selection()};
     const Destination &place = next.place;
-    next.identity =
-        place.kind == Destination::Kind::settings ? u"settings"_s : u"theme-%1"_s.arg(m_themeRevision);
+    next.identity = place.kind == Destination::Kind::settings
+                        ? u"settings"_s
+                        : u"theme-%1"_s.arg(ThemeRevision::shared().value());
     const PlaceScreen *const found = m_screens->find(place.kind);
     const ScreenRecord *const record = found && found->record ? &*found->record : nullptr;
     const bool exists = !record || record->exists(store(), place.id);
@@ -58,7 +58,7 @@ QVariantMap DetailViewModel::placeholder(const Destination &place)
 {
     const auto module = OrvelNavigation::module(place);
     if (!module)
-        return {{u"symbol"_s, u"square.dashed"_s}, {u"title"_s, tr("Nothing to show here yet")}};
+        return {{u"symbol"_s, u"questionmark.circle"_s}, {u"title"_s, tr("Nothing to show here yet")}};
     const auto blurb = moduleBlurb(*module);
     return {{u"symbol"_s, enumSymbol(*module)},
             {u"title"_s, enumLabel(*module)},

@@ -11,13 +11,11 @@ class DetailViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(ScreenTable *screens MEMBER m_screens REQUIRED FINAL)
-    /// Value of `ThemeRevision`.
-    Q_PROPERTY(int themeRevision READ themeRevision WRITE setThemeRevision NOTIFY themeRevisionChanged FINAL)
+    Q_PROPERTY(ScreenTable *screens MEMBER m_screens WRITE setScreens REQUIRED FINAL)
     /// The text of the destination that the screen shows.
     Q_PROPERTY(QString place READ place NOTIFY screenChanged FINAL)
     /// "settings" while the settings are shown, so that a change of theme leaves them standing; else "theme-"
-    /// and the revision, so that it builds every other screen anew.
+    /// and the value of `ThemeRevision`, so that it builds every other screen anew.
     Q_PROPERTY(QString identity READ identity NOTIFY screenChanged FINAL)
     /// The QML file of the screen and the values that its properties begin with.
     Q_PROPERTY(QUrl source READ source NOTIFY screenChanged FINAL)
@@ -26,8 +24,7 @@ class DetailViewModel : public ViewModel
 public:
     explicit DetailViewModel(QObject *parent = nullptr);
 
-    int themeRevision() const { return m_themeRevision; }
-    void setThemeRevision(int revision);
+    void setScreens(ScreenTable *screens);
 
     QString place() const { return m_screen.place.text(); }
     const QString &identity() const { return m_screen.identity; }
@@ -38,7 +35,6 @@ public:
     static QUrl url(const char *file);
 
 signals:
-    void themeRevisionChanged();
     /// Another screen is to be shown, or the same one built anew.
     void screenChanged();
 
@@ -60,6 +56,5 @@ private:
     QVariantMap notFound(const ScreenRecord &record) const;
 
     ScreenTable *m_screens = nullptr;
-    int m_themeRevision = 0;
     Screen m_screen;
 };

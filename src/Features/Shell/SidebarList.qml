@@ -7,7 +7,7 @@ import Orvel.DesignSystem
 import Orvel.Shell
 
 /// The scrolling part of the sidebar. Tab reaches it as a whole; within it the arrows go from row to row.
-Item {
+FocusScope {
     id: root
 
     required property NavigationViewModel navigation

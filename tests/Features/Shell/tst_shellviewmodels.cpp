@@ -1,4 +1,5 @@
 #include "App/OrvelScreens.h"
+#include "DesignSystem/OVTheme.h"
 #include "Features/Shell/DetailViewModel.h"
 #include "Features/Shell/NavigationViewModel.h"
 #include "Features/Shell/OverflowMenuViewModel.h"
@@ -184,23 +185,27 @@ void ShellViewModelsTest::themeRebuildsAllButTheSettings()
     detail.setSession(m_session.get());
     QSignalSpy rebuilt(&detail, &DetailViewModel::screenChanged);
     m_workspace->ui().select(QStringLiteral("tasks"));
-    detail.setThemeRevision(3);
     QCoreApplication::processEvents();
     QCOMPARE(rebuilt.count(), 1);
-    QCOMPARE(detail.identity(), QStringLiteral("theme-3"));
-    detail.setThemeRevision(4);
+    const QString before = detail.identity();
+    auto changeTheme = [settings = AppSettings()]() mutable {
+        settings.reducedMotion = !settings.reducedMotion;
+        OVTheme::apply(settings);
+    };
+    changeTheme();
     QCoreApplication::processEvents();
     QCOMPARE(rebuilt.count(), 2);
+    QVERIFY(detail.identity() != before);
     m_workspace->ui().select(QStringLiteral("settings"));
     QCoreApplication::processEvents();
     QCOMPARE(detail.identity(), QStringLiteral("settings"));
     QCOMPARE(rebuilt.count(), 3);
-    detail.setThemeRevision(5);
+    changeTheme();
     QCoreApplication::processEvents();
     QCOMPARE(rebuilt.count(), 3);
     m_workspace->ui().select(QStringLiteral("tasks"));
     QCoreApplication::processEvents();
-    QCOMPARE(detail.identity(), QStringLiteral("theme-5"));
+    QCOMPARE(rebuilt.count(), 4);
 }
 
 void ShellViewModelsTest::everyScreenOfTheTableExists()

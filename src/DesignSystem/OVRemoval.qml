@@ -54,7 +54,8 @@ MouseArea {
         }
         function onPointChanged() {
             const place = root.hover.point.scenePosition
-            if (place.x === root.rest.x && place.y === root.rest.y)
+            // Less than a pixel is rounding, not the user's hand.
+            if (Math.abs(place.x - root.rest.x) < 1 && Math.abs(place.y - root.rest.y) < 1)
                 return
             root.hasMoved = true
             root.settle()

@@ -3,6 +3,7 @@
 
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
+#include "SampleMonth.h"
 #include "SamplePages.h"
 #include "SampleWorkspace.h"
 #include "ScratchWorkspace.h"
@@ -360,6 +361,47 @@ QList<Picture> palettePictures()
     return pictures;
 }
 
+/// The screens of the modules, each empty, ordinary in every look, and crowded in a small window with huge
+/// text.
+QList<Picture> modulePictures()
+{
+    using Fill = void (*)(WorkspaceStore &);
+    const auto on = [](Destination::Kind place, Fill fill) {
+        return [place, fill](WorkspaceStore &store, UIState &ui) {
+            fill(store);
+            ui.setSelection(Destination::to(place));
+        };
+    };
+    const auto onProject = [](QUuid (*choose)(const WorkspaceStore &)) {
+        return [choose](WorkspaceStore &store, UIState &ui) {
+            SampleMonth::fill(store);
+            ui.selectProject(choose(store));
+        };
+    };
+    const Look smallHuge = both(light, huge);
+    QList<Picture> pictures;
+    using enum Destination::Kind;
+    for (const Destination::Kind place : {dashboard, today, focus, calendar, projects, databases, decks,
+                                          habits, insights, relax, reader, settings}) {
+        const QString name = enumRawText(place);
+        for (const auto &[lookName, look] : looks())
+            pictures.append(
+                {name + u'-' + lookName, windowPage, windowSize, on(place, SampleMonth::fill), look});
+        pictures.append({name + QStringLiteral("-empty"), windowPage, windowSize,
+                         on(place, [](WorkspaceStore &) {}), light});
+        pictures.append({name + QStringLiteral("-small-huge"), windowPage, smallSize,
+                         on(place, SampleMonth::crowd), smallHuge});
+    }
+    for (const auto &[name, look] : looks())
+        pictures.append({QStringLiteral("project-") + name, windowPage, windowSize,
+                         onProject(SampleMonth::fullProject), look});
+    pictures.append(
+        {QStringLiteral("project-bare"), windowPage, windowSize, onProject(SampleMonth::bareProject), light});
+    pictures.append({QStringLiteral("project-small-huge"), windowPage, smallSize,
+                     onProject(SampleMonth::fullProject), smallHuge});
+    return pictures;
+}
+
 void type(QWindow &window, const QString &text)
 {
     for (const QChar letter : text) {
@@ -427,7 +469,7 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture : galleryPictures() + codePictures() + notesPictures() +
+    for (const Picture &picture : galleryPictures() + codePictures() + modulePictures() + notesPictures() +
                                       onboardingPictures() + pagePictures() + palettePictures() +
                                       shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))

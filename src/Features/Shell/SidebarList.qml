@@ -38,6 +38,9 @@ FocusScope {
 
     /// Brings a row into view, with room for its focus ring.
     function reveal(row: int) {
+        // Before the list has its height, any row but the first would seem to be out of view.
+        if (list.height <= 0)
+            return
         list.positionViewAtIndex(row, ListView.Contain)
         const item = list.itemAtIndex(row)
         if (!item)
@@ -80,6 +83,8 @@ FocusScope {
     ListView {
         id: list
 
+        readonly property bool hasHeight: height > 0
+
         anchors.fill: parent
         anchors.leftMargin: Theme.space12
         anchors.rightMargin: Theme.space12
@@ -95,6 +100,7 @@ FocusScope {
         Accessible.name: qsTr("Pages and places")
         Accessible.role: Accessible.List
         T.ScrollBar.vertical: scrollBar
+        onHasHeightChanged: root.reveal(root.sidebar.currentRow)
 
         Keys.enabled: !root.sidebar.isNaming
         Keys.onPressed: event => {

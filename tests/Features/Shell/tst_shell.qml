@@ -74,6 +74,8 @@ Item {
             const item = one(text, type)
             if (item instanceof OVMenuItem)
                 tryCompare(item.menu, "opened", true)
+            if (item instanceof SidebarRow)
+                item.parent.ListView.view?.positionViewAtIndex(item.parent.index, ListView.Contain)
             mouseClick(item)
         }
 
@@ -535,8 +537,6 @@ Item {
             press("New note", OVMenuItem)
             compare(JSON.parse(Workspace.saved()).pages[0].kind, "note")
             gone("New note", OVMenuItem)
-            // The list has gone to the note.
-            all(view, item => item instanceof SidebarList)[0].list.positionViewAtBeginning()
             press("Search", SidebarRow)
             compare(Orvel.ui.isSearchPresented, true)
             one("QUICK LINKS")

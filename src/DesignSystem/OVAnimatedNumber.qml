@@ -12,6 +12,8 @@ Item {
     property alias color: reel.color
     property alias role: reel.role
     property alias font: reel.font
+    /// Without it the digits change at once.
+    property bool rolls: true
 
     readonly property string digits: "0\n1\n2\n3\n4\n5\n6\n7\n8\n9"
 
@@ -72,6 +74,7 @@ Item {
                     Accessible.ignored: true
 
                     Behavior on y {
+                        enabled: root.rolls
                         NumberAnimation { duration: Theme.durationSpring; easing.type: Easing.OutCubic }
                     }
                 }

@@ -32,6 +32,7 @@ class ThemeSizes : public ThemeType
     /// A round button that is the first thing in its card, and the mark of one day.
     Q_PROPERTY(int roundMark READ roundMark NOTIFY changed FINAL)
     Q_PROPERTY(int dayMark READ dayMark NOTIFY changed FINAL)
+    Q_PROPERTY(int timerRing READ timerRing NOTIFY changed FINAL)
     Q_PROPERTY(int buttonHeight READ buttonHeight NOTIFY changed FINAL)
     Q_PROPERTY(int fieldHeight READ fieldHeight NOTIFY changed FINAL)
     Q_PROPERTY(int iconButtonSize READ iconButtonSize NOTIFY changed FINAL)
@@ -72,6 +73,7 @@ public:
     int iconPage() const { return scaled(58); }
     int roundMark() const { return scaled(44); }
     int dayMark() const { return scaled(22); }
+    int timerRing() const { return scaled(230); }
     int buttonHeight() const { return control(34); }
     int fieldHeight() const { return control(36); }
     int iconButtonSize() const { return control(30); }

@@ -20,6 +20,7 @@ public slots:
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Assistive", &m_assistive);
         m_session.provideTo(*engine);
+        connect(&m_workspace.clock(), &Clock::ticked, m_session.focus(), &FocusTimer::check);
         const WorkspaceStore &store = m_workspace.store();
         connect(&store, &WorkspaceStore::changed, this, [&store](const ChangeSet &changes) {
             if (changes.settings)
@@ -32,7 +33,8 @@ private:
     Assistive m_assistive;
     TestComposer m_composer;
     TestWorkspace m_workspace;
-    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates()};
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates(),
+                           m_workspace.machine()};
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(orvel, Setup)

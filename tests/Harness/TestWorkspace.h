@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Harness/ManualClock.h"
+#include "Session/FocusTimer.h"
 #include "Store/HabitOperations.h"
 #include "Store/PageOperations.h"
 #include "Store/TaskOperations.h"
@@ -29,11 +30,19 @@ public:
     /// It knows no site, so it never asks one.
     UpdateService &updates() { return m_updates; }
     ManualClock &clock() { return m_clock; }
+    /// A machine that never sleeps; what it tells the user is kept in `told`.
+    Machine machine()
+    {
+        return {.uptime = [this] { return m_clock.now().time_since_epoch(); },
+                .notify = [this](const QString &, const QString &text) { m_told.append(text); }};
+    }
+    Q_INVOKABLE QStringList told() const { return m_told; }
 
     /// An empty workspace that has finished its onboarding, with the window on the dashboard.
     Q_INVOKABLE void reset()
     {
         m_clock.setNow(ManualClock().now());
+        m_told.clear();
         m_store.resetEverything(false);
         m_store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
         m_ui.setSelection(Destination());
@@ -169,6 +178,10 @@ public:
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
+    Q_INVOKABLE void advanceSeconds(double seconds)
+    {
+        m_clock.advance(std::chrono::milliseconds(qint64(seconds * 1000)));
+    }
     Q_INVOKABLE void advanceHours(double hours)
     {
         m_clock.advance(std::chrono::milliseconds(qint64(hours * 3'600'000)));
@@ -228,4 +241,5 @@ private:
     WorkspaceStore m_store;
     UIState m_ui;
     UpdateService m_updates{{}};
+    QStringList m_told;
 };

@@ -53,6 +53,7 @@ GallerySection {
                 OVProgressBar { Layout.fillWidth: true; value: 0.62; Accessible.name: "Progress" }
                 OVProgressBar { Layout.fillWidth: true; color: Theme.ovSuccess; value: 1; Accessible.name: "Done" }
                 OVProgressBar { Layout.fillWidth: true; value: 0.02; Accessible.name: "Begun" }
+                OVProgressRing { implicitWidth: 72; strokeWidth: Theme.space8; value: 0.62; Accessible.name: "Ring" }
                 Row {
                     spacing: Theme.space4
 

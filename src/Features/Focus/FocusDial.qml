@@ -1,0 +1,117 @@
+import QtQuick
+import QtQuick.Layouts
+import Orvel.DesignSystem
+import Orvel.Focus
+
+/// The card of the timer: the ring with the time that remains, the linked task, the buttons and the lengths.
+FocusScope {
+    id: root
+
+    required property FocusViewModel viewModel
+    /// Whether somebody can see it.
+    required property bool inSight
+
+    // Each look moves the ring by less than a pixel, so that it glides.
+    // Within it the ring moves by less than a pixel, so that it seems to glide.
+    readonly property int glideInterval: 500
+
+    implicitHeight: card.implicitHeight
+
+    Timer {
+        interval: root.glideInterval
+        repeat: true
+        running: root.inSight && root.viewModel.isRunning && Theme.motionEnabled
+        onTriggered: root.viewModel.glide()
+    }
+
+    OVCard {
+        id: card
+        focus: true
+        padding: Theme.space32
+        width: root.width
+
+        contentItem: ColumnLayout {
+            spacing: Theme.space24
+
+            OVProgressRing {
+                Layout.alignment: Qt.AlignHCenter
+                value: root.viewModel.progress
+                Accessible.name: qsTr("%1, %2").arg(time.text).arg(stateWord.text)
+
+                Column {
+                    anchors.centerIn: parent
+                    width: parent.width
+
+                    OVAnimatedNumber {
+                        id: time
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        font.pixelSize: Theme.sizePageTitle
+                        rolls: !root.viewModel.isRunning
+                        text: root.viewModel.timeText
+                        Accessible.ignored: true
+                    }
+
+                    OVText {
+                        id: stateWord
+                        color: Theme.ovInkSecondary
+                        horizontalAlignment: Text.AlignHCenter
+                        text: root.viewModel.stateText
+                        width: parent.width
+                        Accessible.ignored: true
+                    }
+                }
+            }
+
+            FocusLinkedTask {
+                Layout.alignment: Qt.AlignHCenter
+                Layout.maximumWidth: card.availableWidth
+                viewModel: root.viewModel
+                visible: root.viewModel.hasTask
+            }
+
+            Flow {
+                id: buttons
+                readonly property real oneLine: primary.width + reset.width + log.width + 2 * spacing
+                Layout.alignment: Qt.AlignHCenter
+                Layout.preferredWidth: Math.min(oneLine, card.availableWidth)
+                spacing: Theme.space8
+
+                OVPrimaryButton {
+                    id: primary
+                    focus: true
+                    keyText: qsTr("Space")
+                    symbol: root.viewModel.primarySymbol
+                    text: root.viewModel.primaryText
+                    onClicked: root.viewModel.toggleRunning()
+                }
+
+                OVSecondaryButton {
+                    id: reset
+                    symbol: "arrow.counterclockwise"
+                    text: qsTr("Reset")
+                    toolTip: qsTr("Key: %1").arg("R")
+                    onClicked: root.viewModel.reset()
+                }
+
+                OVSecondaryButton {
+                    id: log
+                    enabled: root.viewModel.canLog
+                    symbol: "checkmark"
+                    text: qsTr("Log session")
+                    toolTip: qsTr("Key: %1").arg("L")
+                    onClicked: {
+                        // The button can't be pressed twice, so the focus goes on.
+                        if (activeFocus)
+                            primary.forceActiveFocus(Qt.TabFocusReason)
+                        root.viewModel.logSession()
+                    }
+                }
+            }
+
+            FocusPresets {
+                Layout.alignment: Qt.AlignHCenter
+                viewModel: root.viewModel
+            }
+        }
+    }
+}

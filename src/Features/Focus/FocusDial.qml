@@ -11,7 +11,6 @@ FocusScope {
     /// Whether somebody can see it.
     required property bool inSight
 
-    // Each look moves the ring by less than a pixel, so that it glides.
     // Within it the ring moves by less than a pixel, so that it seems to glide.
     readonly property int glideInterval: 500
 

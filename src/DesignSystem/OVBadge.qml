@@ -11,16 +11,11 @@ Rectangle {
     property string text
     property string symbol
 
-    readonly property color toneColor: [Theme.ovInkSecondary, Theme.ovInfo, Theme.ovWarning, Theme.ovSuccess,
-                                        Theme.ovDanger][tone]
-    // Pure tones are too light to read on their own wash.
-    readonly property color inkColor: tone === OVBadge.Neutral ? Theme.ovInkSecondary
-                                                               : Qt.tint(toneColor, Qt.alpha(Theme.ovInk, 0.4))
+    readonly property OVToneColors colors: OVToneColors { tone: root.tone }
 
     border.color: Theme.inkMode ? Theme.ovBorderStrong : "transparent"
     border.width: Theme.inkMode ? Theme.lineWidth : 0
-    color: Theme.inkMode ? "transparent"
-         : tone === OVBadge.Neutral ? Theme.ovSubtle : Qt.alpha(toneColor, Theme.dark ? 0.16 : 0.12)
+    color: colors.fill
     implicitHeight: content.implicitHeight + 6
     implicitWidth: content.implicitWidth + Theme.space8 * 2
     radius: Theme.cornerMark
@@ -31,7 +26,7 @@ Rectangle {
         id: content
 
         anchors.centerIn: parent
-        color: root.inkColor
+        color: root.colors.ink
         iconSize: Theme.sizeCaption + 1
         symbol: root.symbol
         text: root.text

@@ -15,6 +15,7 @@ constexpr std::array table{
                              QT_TRANSLATE_NOOP("OrvelScreens", "Back to projects"), projects}},
     PlaceScreen{codeDocument, "Orvel/Code/CodeView.qml"},
     PlaceScreen{tasks, "Orvel/Tasks/TasksView.qml"},
+    PlaceScreen{calendar, "Orvel/Calendar/CalendarView.qml"},
     PlaceScreen{focus, "Orvel/Focus/FocusView.qml"},
     PlaceScreen{habits, "Orvel/Habits/HabitsView.qml"},
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},

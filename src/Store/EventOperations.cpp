@@ -2,6 +2,20 @@
 
 #include "Store/Questions.h"
 
+QUuid EventOperations::create(WorkspaceStore &store, const QString &title, Timestamp date,
+                              std::optional<qint64> timeMinutes, EventKind kind)
+{
+    const Action action(store, ActionText::tr("New Event"));
+    const CalendarEvent event{.id = store.makeId(),
+                              .title = title,
+                              .date = date,
+                              .timeMinutes = timeMinutes,
+                              .kind = kind,
+                              .createdDate = store.now()};
+    store.add(event);
+    return event.id;
+}
+
 void EventOperations::remove(WorkspaceStore &store, const QUuid &eventID)
 {
     const Action action(store, ActionText::tr("Delete Event"));

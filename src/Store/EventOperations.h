@@ -5,6 +5,9 @@
 /// What is done with the entries of the calendar.
 namespace EventOperations
 {
+/// @param timeMinutes after midnight; nothing for an all-day entry
+QUuid create(WorkspaceStore &store, const QString &title, Timestamp date, std::optional<qint64> timeMinutes,
+             EventKind kind);
 void remove(WorkspaceStore &store, const QUuid &eventID);
 
 /// The events of a calendar day, those without a time first.

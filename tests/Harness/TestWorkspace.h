@@ -2,6 +2,7 @@
 
 #include "Harness/ManualClock.h"
 #include "Session/FocusTimer.h"
+#include "Store/EventOperations.h"
 #include "Store/HabitOperations.h"
 #include "Store/PageOperations.h"
 #include "Store/TaskOperations.h"
@@ -86,6 +87,18 @@ public:
     Q_INVOKABLE void finishTask(const QString &id)
     {
         TaskOperations::setStatus(m_store, QUuid(id), TaskStatus::done);
+    }
+
+    /// @param inDays counted from today
+    /// @param minutes after midnight; negative for an all-day event
+    Q_INVOKABLE QString addEvent(const QString &title, int inDays = 0, int minutes = -1,
+                                 const QString &kind = QStringLiteral("event"))
+    {
+        const Timestamp noon =
+            toTimestamp(QDateTime(m_clock.today().addDays(inDays), {12, 0}, m_clock.timeZone()));
+        const auto time = minutes < 0 ? std::nullopt : std::optional<qint64>(minutes);
+        return EventOperations::create(m_store, title, noon, time, enumFromRaw<EventKind>(kind).value())
+            .toString(QUuid::WithoutBraces);
     }
 
     Q_INVOKABLE QString addPage(const QString &title, bool isFavorite = false,

@@ -1,0 +1,281 @@
+import QtQuick
+import QtTest
+import Orvel.Calendar
+import Orvel.Testing
+
+/// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file. It is
+/// Friday, March 13, 2026.
+Item {
+    id: root
+
+    property CalendarView view
+
+    width: 1000
+    height: 800
+
+    Component {
+        id: screen
+
+        CalendarView {
+            anchors.fill: parent
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        name: "CalendarView"
+        when: windowShown
+
+        function init() {
+            Workspace.reset()
+            Workspace.stopMotion()
+            root.height = 800
+        }
+
+        function open() {
+            root.view = createTemporaryObject(screen, root)
+            root.view.forceActiveFocus()
+            waitForRendering(root.view)
+        }
+
+        function focused() {
+            return root.Window.activeFocusItem
+        }
+
+        function focusedName() {
+            return focused()?.Accessible.name ?? ""
+        }
+
+        /// The visible item that assistive tools know by this name.
+        function find(name, from = root.view) {
+            for (let i = 0; i < from.children.length; ++i) {
+                const child = from.children[i]
+                if (!child.visible)
+                    continue
+                const found = child.Accessible.name === name ? child : find(name, child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function click(name) {
+            tryVerify(() => find(name) !== null, 2000, "shows " + name)
+            mouseClick(find(name))
+        }
+
+        function type(text) {
+            for (const character of text)
+                keyClick(character)
+        }
+
+        function saved() {
+            return JSON.parse(Workspace.saved()).events
+        }
+
+        function list() {
+            return root.view.children[0]
+        }
+
+        function test_addsByKeysAlone() {
+            open()
+            compare(focusedName(), "Friday, March 13, 2026")
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Down)
+            verify(focused().visualFocus)
+            compare(focusedName(), "Saturday, March 21, 2026")
+            keyClick(Qt.Key_Return)
+            compare(focusedName(), "Event title")
+            verify(find("Add on Mar 21"))
+            type("buy  milk")
+            keyClick(Qt.Key_Return)
+            compare(saved().length, 1)
+            compare(saved()[0].title, "buy  milk")
+            compare(saved()[0].date, "2026-03-21T12:00:00Z")
+            compare(saved()[0].kind, "event")
+            compare(saved()[0].timeMinutes, undefined)
+            compare(focusedName(), "Event title")
+            type("call")
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Space)
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Return, Qt.ControlModifier)
+            compare(saved()[1].kind, "deadline")
+            compare(saved()[1].timeMinutes, 570)
+            verify(!find("Time").checked)
+            keyClick(Qt.Key_Return)
+            compare(saved().length, 2)
+        }
+
+        function test_goesThroughTheDaysByKeys() {
+            open()
+            keyClick(Qt.Key_PageDown)
+            verify(find("April 2026"))
+            compare(focusedName(), "April 2026")
+            keyClick(Qt.Key_Up)
+            compare(focusedName(), "Monday, April 13, 2026")
+            for (let week = 0; week < 3; ++week)
+                keyClick(Qt.Key_Down)
+            verify(find("May 2026"))
+            keyClick(Qt.Key_W)
+            verify(find("Week of May 3"))
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Left)
+            verify(find("Week of Apr 26"))
+            keyClick(Qt.Key_D)
+            verify(find("Saturday, May 2, 2026"))
+            compare(focusedName(), "Nothing scheduled for this day.")
+            keyClick(Qt.Key_Right)
+            verify(find("Sunday, May 3, 2026"))
+            keyClick(Qt.Key_PageUp)
+            keyClick(Qt.Key_PageUp)
+            verify(find("Friday, May 1, 2026"))
+            keyClick(Qt.Key_Home)
+            verify(find("Friday, March 13, 2026"))
+            keyClick(Qt.Key_A)
+            compare(focusedName(), "Nothing in the next 30 days")
+            verify(find("Add an event above or give a task a due date."))
+            keyClick(Qt.Key_M)
+            compare(focusedName(), "Friday, March 13, 2026")
+        }
+
+        function test_goesThroughTheDaysByMouse() {
+            for (let i = 0; i < 5; ++i)
+                Workspace.addEvent("e" + i, 1)
+            open()
+            click("Next")
+            verify(find("April 2026"))
+            click("Today")
+            click("Previous")
+            verify(find("February 2026"))
+            click("Today")
+            // Two clicks of a test are never near enough for a double click.
+            const cell = find("Tuesday, March 24, 2026")
+            mouseClick(cell)
+            cell.doubleTapped()
+            compare(focusedName(), "Event title")
+            verify(find("Add on Mar 24"))
+            click("2 more")
+            verify(find("Saturday, March 14, 2026"))
+            tryVerify(() => find("e4, Event"))
+            click("week")
+            tryVerify(() => find("Saturday, March 14, 2026, 5 items"))
+            verify(find("Week of Mar 8"))
+        }
+
+        function test_turnsMonthsByTheWheel() {
+            open()
+            const cell = find("Tuesday, March 24, 2026")
+            mouseWheel(cell, 9, 9, 0, -120)
+            verify(find("April 2026"))
+            mouseWheel(find("Tuesday, April 14, 2026"), 9, 9, 0, 60)
+            verify(find("April 2026"))
+            mouseWheel(find("Tuesday, April 14, 2026"), 9, 9, 0, 60)
+            verify(find("March 2026"))
+            mouseWheel(cell, 9, 9, -120, 0)
+            verify(find("April 2026"))
+
+            // A window that is too low scrolls first.
+            root.height = 500
+            waitForRendering(root.view)
+            const top = list().contentY
+            mouseWheel(find("Tuesday, April 7, 2026"), 9, 9, 0, -120)
+            verify(find("April 2026"))
+            tryVerify(() => list().contentY > top)
+        }
+
+        function test_keepsTheSelectedDayInView() {
+            root.height = 500
+            open()
+            for (let week = 0; week < 2; ++week)
+                keyClick(Qt.Key_Down)
+            const cell = find("Friday, March 27, 2026", focused())
+            const bottom = cell.mapToItem(root.view, 0, cell.height).y
+            verify(bottom <= root.height, bottom)
+        }
+
+        function test_deletesAndUndoes() {
+            for (const title of ["a", "b", "c"])
+                Workspace.addEvent(title)
+            Workspace.addTask("task", "todo", "medium", 1)
+            open()
+            keyClick(Qt.Key_Space)
+            compare(focusedName(), "a, Event")
+            verify(focused().visualFocus)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Delete)
+            compare(saved().map(event => event.title).join(), "a,c")
+            compare(focusedName(), "c, Event")
+            keyClick(Qt.Key_Down)
+            compare(focusedName(), "task, Task")
+            keyClick(Qt.Key_Delete)
+            keyClick(Qt.Key_Up)
+            keyClick(Qt.Key_Delete)
+            mouseMove(find("a, Event"))
+            click("Delete: a")
+            compare(saved().length, 0)
+            compare(JSON.parse(Workspace.saved()).tasks.length, 1)
+            keyClick(Qt.Key_Right)
+            compare(focusedName(), "Nothing scheduled for this day.")
+            keyClick(Qt.Key_Left)
+            compare(focusedName(), "task, Task")
+        }
+
+        function test_deletingTheLastEventKeepsTheFocus() {
+            Workspace.addEvent("only", 0, 600)
+            open()
+            keyClick(Qt.Key_D)
+            compare(focusedName(), "10:00, only, Event")
+            keyClick(Qt.Key_Backspace)
+            compare(saved().length, 0)
+            compare(focusedName(), "Nothing scheduled for this day.")
+            keyClick(Qt.Key_Return)
+            compare(focusedName(), "Event title")
+        }
+
+        function test_agendaStopsAtItems() {
+            Workspace.addEvent("a")
+            Workspace.addEvent("b", 3)
+            open()
+            keyClick(Qt.Key_A)
+            compare(focusedName(), "a, Event")
+            keyClick(Qt.Key_Down)
+            compare(focusedName(), "b, Event")
+            keyClick(Qt.Key_Delete)
+            compare(focusedName(), "a, Event")
+        }
+
+        function test_tabOrder() {
+            Workspace.addEvent("a")
+            open()
+            const stops = []
+            for (let i = 0; i < 8; ++i) {
+                stops.push(focusedName())
+                keyClick(Qt.Key_Tab)
+            }
+            compare(stops.join("|"), "Friday, March 13, 2026, 1 item|Previous|Today|Next|month|Event title|Time|Kind")
+        }
+
+        function test_assistiveTechnology() {
+            Workspace.addEvent("a")
+            open()
+            Assistive.begin()
+            const seen = Assistive.describeAll(root.Window.window)
+            for (const what of ["Heading March 2026", "Grouping Mode", "RadioButton month checked", "PageTabList Kind",
+                                "Table Friday, March 13, 2026, 1 item", "Button Sunday, March 1, 2026"])
+                verify(seen.includes(what), what)
+            Assistive.press(find("Sunday, March 1, 2026"))
+            verify(find("Add on Mar 1"))
+        }
+
+        function test_midnight() {
+            open()
+            Workspace.advanceHours(24)
+            tryVerify(() => find("Add on Mar 14"))
+        }
+    }
+}

@@ -12,6 +12,8 @@ Item {
     property color color: Theme.ovInk
     property int iconSize: Theme.iconRow
     property int textSize: Theme.sizeDense
+    property string family: Theme.fontFamily
+    property int capitalization: Font.MixedCase
     property bool filled: false
     /// Whether the icon stands after the words.
     property bool trailing: false
@@ -44,6 +46,8 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         color: root.color
+        font.capitalization: root.capitalization
+        font.family: root.family
         font.pixelSize: root.textSize
         font.weight: Theme.textWeight + 100
         text: root.text

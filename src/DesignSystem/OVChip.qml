@@ -6,6 +6,8 @@ OVPressable {
     id: root
 
     property string symbol
+    /// Whether its words begin with a capital, whatever the text has.
+    property bool capitalized: false
 
     implicitHeight: Theme.chipHeight
     leftPadding: Theme.space12
@@ -28,6 +30,7 @@ OVPressable {
         }
     }
     contentItem: OVButtonContent {
+        capitalization: root.capitalized ? Font.Capitalize : Font.MixedCase
         color: root.checked ? Theme.ovInk : Theme.ovInkSecondary
         filled: root.checked
         iconSize: Theme.sizeBody

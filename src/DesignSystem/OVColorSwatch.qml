@@ -8,12 +8,15 @@ T.AbstractButton {
 
     required property color color
     property bool chosen: false
+    /// Whether Tab stops here. False in a group of swatches that is one stop for Tab.
+    property bool tabStop: true
     /// The ink of the check mark.
     property color markColor: Theme.onAccent
 
     implicitWidth: Theme.chipHeight
     implicitHeight: Theme.chipHeight
     padding: 4
+    focusPolicy: tabStop ? Qt.TabFocus : Qt.NoFocus
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
 

@@ -32,3 +32,11 @@ OVLook OVLook::of(const OVThemeSnapshot &snapshot)
             .accent = snapshot.accentColor,
             .cornerScale = snapshot.cornerScale};
 }
+
+QList<OVLook> OVLook::possible(const AppSettings &settings)
+{
+    QList<OVLook> looks{of(OVThemeSnapshot::resolved(settings, false))};
+    if (const OVLook other = of(OVThemeSnapshot::resolved(settings, true)); other != looks.first())
+        looks.append(other);
+    return looks;
+}

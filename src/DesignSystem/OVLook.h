@@ -35,4 +35,6 @@ public:
     bool operator==(const OVLook &) const = default;
 
     static OVLook of(const OVThemeSnapshot &snapshot);
+    /// The looks that the settings can come out as: light and dark where they follow the desktop, else one.
+    static QList<OVLook> possible(const AppSettings &settings);
 };

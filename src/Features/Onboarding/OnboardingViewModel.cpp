@@ -1,6 +1,8 @@
 #include "Features/Onboarding/OnboardingViewModel.h"
 
+#include "DesignSystem/AppearanceSymbol.h"
 #include "Store/StarterContent.h"
+#include "Support/WorkspaceIcons.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,15 +79,14 @@ QString OnboardingViewModel::primaryText() const
     return tr(steps.at(m_step).primary);
 }
 
+QStringList OnboardingViewModel::workspaceIcons()
+{
+    return ::workspaceIcons();
+}
+
 QString OnboardingViewModel::progressText() const
 {
     return tr("Step %1 of %2").arg(step() + 1).arg(stepCount());
-}
-
-QStringList OnboardingViewModel::workspaceIcons()
-{
-    return {u"🧠"_s, u"🚀"_s, u"🌱"_s, u"📚"_s, u"🎯"_s, u"🗂️"_s,
-            u"⚡️"_s, u"🧩"_s, u"🌊"_s, u"🪐"_s, u"🔮"_s, u"🏔️"_s};
 }
 
 void OnboardingViewModel::setAppearance(int appearance)
@@ -101,17 +102,11 @@ void OnboardingViewModel::setAppearance(int appearance)
 void OnboardingViewModel::refresh(const ChangeSet &)
 {
     AppSettings settings = store().settings();
-    const std::array symbols{u"circle.lefthalf.filled"_s, u"sun.max"_s, u"moon"_s};
     QList<OnboardingAppearance> appearances;
     for (const EnumCase<AppearanceMode> &entry : enumCases<AppearanceMode>()) {
         settings.appearance = entry.value;
-        // What follows the desktop can come out light or dark; the others are the same on either.
-        QList<OVLook> looks{OVLook::of(OVThemeSnapshot::resolved(settings, false))};
-        if (const OVLook other = OVLook::of(OVThemeSnapshot::resolved(settings, true));
-            other != looks.first())
-            looks.append(other);
-        appearances.append({entry.value, enumLabel(entry.value), symbols.at(std::size_t(entry.value)),
-                            std::move(looks), entry.value == m_appearance});
+        appearances.append({entry.value, enumLabel(entry.value), appearanceSymbol(entry.value),
+                            OVLook::possible(settings), entry.value == m_appearance});
     }
     m_appearances.setRows(appearances);
 }

@@ -20,6 +20,7 @@ constexpr std::array table{
     PlaceScreen{habits, "Orvel/Habits/HabitsView.qml"},
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
     PlaceScreen{code, "Orvel/Code/CodeView.qml"},
+    PlaceScreen{settings, "Orvel/Settings/SettingsView.qml"},
 };
 } // namespace
 

@@ -20,16 +20,6 @@ qint64 number(QStringView text)
     const bool isTrimmed = text.trimmed().size() == text.size();
     return isTrimmed ? text.toLongLong() : 0;
 }
-
-/// The site as a person would name it.
-QString siteName(QString origin)
-{
-    origin.remove(u"https://"_s).remove(u"http://"_s);
-    const auto isSlash = [](QChar letter) { return letter == u'/'; };
-    const auto first = std::ranges::find_if_not(origin, isSlash);
-    const auto last = std::ranges::find_if_not(origin | std::views::reverse, isSlash).base();
-    return first < last ? QString(first, last - first) : QString();
-}
 } // namespace
 
 UpdateService::UpdateService(Options options, QObject *parent)
@@ -63,6 +53,16 @@ bool UpdateService::isNewer(const QString &version, const QString &build, const 
 {
     const auto order = compare(version, thanVersion);
     return order > 0 || (order == 0 && number(build) > number(thanBuild));
+}
+
+QString UpdateService::site() const
+{
+    QString origin = m_options.origin;
+    origin.remove(u"https://"_s).remove(u"http://"_s);
+    const auto isSlash = [](QChar letter) { return letter == u'/'; };
+    const auto first = std::ranges::find_if_not(origin, isSlash);
+    const auto last = std::ranges::find_if_not(origin | std::views::reverse, isSlash).base();
+    return first < last ? QString(first, last - first) : QString();
 }
 
 QString UpdateService::progressText() const
@@ -118,7 +118,7 @@ QString UpdateService::verdict(const ManifestRequest::Result &result) const
     if (!result)
         return result.error().message;
     return *result ? tr("Orvel %1 is the latest version.").arg(m_options.version)
-                   : tr("The update check couldn't read %1.").arg(siteName(m_options.origin));
+                   : tr("The update check couldn't read %1.").arg(site());
 }
 
 bool UpdateService::isNewer(const VersionFile &file) const

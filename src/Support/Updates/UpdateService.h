@@ -20,6 +20,10 @@ class UpdateService : public QObject
     Q_PROPERTY(bool isInstalling READ isInstalling NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString failure READ failure NOTIFY phaseChanged FINAL)
     Q_PROPERTY(double installProgress READ installProgressOrZero NOTIFY installProgressChanged FINAL)
+    /// The update site as users know it; empty for none.
+    Q_PROPERTY(QString site READ site CONSTANT FINAL)
+    Q_PROPERTY(QString currentVersion READ currentVersion CONSTANT FINAL)
+    Q_PROPERTY(QString currentBuild READ currentBuild CONSTANT FINAL)
     Q_PROPERTY(QString progressText READ progressText NOTIFY installProgressChanged FINAL)
 
 public:
@@ -64,6 +68,9 @@ public:
     static bool isNewer(const QString &version, const QString &build, const QString &thanVersion,
                         const QString &thanBuild);
 
+    QString site() const;
+    const QString &currentVersion() const { return m_options.version; }
+    const QString &currentBuild() const { return m_options.build; }
     const Phase &phase() const { return m_phase; }
     const std::optional<AvailableUpdate> &available() const { return m_available; }
     /// A message for the person; empty for none.

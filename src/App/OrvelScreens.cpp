@@ -18,6 +18,7 @@ constexpr std::array table{
     PlaceScreen{calendar, "Orvel/Calendar/CalendarView.qml"},
     PlaceScreen{focus, "Orvel/Focus/FocusView.qml"},
     PlaceScreen{habits, "Orvel/Habits/HabitsView.qml"},
+    PlaceScreen{insights, "Orvel/Insights/InsightsView.qml"},
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
     PlaceScreen{code, "Orvel/Code/CodeView.qml"},
     PlaceScreen{settings, "Orvel/Settings/SettingsView.qml"},

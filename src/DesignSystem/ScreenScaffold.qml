@@ -17,6 +17,26 @@ FocusScope {
     readonly property int padding: width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding
     default property alias content: column.data
 
+    /// Scrolls so far that an item in the column is in sight, from its top on where it is higher than that.
+    function reveal(item: Item) {
+        const top = item.mapToItem(column, 0, 0).y + column.y - padding
+        const bottom = top + item.height + 2 * padding
+        const y = Math.min(top, Math.max(contentY, bottom - flickable.height))
+        contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height))
+    }
+
+    Connections {
+        enabled: root.scrolls && root.activeFocus
+        target: root.Window.window
+
+        function onActiveFocusItemChanged() {
+            for (let item = root.Window.activeFocusItem; item; item = item.parent) {
+                if (item === column)
+                    return root.reveal(root.Window.activeFocusItem)
+            }
+        }
+    }
+
     Flickable {
         id: flickable
 

@@ -33,6 +33,9 @@ class ThemeSizes : public ThemeType
     Q_PROPERTY(int roundMark READ roundMark NOTIFY changed FINAL)
     Q_PROPERTY(int dayMark READ dayMark NOTIFY changed FINAL)
     Q_PROPERTY(int timerRing READ timerRing NOTIFY changed FINAL)
+    Q_PROPERTY(int chartHeight READ chartHeight NOTIFY changed FINAL)
+    Q_PROPERTY(int chartRow READ chartRow NOTIFY changed FINAL)
+    Q_PROPERTY(int chartHint READ chartHint NOTIFY changed FINAL)
     Q_PROPERTY(int buttonHeight READ buttonHeight NOTIFY changed FINAL)
     Q_PROPERTY(int fieldHeight READ fieldHeight NOTIFY changed FINAL)
     Q_PROPERTY(int iconButtonSize READ iconButtonSize NOTIFY changed FINAL)
@@ -74,6 +77,11 @@ public:
     int roundMark() const { return scaled(44); }
     int dayMark() const { return scaled(22); }
     int timerRing() const { return scaled(230); }
+    int chartHeight() const { return scaled(190); }
+    /// A horizontal bar with its label.
+    int chartRow() const { return scaled(44); }
+    /// What stands in place of a chart without values.
+    int chartHint() const { return scaled(120); }
     int buttonHeight() const { return control(34); }
     int fieldHeight() const { return control(36); }
     int iconButtonSize() const { return control(30); }

@@ -35,6 +35,7 @@ Item {
         PickersSection { Layout.fillWidth: true }
         FloatingSection { Layout.fillWidth: true }
         DisplaySection { Layout.fillWidth: true }
+        ChartsSection { Layout.fillWidth: true }
         TypeSection { Layout.fillWidth: true }
         IconsSection { Layout.fillWidth: true }
         IntroSection { Layout.fillWidth: true }

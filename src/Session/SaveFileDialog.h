@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QObject>
-#include <QVariantMap>
+#include "Session/FilePortal.h"
 
-#include <functional>
 #include <optional>
 
 /// Asks the person where a file is to be saved, in the dialog of the desktop itself, which every desktop
@@ -24,8 +21,6 @@ public:
 
     /// @param fallbackFolder is made when it is needed
     SaveFileDialog(const QDBusConnection &bus, QString fallbackFolder, QObject *parent = nullptr);
-    /// Closes a dialog that is still open.
-    ~SaveFileDialog() override;
 
     /// @param fileName the name offered
     /// @param receiver is called once; if the dialog is asked anew before, it is not called at all
@@ -34,18 +29,9 @@ public:
     /// A path in the folder that no file has yet: "Plan.md", "Plan 2.md", ...
     static QString freePath(const QString &folder, const QString &fileName);
 
-private slots:
-    void responded(uint response, const QVariantMap &results);
-
 private:
-    void answer(const std::optional<Answer> &answer);
-    void answerWithoutAsking();
-    void listenTo(const QString &requestPath);
+    Answer freePlace(const QString &fileName) const;
 
-    QDBusConnection m_bus;
+    FilePortal m_portal;
     QString m_fallbackFolder;
-    QString m_fileName;
-    QString m_requestPath;
-    Receiver m_receiver;
-    int m_count = 0;
 };

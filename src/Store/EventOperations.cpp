@@ -16,6 +16,15 @@ QUuid EventOperations::create(WorkspaceStore &store, const QString &title, Times
     return event.id;
 }
 
+void EventOperations::addAll(WorkspaceStore &store, const QList<CalendarEvent> &events)
+{
+    const Action action(store, ActionText::tr("Import Events"));
+    action.setMessage(events.size() == 1 ? ActionText::tr("1 event added")
+                                         : ActionText::tr("%1 events added").arg(events.size()));
+    for (const CalendarEvent &event : events)
+        store.add(event);
+}
+
 void EventOperations::remove(WorkspaceStore &store, const QUuid &eventID)
 {
     const Action action(store, ActionText::tr("Delete Event"));

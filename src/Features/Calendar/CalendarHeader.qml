@@ -7,6 +7,7 @@ ScreenHeader {
     id: root
 
     required property CalendarViewModel viewModel
+    required property CalendarInterchange interchange
 
     signal stepRequested(delta: int)
     signal todayRequested()
@@ -33,6 +34,11 @@ ScreenHeader {
             symbol: "chevron.right"
             text: qsTr("Next")
             onClicked: root.stepRequested(1)
+        },
+        OVMenuIcon {
+            menu: CalendarMenu { interchange: root.interchange }
+            symbol: "ellipsis"
+            text: qsTr("More")
         }
     ]
 

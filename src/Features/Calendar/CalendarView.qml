@@ -104,6 +104,7 @@ FocusScope {
 
             CalendarHeader {
                 id: header
+                interchange: drop.interchange
                 viewModel: calendar
                 width: parent.width
                 onModeRequested: raw => root.turn(() => calendar.mode = raw)
@@ -181,5 +182,10 @@ FocusScope {
                 }
             }
         }
+    }
+
+    CalendarDrop {
+        id: drop
+        anchors.fill: parent
     }
 }

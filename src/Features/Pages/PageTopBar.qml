@@ -61,7 +61,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.space4
 
-        PageMenuIcon {
+        OVMenuIcon {
             menu: OVMenu {
                 OVMenuItem {
                     text: qsTr("Copy as Markdown")
@@ -77,7 +77,7 @@ Item {
             text: qsTr("Copy")
         }
 
-        PageMenuIcon {
+        OVMenuIcon {
             menu: PageShareMenu { share: share }
             symbol: "square.and.arrow.up"
             text: qsTr("Export page")
@@ -99,7 +99,7 @@ Item {
             onClicked: root.header.toggleFavorite()
         }
 
-        PageMenuIcon {
+        OVMenuIcon {
             menu: PageMoreMenu { header: root.header }
             symbol: "ellipsis"
             text: qsTr("More")

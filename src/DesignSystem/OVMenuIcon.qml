@@ -1,8 +1,7 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// An icon button of the top bar that opens a menu below itself, flush with its right edge. Down opens it
-/// too.
+/// An icon button that opens a menu below itself, flush with its right edge. Down opens it too.
 OVIconButton {
     id: root
 

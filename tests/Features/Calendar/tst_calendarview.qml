@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Orvel.Calendar
+import Orvel.Session
 import Orvel.Testing
 
 /// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file. It is
@@ -253,11 +254,11 @@ Item {
             Workspace.addEvent("a")
             open()
             const stops = []
-            for (let i = 0; i < 8; ++i) {
+            for (let i = 0; i < 9; ++i) {
                 stops.push(focusedName())
                 keyClick(Qt.Key_Tab)
             }
-            compare(stops.join("|"), "Friday, March 13, 2026, 1 item|Previous|Today|Next|month|Event title|Time|Kind")
+            compare(stops.join("|"), "Friday, March 13, 2026, 1 item|Previous|Today|Next|More|month|Event title|Time|Kind")
         }
 
         function test_assistiveTechnology() {
@@ -270,6 +271,32 @@ Item {
                 verify(seen.includes(what), what)
             Assistive.press(find("Sunday, March 1, 2026"))
             verify(find("Add on Mar 1"))
+        }
+
+        function overlay() {
+            return root.Window.contentItem.parent ?? root.Window.contentItem
+        }
+
+        function test_showsAFileBeforeItIsAdded() {
+            open()
+            const drop = root.view.children[1] as CalendarDrop
+            const interchange = drop.interchange
+            interchange.open([Qt.resolvedUrl("elsewhere.ics")])
+            tryVerify(() => find("New events: 110", overlay()))
+            verify(find("Single events made of these: 107", overlay()))
+            verify(find("Guests are not kept (1)", overlay()))
+            compare(saved().length, 0)
+            tryCompare(focused(), "text", "Add to calendar")
+            keyClick(Qt.Key_Return)
+            compare(saved().length, 110)
+            tryVerify(() => focusedName().startsWith("Friday, March 13"))
+            interchange.open([Qt.resolvedUrl("elsewhere.ics")])
+            tryVerify(() => find("Already in your calendar: 110", overlay()))
+            verify(find("Everything in this file is in your calendar already.", overlay()))
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !find("Already in your calendar: 110", overlay()))
+            Orvel.undo.undo()
+            compare(saved().length, 0)
         }
 
         function test_midnight() {

@@ -1,4 +1,4 @@
-#include "Features/Pages/FieldText.h"
+#include "DesignSystem/FieldText.h"
 
 #include <QTextCursor>
 #include <QTextDocument>

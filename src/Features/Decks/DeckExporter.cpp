@@ -1,9 +1,9 @@
 #include "Features/Decks/DeckExporter.h"
 
-#include "Features/Decks/DeckLayout.h"
 #include "Features/Decks/DeckOutline.h"
 #include "Features/Decks/PdfImageWriter.h"
 #include "Features/Decks/PowerPointWriter.h"
+#include "Features/Decks/ShownSlide.h"
 #include "Features/Decks/SlidePainter.h"
 
 #include <QPainter>
@@ -16,13 +16,14 @@ constexpr int pixelsPerPoint = 3;
 } // namespace
 
 std::expected<QByteArray, DeckExportError> DeckExporter::make(const Deck &deck, DeckExportFormat format,
-                                                              const QDateTime &localMoment)
+                                                              const QDateTime &localMoment,
+                                                              DeckExportProgress *progress)
 {
     if (deck.slides.isEmpty())
         return std::unexpected(DeckExportError::noSlides);
     switch (format) {
     case DeckExportFormat::pdf:
-        return pdf(deck);
+        return pdf(deck, progress);
     case DeckExportFormat::pptx:
         return PowerPointWriter::presentation(deck, localMoment);
     case DeckExportFormat::markdown:
@@ -33,14 +34,18 @@ std::expected<QByteArray, DeckExportError> DeckExporter::make(const Deck &deck, 
     return std::unexpected(DeckExportError::writeFailed);
 }
 
-std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck)
+std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck, DeckExportProgress *progress)
 {
     PdfImageWriter writer(page);
     for (int i = 0; i < deck.slides.size(); ++i) {
+        if (progress && progress->isCancelled)
+            return std::unexpected(DeckExportError::renderFailed);
         const QImage slide = picture(deck, i);
         if (slide.isNull())
             return std::unexpected(DeckExportError::renderFailed);
         writer.addPage(slide);
+        if (progress)
+            ++progress->slidesDone;
     }
     auto document = writer.finish();
     if (!document)
@@ -55,10 +60,7 @@ QImage DeckExporter::picture(const Deck &deck, int index)
         return picture;
     picture.fill(Qt::white);
     QPainter painter(&picture);
-    SlidePainter::paint(painter,
-                        DeckLayout::regions(deck.slides[index], deck.theme, index, int(deck.slides.size()),
-                                            deck.showNumbers, deck.title),
-                        deck.theme, picture.width());
+    SlidePainter::paint(painter, ShownSlide::of(deck, index).regions(), deck.theme, picture.width());
     return picture;
 }
 

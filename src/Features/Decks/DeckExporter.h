@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QImage>
 
+#include <atomic>
 #include <expected>
 
 enum class DeckExportFormat { pdf, pptx, markdown, text };
@@ -21,16 +22,24 @@ struct EnumTable<DeckExportFormat> {
     });
 };
 
-/// The front of all exports of decks.
+/// How far an export is, and the word to stop it. May be read and written while another thread exports.
+struct DeckExportProgress {
+    std::atomic<int> slidesDone = 0;
+    std::atomic<bool> isCancelled = false;
+};
+
+/// The front of all exports of decks. May be called from any thread.
 namespace DeckExporter
 {
 /// The bytes of the deck in this format.
-/// @param localMoment now, in the person's time zone
+/// @param localMoment now, in the user's time zone
+/// @param progress null if nobody wants to know; a cancelled export fails
 std::expected<QByteArray, DeckExportError> make(const Deck &deck, DeckExportFormat format,
-                                                const QDateTime &localMoment);
+                                                const QDateTime &localMoment,
+                                                DeckExportProgress *progress = nullptr);
 
 /// One page of 960 by 540 points a slide, each a picture of three pixels a point.
-std::expected<QByteArray, DeckExportError> pdf(const Deck &deck);
+std::expected<QByteArray, DeckExportError> pdf(const Deck &deck, DeckExportProgress *progress = nullptr);
 
 /// The picture of one slide as it stands in the PDF.
 QImage picture(const Deck &deck, int index);

@@ -1,5 +1,7 @@
 #include "Features/Decks/PowerPointShapes.h"
 
+#include "Features/Decks/SlideStyle.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,14 +11,6 @@ namespace
 qint64 hundredths(double units)
 {
     return std::llround(units * 75);
-}
-
-bool isColor(const QString &hex)
-{
-    return hex.size() == 6 && std::ranges::all_of(hex, [](QChar digit) {
-               return (digit >= u'0' && digit <= u'9') || (digit >= u'A' && digit <= u'F') ||
-                      (digit >= u'a' && digit <= u'f');
-           });
 }
 
 QString frameXML(const QRectF &rect)
@@ -85,7 +79,7 @@ struct RunStyle {
 
 QString runXML(const SlideRegion &region, const QString &content, const QString &color, RunStyle style)
 {
-    const qint64 spacing = hundredths(region.tracking);
+    const qint64 spacing = hundredths(SlideStyle::tracking(region.tracking));
     QString run = QStringLiteral("<a:r><a:rPr lang=\"en-US\" sz=\"%1\"").arg(hundredths(region.size));
     if (style.isBold)
         run += QStringLiteral(" b=\"1\"");
@@ -134,8 +128,7 @@ QString PowerPointShapes::alpha(double opacity)
 
 QString PowerPointShapes::colorXML(const QString &hex, const QString &children)
 {
-    const QString start =
-        QStringLiteral("<a:srgbClr val=\"") + (isColor(hex) ? hex : QStringLiteral("000000")) + u'"';
+    const QString start = QStringLiteral("<a:srgbClr val=\"") + SlideStyle::color(hex) + u'"';
     return children.isEmpty() ? start + QStringLiteral("/>")
                               : start + u'>' + children + QStringLiteral("</a:srgbClr>");
 }
@@ -166,8 +159,7 @@ QString PowerPointShapes::escaped(const QString &text)
             result += QLatin1String("&quot;");
         else if (unit == u'\'')
             result += QLatin1String("&apos;");
-        else if (unit == u'\t' || unit == u'\n' || unit == u'\r' ||
-                 (unit >= 0x20 && !character.isSurrogate() && unit < 0xfffe))
+        else if (SlideStyle::isDrawable(QStringView(text).sliced(i, 1)))
             result += character;
     }
     return result;

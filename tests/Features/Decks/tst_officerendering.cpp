@@ -81,7 +81,7 @@ private slots:
             double farthest = 0;
             for (const SlideRegion &region : DeckLayout::regions(
                      deck.slides[i], deck.theme, i, int(pages.size()), deck.showNumbers, deck.title)) {
-                for (const SlidePainter::PlacedLine &line : SlidePainter::placedLines(region)) {
+                for (const SlideText::PlacedLine &line : SlidePainter::placedLines(region)) {
                     const QString first = line.text.split(u' ', Qt::SkipEmptyParts).value(0);
                     double nearest = first.isEmpty() ? 0 : 1e6;
                     for (const Word &word : pages[i]) {

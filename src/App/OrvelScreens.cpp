@@ -14,6 +14,8 @@ constexpr std::array table{
                              QT_TRANSLATE_NOOP("OrvelScreens", "Project not found"),
                              QT_TRANSLATE_NOOP("OrvelScreens", "Back to projects"), projects}},
     PlaceScreen{codeDocument, "Orvel/Code/CodeView.qml"},
+    PlaceScreen{deck, "Orvel/Decks/DecksView.qml"},
+    PlaceScreen{decks, "Orvel/Decks/DecksView.qml"},
     PlaceScreen{tasks, "Orvel/Tasks/TasksView.qml"},
     PlaceScreen{calendar, "Orvel/Calendar/CalendarView.qml"},
     PlaceScreen{focus, "Orvel/Focus/FocusView.qml"},

@@ -11,9 +11,11 @@ void UIState::set(T &member, const T &value, void (UIState::*changed)())
 
 void UIState::setSelection(const Destination &selection)
 {
-    // Who goes to the same place again may have opened another document in it meanwhile.
+    // Who goes to the same place again may have opened another document or deck in it meanwhile.
     if (selection.kind == Destination::Kind::codeDocument)
         setCodeDocumentID(selection.id);
+    else if (selection.kind == Destination::Kind::deck)
+        setDeckID(selection.id);
     set(m_selection, selection, &UIState::selectionChanged);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Harness/ManualClock.h"
 #include "Session/FocusTimer.h"
+#include "Store/DeckOperations.h"
 #include "Store/EventOperations.h"
 #include "Store/HabitOperations.h"
 #include "Store/PageOperations.h"
@@ -47,6 +48,7 @@ public:
         m_store.resetEverything(false);
         m_store.changeSettings([](AppSettings &settings) { settings.hasCompletedOnboarding = true; });
         m_ui.setSelection(Destination());
+        m_ui.setPresentingDeckID(QUuid());
         m_ui.setSearchPresented(false);
         m_ui.setShortcutsPresented(false);
         m_ui.setSidebarVisible(true);
@@ -163,6 +165,35 @@ public:
         document.createdDate = document.updatedDate = m_clock.now();
         m_store.add(document);
         return document.id.toString(QUuid::WithoutBraces);
+    }
+
+    /// A deck of these slides, each an object of the texts that it has and the raw text of its kind.
+    Q_INVOKABLE QString addDeck(const QString &title, const QVariantList &slides)
+    {
+        m_clock.advance(std::chrono::minutes(1));
+        const QUuid id = DeckOperations::create(m_store, SlideTheme::inkTheme());
+        m_store.change<Deck>(id, [&](Deck &deck) {
+            deck.title = title;
+            deck.slides.clear();
+            for (const QVariant &fields : slides) {
+                const QVariantMap values = fields.toMap();
+                const auto text = [&values](const char *field) {
+                    return values.value(QString::fromLatin1(field)).toString();
+                };
+                deck.slides.append({QUuid::createUuid(),
+                                    enumFromRaw<SlideKind>(text("kind")).value_or(SlideKind::title),
+                                    text("kicker"), text("title"), text("subtitle"), text("body"),
+                                    text("bodyB"), text("notes")});
+            }
+        });
+        return id.toString(QUuid::WithoutBraces);
+    }
+
+    /// The title of the deck that is presented; empty for none.
+    Q_INVOKABLE QString presentedDeck() const
+    {
+        const Deck *const deck = m_store.list<Deck>().first(m_ui.presentingDeckID());
+        return deck ? deck->title : QString();
     }
 
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }

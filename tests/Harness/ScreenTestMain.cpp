@@ -1,6 +1,7 @@
 #include "DesignSystem/OVTheme.h"
 #include "Harness/Assistive.h"
 #include "Harness/TestComposer.h"
+#include "Harness/TestDrop.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
 
@@ -19,6 +20,7 @@ public slots:
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Workspace", &m_workspace);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Assistive", &m_assistive);
+        qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Drop", &m_drop);
         m_session.provideTo(*engine);
         connect(&m_workspace.clock(), &Clock::ticked, m_session.focus(), &FocusTimer::check);
         const WorkspaceStore &store = m_workspace.store();
@@ -32,6 +34,7 @@ public slots:
 private:
     Assistive m_assistive;
     TestComposer m_composer;
+    TestDrop m_drop;
     TestWorkspace m_workspace;
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), &m_workspace.updates(),
                            m_workspace.machine()};

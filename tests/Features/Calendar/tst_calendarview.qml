@@ -279,9 +279,9 @@ Item {
 
         function test_showsAFileBeforeItIsAdded() {
             open()
-            const drop = root.view.children[1] as CalendarDrop
-            const interchange = drop.interchange
-            interchange.open([Qt.resolvedUrl("elsewhere.ics")])
+            Drop.enter(root.Window.window, Qt.point(300, 300), [Qt.resolvedUrl("elsewhere.ics")])
+            tryVerify(() => find("Drop a calendar file to import its events"))
+            Drop.drop(root.Window.window, Qt.point(300, 300))
             tryVerify(() => find("New events: 110", overlay()))
             verify(find("Single events made of these: 107", overlay()))
             verify(find("Guests are not kept (1)", overlay()))
@@ -290,7 +290,9 @@ Item {
             keyClick(Qt.Key_Return)
             compare(saved().length, 110)
             tryVerify(() => focusedName().startsWith("Friday, March 13"))
-            interchange.open([Qt.resolvedUrl("elsewhere.ics")])
+            verify(!find("Drop a calendar file to import its events"))
+            Drop.enter(root.Window.window, Qt.point(300, 300), [Qt.resolvedUrl("elsewhere.ics")])
+            Drop.drop(root.Window.window, Qt.point(300, 300))
             tryVerify(() => find("Already in your calendar: 110", overlay()))
             verify(find("Everything in this file is in your calendar already.", overlay()))
             keyClick(Qt.Key_Escape)

@@ -4,7 +4,8 @@ import QtQuick.Templates as T
 import Orvel.DesignSystem
 
 /// The frame of a screen: its content in one centred column, padded, scrolling where it is too long.
-/// Children lie in a `ColumnLayout`.
+/// Children lie in a `ColumnLayout`. What gets the focus is scrolled into view, and keys that it makes no use of
+/// scroll.
 FocusScope {
     id: root
 
@@ -23,6 +24,20 @@ FocusScope {
         const bottom = top + item.height + 2 * padding
         const y = Math.min(top, Math.max(contentY, bottom - flickable.height))
         contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height))
+    }
+
+    Keys.onPressed: event => {
+        const steps = {
+            [Qt.Key_Up]: -Theme.space48,
+            [Qt.Key_Down]: Theme.space48,
+            [Qt.Key_PageUp]: -flickable.height,
+            [Qt.Key_PageDown]: flickable.height,
+            [Qt.Key_Home]: -flickable.contentHeight,
+            [Qt.Key_End]: flickable.contentHeight
+        }
+        event.accepted = event.modifiers === Qt.NoModifier && event.key in steps && flickable.interactive
+        if (event.accepted)
+            contentY = Math.max(0, Math.min(contentY + steps[event.key], flickable.contentHeight - flickable.height))
     }
 
     Connections {

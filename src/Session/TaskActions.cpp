@@ -8,9 +8,22 @@ TaskActions *TaskActions::create(QQmlEngine *engine, QJSEngine *script)
     return new TaskActions(OrvelSession::create(engine, script));
 }
 
+bool TaskActions::add(const QString &title)
+{
+    if (isBlank(title))
+        return false;
+    TaskOperations::create(store(), LineText::singleLine(title.trimmed()));
+    return true;
+}
+
 void TaskActions::rename(const QUuid &taskID, const QString &title)
 {
     TaskOperations::rename(store(), taskID, LineText::singleLine(title));
+}
+
+void TaskActions::toggleDone(const QUuid &taskID)
+{
+    TaskOperations::toggleDone(store(), taskID);
 }
 
 void TaskActions::cycleStatus(const QUuid &taskID)

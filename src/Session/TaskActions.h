@@ -27,8 +27,14 @@ public:
     static QList<Choice> statuses() { return Choice::all<TaskStatus>(); }
     static QList<Choice> priorities() { return Choice::all<TaskPriority>(); }
 
+    /// Whether no task can be made of the title.
+    Q_INVOKABLE static bool isBlank(const QString &title) { return title.trimmed().isEmpty(); }
+    /// Adds a task with this title, trimmed and on one line; false if it is blank.
+    Q_INVOKABLE bool add(const QString &title);
     /// Takes the title as it is typed, on one line.
     Q_INVOKABLE void rename(const QUuid &taskID, const QString &title);
+    /// To done, or from there to do.
+    Q_INVOKABLE void toggleDone(const QUuid &taskID);
     Q_INVOKABLE void cycleStatus(const QUuid &taskID);
     Q_INVOKABLE void setStatus(const QUuid &taskID, const QString &status);
     Q_INVOKABLE void cyclePriority(const QUuid &taskID);

@@ -1,5 +1,7 @@
 #include "Store/PageOperations.h"
 
+#include "Foundation/Graphemes.h"
+#include "Foundation/LineText.h"
 #include "Store/Questions.h"
 
 namespace
@@ -33,6 +35,21 @@ QUuid PageOperations::create(WorkspaceStore &store, PageKind kind)
     page.sortOrder = secondsSince1970(page.createdDate);
     store.add(page);
     return page.id;
+}
+
+std::optional<QUuid> PageOperations::createNote(WorkspaceStore &store, const QString &text)
+{
+    static constexpr qsizetype titleLength = 60;
+    const QString trimmed = LineText::withLineFeeds(text).trimmed();
+    if (trimmed.isEmpty())
+        return std::nullopt;
+    const Action action(store, ActionText::tr("New Note"));
+    const QUuid id = create(store, PageKind::note);
+    store.change<Page>(id, [&](Page &note) {
+        note.title = Graphemes::left(trimmed.section(u'\n', 0, 0), titleLength).trimmed();
+        note.content.first().text = trimmed;
+    });
+    return id;
 }
 
 void PageOperations::rename(WorkspaceStore &store, const QUuid &pageID, const QString &title)
@@ -104,6 +121,16 @@ PageOperations::Pages PageOperations::notes(const WorkspaceStore &store)
 {
     return Questions::newestFirst(
         Questions::where(store.pages(), [](const Page &page) { return !isPage(page); }), &Page::updatedDate);
+}
+
+PageOperations::Pages PageOperations::recent(const WorkspaceStore &store)
+{
+    return Questions::newestFirst(Questions::where(store.pages(), isPage), &Page::updatedDate);
+}
+
+PageOperations::Pages PageOperations::recentFavorites(const WorkspaceStore &store)
+{
+    return Questions::newestFirst(Questions::where(store.pages(), &Page::isFavorite), &Page::updatedDate);
 }
 
 PageOperations::Pages PageOperations::pinned(const WorkspaceStore &store)

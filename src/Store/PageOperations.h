@@ -6,6 +6,8 @@
 namespace PageOperations
 {
 QUuid create(WorkspaceStore &store, PageKind kind);
+/// A note of the text, titled by its first line; nothing for a blank text. Returns its id.
+std::optional<QUuid> createNote(WorkspaceStore &store, const QString &text);
 /// Takes what was typed over, key by key or at once.
 void rename(WorkspaceStore &store, const QUuid &pageID, const QString &title);
 void setIcon(WorkspaceStore &store, const QUuid &pageID, const QString &icon);
@@ -21,6 +23,10 @@ using Pages = QList<const Page *>;
 
 /// The notes, those changed last first.
 Pages notes(const WorkspaceStore &store);
+/// The pages that are no notes, those changed last first.
+Pages recent(const WorkspaceStore &store);
+/// The favorites of both kinds, those changed last first.
+Pages recentFavorites(const WorkspaceStore &store);
 /// The favorites of both kinds, in their order.
 Pages pinned(const WorkspaceStore &store);
 /// The pages in no folder, in their order.

@@ -21,6 +21,22 @@ QUuid addProject(WorkspaceStore &store, Project project, const QString &activity
     return project.id;
 }
 
+/// What was typed into a field of the project.
+void type(WorkspaceStore &store, const QUuid &projectID, QString Project::*field, const QString &fieldName,
+          const QString &text, const QString &actionName)
+{
+    const Project *const project = store.projects().first(projectID);
+    if (!project || project->*field == text)
+        return;
+    const Action action(
+        store,
+        Typing{.text = {projectID, fieldName}, .before = project->*field, .after = text, .name = actionName});
+    store.change<Project>(projectID, [&](Project &changed) {
+        changed.*field = text;
+        changed.updatedDate = store.now();
+    });
+}
+
 /// An edit that finds nothing to change leaves the project as it is, its date included.
 void changeMilestones(WorkspaceStore &store, const QUuid &projectID,
                       const std::function<void(QList<Milestone> &)> &edit)
@@ -70,6 +86,37 @@ std::optional<QUuid> ProjectOperations::createFrom(WorkspaceStore &store, const 
                        .status = original->status,
                        .milestones = original->milestones},
                       QStringLiteral("Created from a template"));
+}
+
+void ProjectOperations::rename(WorkspaceStore &store, const QUuid &projectID, const QString &name)
+{
+    type(store, projectID, &Project::name, QStringLiteral("name"), name, ActionText::tr("Rename Project"));
+}
+
+void ProjectOperations::setDetails(WorkspaceStore &store, const QUuid &projectID, const QString &details)
+{
+    type(store, projectID, &Project::details, QStringLiteral("details"), details,
+         ActionText::tr("Change Description"));
+}
+
+void ProjectOperations::setDue(WorkspaceStore &store, const QUuid &projectID,
+                               std::optional<Timestamp> dueDate)
+{
+    const Action action(store,
+                        dueDate ? ActionText::tr("Change Due Date") : ActionText::tr("Clear Due Date"));
+    store.change<Project>(projectID, [&](Project &project) {
+        project.dueDate = dueDate;
+        project.updatedDate = store.now();
+    });
+}
+
+void ProjectOperations::toggleTemplate(WorkspaceStore &store, const QUuid &projectID)
+{
+    const Action action(store, ActionText::tr("Change Template"));
+    store.change<Project>(projectID, [&](Project &project) {
+        project.isTemplate = !project.isTemplate;
+        project.updatedDate = store.now();
+    });
 }
 
 void ProjectOperations::setStatus(WorkspaceStore &store, const QUuid &projectID, ProjectStatus status)
@@ -153,6 +200,26 @@ void ProjectOperations::remove(WorkspaceStore &store, const QUuid &projectID)
         activityIDs.insert(activity->id);
     store.erase<Activity>(activityIDs);
     store.erase<Project>(projectID);
+}
+
+QHash<QUuid, ProjectProgress> ProjectOperations::progress(const WorkspaceStore &store)
+{
+    QHash<QUuid, QList<TaskItem>> tasks;
+    for (const TaskItem &task : store.tasks())
+        if (task.projectID)
+            tasks[*task.projectID].append(task);
+    QHash<QUuid, ProjectProgress> progress;
+    for (const auto &[projectID, ofProject] : tasks.asKeyValueRange())
+        progress.insert(projectID, ProjectProgress(ofProject));
+    return progress;
+}
+
+ProjectProgress ProjectOperations::progress(const WorkspaceStore &store, const QUuid &projectID)
+{
+    QList<TaskItem> tasks;
+    for (const TaskItem *const task : TaskOperations::ofProject(store, projectID))
+        tasks.append(*task);
+    return ProjectProgress(tasks);
 }
 
 QList<const Activity *> ProjectOperations::activities(const WorkspaceStore &store, const QUuid &projectID)

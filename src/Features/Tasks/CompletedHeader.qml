@@ -1,19 +1,20 @@
 import QtQuick
 import Orvel.DesignSystem
-import Orvel.Tasks
 
 /// The row over the completed tasks, which folds and unfolds them.
 ScreenListRow {
     id: row
 
     required property int count
-    required property TasksViewModel viewModel
+    required property bool showDone
+
+    signal toggled()
 
     rowHeight: Theme.space16 + Theme.rowHeight + Theme.space4
 
     Accessible.focusable: true
     Accessible.checkable: true
-    Accessible.checked: viewModel.showDone
+    Accessible.checked: showDone
     Accessible.name: qsTr("Completed, %1").arg(count)
     Accessible.role: Accessible.CheckBox
     Accessible.onPressAction: button.activate()
@@ -40,14 +41,14 @@ ScreenListRow {
         width: parent.width
         y: Theme.space16
         Accessible.ignored: true
-        onClicked: row.viewModel.showDone = !row.viewModel.showDone
+        onClicked: row.toggled()
 
         contentItem: Row {
             spacing: Theme.space8
 
             OVIcon {
                 anchors.verticalCenter: parent.verticalCenter
-                rotation: row.viewModel.showDone ? 0 : -90
+                rotation: row.showDone ? 0 : -90
                 size: Theme.sizeCaption + 2
                 symbol: "chevron.down"
 

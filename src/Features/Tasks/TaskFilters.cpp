@@ -2,6 +2,15 @@
 
 #include <algorithm>
 
+namespace
+{
+void putOpenFirst(QList<const TaskItem *> &tasks)
+{
+    std::ranges::stable_partition(tasks,
+                                  [](const TaskItem *task) { return task->status != TaskStatus::done; });
+}
+} // namespace
+
 bool TaskFilters::takes(TaskFilter filter, const TaskItem &task, const TaskDay &day)
 {
     const bool isOpen = task.status != TaskStatus::done;
@@ -25,9 +34,18 @@ QList<const TaskItem *> TaskFilters::filteredOpen(const QList<TaskItem> &tasks, 
     for (const TaskItem &task : tasks)
         if (takes(filter, task, day))
             shown.append(&task);
-    std::ranges::stable_partition(shown,
-                                  [](const TaskItem *task) { return task->status != TaskStatus::done; });
+    putOpenFirst(shown);
     return shown;
+}
+
+QList<const TaskItem *> TaskFilters::todayTasks(const QList<TaskItem> &tasks, const TaskDay &day)
+{
+    QList<const TaskItem *> due;
+    for (const TaskItem &task : tasks)
+        if (task.dueDate && day.isToday(*task.dueDate))
+            due.append(&task);
+    putOpenFirst(due);
+    return due;
 }
 
 bool TaskFilters::isOverdue(const TaskItem &task, const TaskDay &day)

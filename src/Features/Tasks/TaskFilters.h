@@ -28,6 +28,9 @@ bool takes(TaskFilter filter, const TaskItem &task, const TaskDay &day);
 /// open ones.
 QList<const TaskItem *> filteredOpen(const QList<TaskItem> &tasks, TaskFilter filter, const TaskDay &day);
 
+/// All tasks that are due today, the open ones before the done ones.
+QList<const TaskItem *> todayTasks(const QList<TaskItem> &tasks, const TaskDay &day);
+
 /// Whether the task should have been done on a day before today; a done task never is overdue.
 bool isOverdue(const TaskItem &task, const TaskDay &day);
 } // namespace TaskFilters

@@ -19,6 +19,8 @@ ScreenListRow {
     required property var priority
     required property bool isFirst
     required property bool isLast
+    /// Whether the status goes straight to done and back, rather than round all statuses.
+    property bool togglesDone: false
 
     readonly property bool editing: titleItem.editing
     readonly property bool actionsShown: hovered || activeFocus || (contextMenu.openMenu?.visible ?? false)
@@ -34,11 +36,18 @@ ScreenListRow {
         TaskActions.remove(taskID)
     }
 
+    function changeStatus() {
+        if (togglesDone)
+            TaskActions.toggleDone(taskID)
+        else
+            TaskActions.cycleStatus(taskID)
+    }
+
     /// Does what the key stands for; false for any other key.
     function act(key: int): bool {
         switch (key) {
         case Qt.Key_Space:
-            TaskActions.cycleStatus(taskID)
+            changeStatus()
             return true
         case Qt.Key_Return:
         case Qt.Key_Enter:
@@ -64,7 +73,7 @@ ScreenListRow {
     Accessible.focusable: true
     Accessible.role: Accessible.ListItem
     Accessible.onPressAction: titleItem.edit()
-    Accessible.onToggleAction: TaskActions.cycleStatus(taskID)
+    Accessible.onToggleAction: changeStatus()
 
     onFocusChanged: {
         if (!focus)
@@ -127,7 +136,7 @@ ScreenListRow {
         width: height
         x: Theme.space12
         Accessible.name: qsTr("Status: %1, %2").arg(row.status.label).arg(row.title)
-        onClicked: TaskActions.cycleStatus(row.taskID)
+        onClicked: row.changeStatus()
 
         contentItem: Item {
             TaskStatusMark {

@@ -2,16 +2,6 @@
 
 namespace
 {
-void append(QList<TaskRow> &rows, const QList<const TaskItem *> &tasks, const TaskDay &day)
-{
-    for (const TaskItem *task : tasks) {
-        TaskRow row = TaskRow::ofTask(*task, day);
-        row.isFirst = task == tasks.first();
-        row.isLast = task == tasks.last();
-        rows.append(std::move(row));
-    }
-}
-
 QList<const TaskItem *> doneTasks(const QList<TaskItem> &tasks)
 {
     QList<const TaskItem *> done;
@@ -22,13 +12,23 @@ QList<const TaskItem *> doneTasks(const QList<TaskItem> &tasks)
 }
 } // namespace
 
+void TaskRows::appendRun(QList<TaskRow> &rows, const QList<const TaskItem *> &tasks, const TaskDay &day)
+{
+    for (const TaskItem *task : tasks) {
+        TaskRow row = TaskRow::ofTask(*task, day);
+        row.isFirst = task == tasks.first();
+        row.isLast = task == tasks.last();
+        rows.append(std::move(row));
+    }
+}
+
 TaskRows::List TaskRows::build(const QList<TaskItem> &tasks, TaskFilter filter, bool showDone,
                                const TaskDay &day)
 {
     List list;
     const auto shown = TaskFilters::filteredOpen(tasks, filter, day);
     list.filtered = shown.size();
-    append(list.rows, shown, day);
+    appendRun(list.rows, shown, day);
     if (filter == TaskFilter::all)
         return list;
     const auto done = doneTasks(tasks);
@@ -36,7 +36,7 @@ TaskRows::List TaskRows::build(const QList<TaskItem> &tasks, TaskFilter filter, 
         return list;
     list.rows.append(TaskRow::completedHeader(done.size()));
     if (showDone)
-        append(list.rows, done, day);
+        appendRun(list.rows, done, day);
     return list;
 }
 

@@ -16,6 +16,9 @@ struct List {
 /// folded away unless `showDone`.
 List build(const QList<TaskItem> &tasks, TaskFilter filter, bool showDone, const TaskDay &day);
 
+/// Appends rows of these tasks, which stand together as one run.
+void appendRun(QList<TaskRow> &rows, const QList<const TaskItem *> &tasks, const TaskDay &day);
+
 /// The row with what the task has become; nothing if the task no longer stands where the row does.
 std::optional<TaskRow> updated(const TaskRow &row, const TaskItem &task, TaskFilter filter,
                                const TaskDay &day);

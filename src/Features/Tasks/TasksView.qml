@@ -38,7 +38,10 @@ FocusScope {
             DelegateChoice {
                 roleValue: "completedHeader"
 
-                delegate: CompletedHeader { viewModel: tasks }
+                delegate: CompletedHeader {
+                    showDone: tasks.showDone
+                    onToggled: tasks.showDone = !tasks.showDone
+                }
             }
 
             DelegateChoice {

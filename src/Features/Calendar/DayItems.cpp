@@ -30,7 +30,9 @@ QString itemID(QChar kind, const QUuid &record)
     return kind + record.toString(QUuid::WithoutBraces).toUpper();
 }
 
-DayItem itemOf(const CalendarEvent &event)
+} // namespace
+
+DayItem DayItem::of(const CalendarEvent &event)
 {
     return {.id = itemID(u'e', event.id),
             .title = event.title,
@@ -40,7 +42,6 @@ DayItem itemOf(const CalendarEvent &event)
             .eventID = event.id,
             .notes = event.notes};
 }
-} // namespace
 
 DayItems::DayItems(const WorkspaceStore &store, const QList<QDate> &days) : m_store(store)
 {
@@ -62,7 +63,7 @@ QList<DayItem> DayItems::on(QDate day) const
 {
     QList<DayItem> items;
     for (const CalendarEvent *event : EventOperations::onDay(m_store, day))
-        items.append(itemOf(*event));
+        items.append(DayItem::of(*event));
     for (const TaskItem *task : m_tasks.value(day))
         items.append({.id = itemID(u't', task->id),
                       .title = task->title,

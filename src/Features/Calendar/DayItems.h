@@ -18,6 +18,8 @@ struct DayItem {
     QString notes = {};
 
     bool operator==(const DayItem &) const = default;
+
+    static DayItem of(const CalendarEvent &event);
 };
 
 /// What stands on the days of a period: its events, found by the store's index, and the tasks that are due on

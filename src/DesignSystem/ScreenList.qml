@@ -41,6 +41,18 @@ ListView {
         (headerItem as ScreenViewHeader).exitBackwards()
     }
 
+    /// Gives the focus to the first stop below the rows; false if there is none.
+    function exitForwards(): bool {
+        const next = footerItem?.nextItemInFocusChain(true) ?? null
+        for (let around = next?.parent; around; around = around.parent) {
+            if (around !== footerItem)
+                continue
+            next.forceActiveFocus(Qt.TabFocusReason)
+            return true
+        }
+        return false
+    }
+
     boundsBehavior: Flickable.StopAtBounds
     cacheBuffer: 200
     currentIndex: -1

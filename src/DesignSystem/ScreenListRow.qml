@@ -45,6 +45,7 @@ FocusScope {
     }
 
     Keys.onBacktabPressed: event => event.accepted = leaveBackwards()
+    Keys.onTabPressed: event => event.accepted = list.exitForwards()
 
     OVAppear {
         id: appear

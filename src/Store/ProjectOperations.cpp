@@ -190,6 +190,8 @@ void ProjectOperations::remove(WorkspaceStore &store, const QUuid &projectID)
     QList<QUuid> taskIDs;
     for (const TaskItem *const task : TaskOperations::ofProject(store, projectID))
         taskIDs.append(task->id);
+    // First, since a step shows the record that it changed first.
+    store.erase<Project>(projectID);
     for (const QUuid &taskID : std::as_const(taskIDs))
         store.change<TaskItem>(taskID, [&](TaskItem &task) {
             task.projectID.reset();
@@ -199,7 +201,6 @@ void ProjectOperations::remove(WorkspaceStore &store, const QUuid &projectID)
     for (const Activity *const activity : activities(store, projectID))
         activityIDs.insert(activity->id);
     store.erase<Activity>(activityIDs);
-    store.erase<Project>(projectID);
 }
 
 QHash<QUuid, ProjectProgress> ProjectOperations::progress(const WorkspaceStore &store)

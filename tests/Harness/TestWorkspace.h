@@ -6,6 +6,7 @@
 #include "Store/EventOperations.h"
 #include "Store/HabitOperations.h"
 #include "Store/PageOperations.h"
+#include "Store/ProjectOperations.h"
 #include "Store/TaskOperations.h"
 #include "Store/WorkspaceStore.h"
 #include "Support/UIState.h"
@@ -194,6 +195,11 @@ public:
     {
         const Deck *const deck = m_store.list<Deck>().first(m_ui.presentingDeckID());
         return deck ? deck->title : QString();
+    }
+
+    Q_INVOKABLE QString addProject(const QString &name)
+    {
+        return ProjectOperations::createBlank(m_store, name).value().toString(QUuid::WithoutBraces);
     }
 
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }

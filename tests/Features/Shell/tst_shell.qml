@@ -6,6 +6,7 @@ import Orvel.Pages
 import Orvel.Session
 import Orvel.Shell
 import Orvel.Testing
+import Orvel.Today
 
 Item {
     id: window
@@ -97,7 +98,7 @@ Item {
             one("Plan", PageEditorView)
             keyClick(Qt.Key_Delete)
             compare(Orvel.ui.selection.text, "dashboard")
-            one("Dashboard", PlaceNotice)
+            one("Dashboard", OVPageHeader)
             gone("Plan")
             compare(pages(), [])
         }
@@ -168,17 +169,22 @@ Item {
             compare(Orvel.ui.selection.text, "dashboard")
         }
 
+        function folderField() {
+            const isField = item => item instanceof OVTextField && item.placeholderText === "Folder name"
+            tryVerify(() => all(view, isField).length === 1)
+            return all(view, isField)[0]
+        }
+
         function test_namesFolders() {
             Workspace.hideModule("reader")
             start()
             press("New folder", SidebarRow)
-            compare(one("", OVTextField).placeholderText, "Folder name")
-            tryCompare(one("", OVTextField), "activeFocus", true)
+            tryCompare(folderField(), "activeFocus", true)
             typeText("  ")
             keyClick(Qt.Key_Return)
             one("New folder", SidebarRow)
             press("New folder", SidebarRow)
-            tryCompare(one("", OVTextField), "activeFocus", true)
+            tryCompare(folderField(), "activeFocus", true)
             typeText("Travel ")
             keyClick(Qt.Key_Return)
             press("Travel", SidebarRow)
@@ -491,7 +497,8 @@ Item {
             Workspace.setNavigation(data.tag)
             start()
             press("Today")
-            one("Today", PlaceNotice)
+            const host = all(view, item => item instanceof DetailHost)[0]
+            tryVerify(() => host.currentItem instanceof TodayView)
             // A hidden module has no button, but a key may still lead there.
             Workspace.hideModule("relax")
             Orvel.ui.select("relax")

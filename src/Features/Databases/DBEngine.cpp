@@ -166,7 +166,7 @@ QList<DBGroup> DBEngine::groupRows(const Rows &rows, const DBProperty *property)
     QHash<QString, qsizetype> indexOf;
     for (const DBRow *row : rows) {
         const QString value = row->values.value(valueKey);
-        const QString key = DBValue::isEmpty(value) ? noValue : value;
+        const QString key = DBValue::isEmpty(value) ? noValue : composed(value);
         auto index = indexOf.constFind(key);
         if (index == indexOf.cend()) {
             index = indexOf.insert(key, groups.size());
@@ -176,11 +176,14 @@ QList<DBGroup> DBEngine::groupRows(const Rows &rows, const DBProperty *property)
     }
     if (property->options.isEmpty())
         return groups;
+    QHash<QString, qsizetype> positionOf;
+    for (const QString &option : property->options)
+        if (!positionOf.contains(composed(option)))
+            positionOf.insert(composed(option), positionOf.size());
     const auto position = [&](const DBGroup &group) {
         if (group.id == noValue)
             return property->options.size() + 1;
-        const qsizetype option = property->options.indexOf(group.id);
-        return option < 0 ? property->options.size() : option;
+        return positionOf.value(group.id, property->options.size());
     };
     std::ranges::stable_sort(groups, std::less(), position);
     return groups;
@@ -202,7 +205,7 @@ std::optional<DBEngine::OrderingValue> DBEngine::comparable(const QString &text,
     case DBPropertyType::date:
         if (const auto day = DBValue::date(text))
             return OVDate::startOfDay(*day, zone);
-        return parseIsoTimestamp(std::string_view(text.toUtf8()));
+        return DBValue::moment(text);
     default:
         return text;
     }

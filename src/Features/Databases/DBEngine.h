@@ -30,7 +30,8 @@ Rows applyView(const Rows &rows, const QList<DBProperty> &properties, const DBVi
                const QTimeZone &zone, const QLocale &locale = QLocale());
 
 /// The rows by their value of the property: options in their order, then other values as they come, "No
-/// value" last. Without a property all rows make one group.
+/// value" last. Composed and decomposed forms of a text are one value. Without a property all rows make one
+/// group.
 QList<DBGroup> groupRows(const Rows &rows, const DBProperty *property);
 
 /// One filter on one row; a filter on no property lets every row through.

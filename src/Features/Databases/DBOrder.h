@@ -16,8 +16,9 @@ public:
     /// Whether `a` comes first. Values that are equal in this order come first in neither direction.
     bool comesFirst(const QString &a, const QString &b, bool descending) const;
 
-    /// The place of each value among them all, ascending from 0; equal values share theirs. It costs one
-    /// parse and one collation key for each different value.
+    /// The place of each value among them all, ascending from 0 for the empty value; equal values share
+    /// theirs. Where `comesFirst` runs in a circle among numbers and texts, each of the two kinds keeps its
+    /// order. It costs one parse and one collation key for each different value.
     QList<int> ranks(const QList<QString> &values) const;
 
 private:

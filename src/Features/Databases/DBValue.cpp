@@ -2,6 +2,8 @@
 
 #include "Support/OVDate.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -32,6 +34,21 @@ QStringList DBValue::options(const QString &value)
 std::optional<QDate> DBValue::date(const QString &value)
 {
     return OVDate::parseDayKey(value);
+}
+
+std::optional<Timestamp> DBValue::moment(const QString &value)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^(\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d)(?:Z|([+-])(\\d\\d):?([0-5]\\d))$"));
+    const auto parts = pattern.match(value.toUpper());
+    if (!parts.hasMatch())
+        return std::nullopt;
+    const auto local = parseIsoTimestamp((parts.captured(1) + u'Z').toStdString());
+    const auto offset = std::chrono::hours(parts.capturedView(3).toInt()) +
+                        std::chrono::minutes(parts.capturedView(4).toInt());
+    if (!local || offset >= std::chrono::days(1))
+        return std::nullopt;
+    return parts.capturedView(2) == u"-" ? *local + offset : *local - offset;
 }
 
 double DBValue::progress(const QString &value)

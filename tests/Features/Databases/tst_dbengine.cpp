@@ -3,6 +3,7 @@
 #include "Support/DatabaseTemplates.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 #include <QTimeZone>
@@ -97,6 +98,9 @@ private slots:
         row("number after", Type::progress, after, u"10"_s, {u"10.5"_s, u"abc"_s}, {u"10"_s, u"9"_s, u""_s});
         row("date after", Type::date, after, u"2024-03-01"_s, {u"2024-03-02"_s, u"soon"_s},
             {u"2024-03-01"_s, u"2024-02-29"_s, u""_s});
+        row("moment with an offset after", Type::date, after, u"2024-03-01"_s,
+            {u"2024-03-01T22:00:00-05:00"_s, u"2024-03-02T09:00:00+05:30"_s},
+            {u"2024-03-01T00:00:00+05:30"_s});
         row("text before, by scalars", Type::text, before, u"\uffff"_s, {u"z"_s, u"\ue000"_s},
             {u"😀"_s, u""_s});
     }
@@ -152,6 +156,33 @@ private slots:
         QCOMPARE(sorted(input, true), QStringList({input[3], input[4], input[0], input[1], input[2]}));
         QVERIFY(!DBEngine::compare(input[3], input[4], false, m_locale));
         QVERIFY(!DBEngine::compare(input[4], input[3], false, m_locale));
+    }
+
+    /// "1e3" comes before "5x", that before "9", and that before "1e3": the numbers keep their order, and so
+    /// do the texts, whichever way the rows stood.
+    void circlesOfNumbersAndTextsAreSorted()
+    {
+        QStringList values{u"1e3"_s, u"5x"_s, u"9"_s, u"1.5"_s, u"1.25"_s, u"1.7x"_s, u"-2"_s,
+                           u"-1"_s,  u"x"_s,  u""_s,  u"9.0"_s, u"10 y"_s, u"-1x"_s};
+        std::mt19937 random(3);
+        QStringList first;
+        for (int round = 0; round < 200; ++round) {
+            std::shuffle(values.begin(), values.end(), random);
+            QStringList found = sorted(values, false);
+            QVERIFY(found.first().isEmpty());
+            const QStringList numbers = found.filter(QRegularExpression(u"^[-0-9.e]+$"_s));
+            QVERIFY(std::ranges::is_sorted(
+                numbers, std::less(), [](const QString &text) { return DBValue::number(text).value(); }));
+            const QStringList texts = found.filter(QRegularExpression(u"[xy]$"_s));
+            QCOMPARE(texts, QStringList({u"-1x"_s, u"1.7x"_s, u"5x"_s, u"10 y"_s, u"x"_s}));
+            // Of equal values, the first row stands first.
+            const qsizetype nine = found.indexOf(u"9"_s);
+            QCOMPARE(nine < found.indexOf(u"9.0"_s), values.indexOf(u"9"_s) < values.indexOf(u"9.0"_s));
+            found.removeAll(u"9.0"_s);
+            if (first.isEmpty())
+                first = found;
+            QCOMPARE(found, first);
+        }
     }
 
     /// The view of random rows under random sorts is what sorting with the comparator, last sort first,
@@ -242,6 +273,9 @@ private slots:
         QTest::newRow("checkbox") << property(DBPropertyType::checkbox)
                                   << QStringList{u"false"_s, u"true"_s, u"FALSE"_s}
                                   << QStringList{u"No value"_s, u"true"_s, u"FALSE"_s};
+        QTest::newRow("both canonical forms") << property(DBPropertyType::select, {u"tea"_s, u"cafe\u0301"_s})
+                                              << QStringList{u"caf\u00e9"_s, u"tea"_s, u"cafe\u0301"_s}
+                                              << QStringList{u"tea"_s, u"caf\u00e9"_s};
         QTest::newRow("no rows") << property(DBPropertyType::select, {u"Low"_s}) << QStringList()
                                  << QStringList();
     }
@@ -266,7 +300,11 @@ private slots:
             return std::get<Timestamp>(DBEngine::comparable(text, date, m_zone).value());
         };
         QCOMPARE(moment(u"2024-03-10"_s), moment(u"2024-03-10T05:00:00Z"_s));
-        QVERIFY(!DBEngine::comparable(u"March"_s, date, m_zone));
+        QCOMPARE(moment(u"2024-03-01T00:00:00+05:30"_s), moment(u"2024-02-29T18:30:00Z"_s));
+        QCOMPARE(moment(u"2024-03-01t00:00:00-0100"_s), moment(u"2024-03-01T01:00:00z"_s));
+        for (const QString &text : {u"March"_s, u"2024-03-01T00:00:00"_s, u"2024-03-01T00:00:00+24:00"_s,
+                                    u"2024-02-30T00:00:00Z"_s, u"2024-03-01T00:00:00+5"_s})
+            QVERIFY2(!DBEngine::comparable(text, date, m_zone), qPrintable(text));
         QVERIFY(!DBEngine::comparable(u"x"_s, property(DBPropertyType::number), m_zone));
     }
 

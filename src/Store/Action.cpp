@@ -12,6 +12,7 @@ Action::Action(WorkspaceStore &store, const Typing &typing) : m_store(store)
     m_isOutermost = store.begin([&](UndoStep &step) {
         step.name = typing.name.isEmpty() ? ActionText::tr("Typing") : typing.name;
         step.text = typing.text;
+        step.isWholeEdit = typing.isOneStep;
         step.typed = TypedText::between(typing.before, typing.after, typing.caret);
     });
 }

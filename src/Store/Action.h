@@ -15,6 +15,9 @@ struct Typing {
     qsizetype caret = -1;
     /// How the Edit menu calls it; "Typing" if empty.
     QString name = {};
+    /// Whether all typing in the field is one step until `WorkspaceStore::endTyping`, however many words it
+    /// is.
+    bool isOneStep = false;
 };
 
 /// The names of actions and what is told of them, for translation: `ActionText::tr("Delete Task")`.

@@ -1,5 +1,18 @@
 #include "Store/DatabaseOperations.h"
 
+namespace
+{
+void typeText(WorkspaceStore &store, const QUuid &tableID, const QString &field, QString DatabaseTable::*text,
+              const QString &after)
+{
+    const DatabaseTable *const table = store.list<DatabaseTable>().first(tableID);
+    if (!table || table->*text == after)
+        return;
+    const Action action(store, Typing{.text = {tableID, field}, .before = table->*text, .after = after});
+    DatabaseOperations::change(store, tableID, {}, [&](DatabaseTable &changed) { changed.*text = after; });
+}
+} // namespace
+
 void DatabaseOperations::create(WorkspaceStore &store, const DatabaseTable &table)
 {
     const Action action(store, ActionText::tr("New Database"));
@@ -17,6 +30,38 @@ void DatabaseOperations::remove(WorkspaceStore &store, const QUuid &tableID)
         rowIDs.insert(row->id);
     store.erase<DBRow>(rowIDs);
     store.erase<DatabaseTable>(tableID);
+}
+
+void DatabaseOperations::change(WorkspaceStore &store, const QUuid &tableID, const QString &name,
+                                const std::function<void(DatabaseTable &)> &edit)
+{
+    const Action action(store, name);
+    store.change<DatabaseTable>(tableID, [&](DatabaseTable &table) {
+        const DatabaseTable before = table;
+        edit(table);
+        if (table != before)
+            table.updatedDate = store.now();
+    });
+}
+
+void DatabaseOperations::changeView(WorkspaceStore &store, const QUuid &tableID, const QUuid &viewID,
+                                    const QString &name, const std::function<void(DBView &)> &edit)
+{
+    change(store, tableID, name, [&](DatabaseTable &table) {
+        const auto view = std::ranges::find(table.views, viewID, &DBView::id);
+        if (view != table.views.end())
+            edit(*view);
+    });
+}
+
+void DatabaseOperations::typeName(WorkspaceStore &store, const QUuid &tableID, const QString &text)
+{
+    typeText(store, tableID, QStringLiteral("name"), &DatabaseTable::name, text);
+}
+
+void DatabaseOperations::typeDetails(WorkspaceStore &store, const QUuid &tableID, const QString &text)
+{
+    typeText(store, tableID, QStringLiteral("details"), &DatabaseTable::details, text);
 }
 
 std::optional<DBRow> DatabaseOperations::addRow(WorkspaceStore &store, const QUuid &tableID,
@@ -54,11 +99,34 @@ void DatabaseOperations::removeRow(WorkspaceStore &store, const QUuid &rowID)
 void DatabaseOperations::setValue(WorkspaceStore &store, const QString &value, const QUuid &propertyID,
                                   const QUuid &rowID)
 {
+    setValues(store, {{DBRow::valueKey(propertyID), value}}, rowID);
+}
+
+void DatabaseOperations::setValues(WorkspaceStore &store, const QMap<QString, QString> &values,
+                                   const QUuid &rowID)
+{
     const Action action(store, ActionText::tr("Change Value"));
     store.change<DBRow>(rowID, [&](DBRow &row) {
-        row.values.insert(DBRow::valueKey(propertyID), value);
+        for (auto value = values.begin(); value != values.end(); ++value)
+            row.values.insert(value.key(), value.value());
         row.updatedDate = store.now();
     });
+}
+
+void DatabaseOperations::typeValue(WorkspaceStore &store, const QString &value, const QUuid &propertyID,
+                                   const QUuid &rowID)
+{
+    const DBRow *const row = store.list<DBRow>().first(rowID);
+    const QString key = DBRow::valueKey(propertyID);
+    const QString before = row ? row->values.value(key) : QString();
+    if (!row || before == value)
+        return;
+    const Action action(store, Typing{.text = {rowID, key},
+                                      .before = before,
+                                      .after = value,
+                                      .name = ActionText::tr("Change Value"),
+                                      .isOneStep = true});
+    setValue(store, value, propertyID, rowID);
 }
 
 QList<const DBRow *> DatabaseOperations::rows(const WorkspaceStore &store, const QUuid &tableID)

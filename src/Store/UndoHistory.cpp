@@ -22,8 +22,9 @@ bool UndoHistory::merge(UndoStep &step, const Lists &lists)
     if (m_steps.empty() || m_typingEnded || !step.typed || step.isBackground)
         return false;
     UndoStep &last = m_steps.back();
-    if (!last.typed || last.text != step.text || last.place != step.place ||
-        !last.typed->continueWith(*step.typed))
+    if (!last.typed || last.text != step.text || last.place != step.place)
+        return false;
+    if (!(last.isWholeEdit && step.isWholeEdit) && !last.typed->continueWith(*step.typed))
         return false;
     RecordKinds::forEach([&]<typename Record>() {
         std::get<RecordEdits<Record>>(last.edits).add(std::get<RecordEdits<Record>>(step.edits));

@@ -30,6 +30,8 @@ struct UndoStep {
     /// Set if the step is typing.
     std::optional<TextPlace> text;
     std::optional<TypedText> typed;
+    /// Whether typing that goes on in the text belongs to this step, also where it begins a new word.
+    bool isWholeEdit = false;
     /// What the window tells once it is done, such as "Task deleted"; empty for nothing.
     QString message;
     /// Not the user's own doing, such as the place kept in a book: undone and done again along with the step

@@ -25,6 +25,7 @@ constexpr std::array table{
     PlaceScreen{habits, "Orvel/Habits/HabitsView.qml"},
     PlaceScreen{insights, "Orvel/Insights/InsightsView.qml"},
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
+    PlaceScreen{databases, "Orvel/Databases/DatabasesView.qml"},
     PlaceScreen{code, "Orvel/Code/CodeView.qml"},
     PlaceScreen{settings, "Orvel/Settings/SettingsView.qml"},
 };

@@ -14,11 +14,11 @@ enum class DBViewType { table, board, list, gallery, calendar };
 template <>
 struct EnumTable<DBViewType> {
     static constexpr auto cases = std::to_array<EnumCase<DBViewType>>({
-        {DBViewType::table, "table", u"Table"},
-        {DBViewType::board, "board", u"Board"},
-        {DBViewType::list, "list", u"List"},
-        {DBViewType::gallery, "gallery", u"Gallery"},
-        {DBViewType::calendar, "calendar", u"Calendar"},
+        {DBViewType::table, "table", u"Table", "tablecells"},
+        {DBViewType::board, "board", u"Board", "rectangle.split.3x1"},
+        {DBViewType::list, "list", u"List", "list.bullet.indent"},
+        {DBViewType::gallery, "gallery", u"Gallery", "square.grid.2x2"},
+        {DBViewType::calendar, "calendar", u"Calendar", "calendar"},
     });
 };
 

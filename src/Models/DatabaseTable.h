@@ -10,15 +10,15 @@ enum class DBPropertyType { text, select, status, multiselect, date, number, che
 template <>
 struct EnumTable<DBPropertyType> {
     static constexpr auto cases = std::to_array<EnumCase<DBPropertyType>>({
-        {DBPropertyType::text, "text", u"Text"},
-        {DBPropertyType::select, "select", u"Select"},
-        {DBPropertyType::status, "status", u"Status"},
-        {DBPropertyType::multiselect, "multiselect", u"Multi-select"},
-        {DBPropertyType::date, "date", u"Date"},
-        {DBPropertyType::number, "number", u"Number"},
-        {DBPropertyType::checkbox, "checkbox", u"Checkbox"},
-        {DBPropertyType::url, "url", u"URL"},
-        {DBPropertyType::progress, "progress", u"Progress"},
+        {DBPropertyType::text, "text", u"Text", "textformat"},
+        {DBPropertyType::select, "select", u"Select", "chevron.down.circle"},
+        {DBPropertyType::status, "status", u"Status", "circle.dotted"},
+        {DBPropertyType::multiselect, "multiselect", u"Multi-select", "list.bullet"},
+        {DBPropertyType::date, "date", u"Date", "calendar"},
+        {DBPropertyType::number, "number", u"Number", "number"},
+        {DBPropertyType::checkbox, "checkbox", u"Checkbox", "checkmark.square"},
+        {DBPropertyType::url, "url", u"URL", "link"},
+        {DBPropertyType::progress, "progress", u"Progress", "chart.bar"},
     });
 };
 

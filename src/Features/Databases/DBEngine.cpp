@@ -160,7 +160,7 @@ QList<DBGroup> DBEngine::groupRows(const Rows &rows, const DBProperty *property)
 {
     if (!property)
         return {{QStringLiteral("__all__"), QStringLiteral("All"), rows}};
-    const QString noValue = QStringLiteral("No value");
+    const QString noValue = DBEngine::noValue();
     const QString valueKey = DBRow::valueKey(property->id);
     QList<DBGroup> groups;
     QHash<QString, qsizetype> indexOf;
@@ -187,6 +187,11 @@ QList<DBGroup> DBEngine::groupRows(const Rows &rows, const DBProperty *property)
     };
     std::ranges::stable_sort(groups, std::less(), position);
     return groups;
+}
+
+QString DBEngine::noValue()
+{
+    return QStringLiteral("No value");
 }
 
 bool DBEngine::matches(const DBRow &row, const DBProperty *property, const DBFilter &filter,

@@ -34,6 +34,9 @@ Rows applyView(const Rows &rows, const QList<DBProperty> &properties, const DBVi
 /// group.
 QList<DBGroup> groupRows(const Rows &rows, const DBProperty *property);
 
+/// The label of the group of empty values.
+QString noValue();
+
 /// One filter on one row; a filter on no property lets every row through.
 bool matches(const DBRow &row, const DBProperty *property, const DBFilter &filter, const QTimeZone &zone);
 

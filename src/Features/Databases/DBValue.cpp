@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <vector>
 
 bool DBValue::isEmpty(const QString &value)
 {
@@ -54,6 +55,70 @@ std::optional<Timestamp> DBValue::moment(const QString &value)
 double DBValue::progress(const QString &value)
 {
     return std::clamp(number(value).value_or(0) / 100, 0.0, 1.0);
+}
+
+BadgeTone DBValue::tone(const QString &text)
+{
+    struct Words {
+        BadgeTone tone;
+        std::vector<QLatin1String> words;
+    };
+    static const std::array<Words, 4> table{
+        Words{BadgeTone::success,
+              {QLatin1String("done"), QLatin1String("complete"), QLatin1String("finished")}},
+        Words{BadgeTone::info, {QLatin1String("progress"), QLatin1String("doing"), QLatin1String("reading")}},
+        Words{BadgeTone::danger, {QLatin1String("block"), QLatin1String("hold"), QLatin1String("high")}},
+        Words{BadgeTone::warning, {QLatin1String("plan"), QLatin1String("wait")}}};
+    const QString lower = text.toLower();
+    for (const Words &entry : table)
+        if (std::ranges::any_of(entry.words, [&lower](QLatin1String word) { return lower.contains(word); }))
+            return entry.tone;
+    return BadgeTone::neutral;
+}
+
+QString DBValue::typed(DBPropertyType type, const QString &text)
+{
+    const bool isNumber = type == DBPropertyType::number;
+    if (!isNumber && type != DBPropertyType::progress)
+        return text;
+    QList<uint> kept = text.toUcs4();
+    kept.removeIf([isNumber](uint scalar) {
+        return !QChar::isNumber(scalar) && !(isNumber && (scalar == '.' || scalar == '-'));
+    });
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(kept.constData()), kept.size());
+}
+
+QString DBValue::pasted(const DBProperty &property, const QString &text)
+{
+    const auto option = [&property](const QString &piece) {
+        const auto known = std::ranges::find_if(property.options, [&piece](const QString &option) {
+            return option.compare(piece, Qt::CaseInsensitive) == 0;
+        });
+        return known == property.options.end() ? piece : *known;
+    };
+    switch (property.type) {
+    case DBPropertyType::select:
+    case DBPropertyType::status:
+        return option(text.trimmed());
+    case DBPropertyType::multiselect: {
+        QStringList chosen;
+        for (const QString &piece : options(text))
+            chosen.append(option(piece));
+        return chosen.join(u',');
+    }
+    case DBPropertyType::checkbox:
+        return isChecked(text.trimmed()) ? QStringLiteral("true") : QString();
+    default:
+        return typed(property.type, text);
+    }
+}
+
+QString DBValue::toggled(const QString &value, const QString &option)
+{
+    QStringList chosen = options(value);
+    if (chosen.removeAll(option) == 0)
+        chosen.append(option);
+    return chosen.join(u',');
 }
 
 std::optional<double> DBValue::number(const QString &value)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Foundation/BadgeTone.h"
 #include "Foundation/Timestamp.h"
+#include "Models/DatabaseTable.h"
 
 #include <QDate>
 #include <QStringList>
@@ -23,6 +25,16 @@ std::optional<QDate> date(const QString &value);
 std::optional<Timestamp> moment(const QString &value);
 /// The share of a progress value, which is stored in percent, from 0 to 1; 0 if it is no number.
 double progress(const QString &value);
+/// The tone of a choice by what its text speaks of, such as success for "Done".
+BadgeTone tone(const QString &text);
+/// What is written of a text that is typed or pasted into a cell of this type: numbers and progress keep only
+/// their own characters.
+QString typed(DBPropertyType type, const QString &text);
+/// What a text from another program becomes in a property of this type: an option in its own spelling, a day
+/// in the form of the file, "true" for a checked box. What the type can't hold stays as it is.
+QString pasted(const DBProperty &property, const QString &text);
+/// The chosen options with this one taken out, or put at their end if it was not among them.
+QString toggled(const QString &value, const QString &option);
 /// The number that the whole text is, in the C locale and without surrounding blanks; nothing for any other
 /// text. "nan" and "inf" are words here.
 std::optional<double> number(const QString &value);

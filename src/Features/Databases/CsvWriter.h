@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+/// Writes comma-separated values (RFC 4180), as UTF-8 with its mark, by which spreadsheet programs know it.
+namespace CsvWriter
+{
+QByteArray write(const QStringList &names, const QList<QStringList> &rows);
+
+/// The text as a spreadsheet program does not run it: with "'" before a beginning that would make it a
+/// formula. Numbers are left as they are.
+QString guarded(const QString &text);
+/// Takes that back.
+QString unguarded(QString text);
+} // namespace CsvWriter

@@ -1,0 +1,213 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Orvel.Databases
+import Orvel.DesignSystem
+
+/// The records below each other: as a table with a header, or as a list, where they may stand in sections. They are
+/// made only where they are seen. The cells are one stop for Tab, in which a cursor moves.
+FocusScope {
+    id: root
+
+    required property RecordsViewModel records
+    /// Whether it is a list without a header.
+    property bool listLike: false
+    property bool sectioned: false
+    /// What a list without records shows.
+    property string emptySymbol
+    property string emptyTitle
+    property string emptyMessage
+    property bool canAdd: true
+    readonly property int rowHeight: Theme.rowHeight + Theme.space8
+
+    signal deletePropertyRequested(var propertyID)
+
+    /// Moves the cursor by the pointer.
+    function point(row: int, column: int) {
+        recordKeys.fillColumn = -1
+        cursor.show(row, column)
+        list.forceActiveFocus(Qt.MouseFocusReason)
+        recordKeys.ringShown = false
+    }
+
+    /// The editing of a cell has ended with this key.
+    function editingFinished(key: int) {
+        if (key !== 0) {
+            list.forceActiveFocus(Qt.OtherFocusReason)
+            recordKeys.ringShown = true
+        }
+        cursor.goOn(key)
+    }
+
+    /// Adds a record and begins with its title.
+    function addRecord() {
+        const row = records.rowOf(records.addRecord())
+        list.forceLayout()
+        cursor.show(row, 0)
+        list.forceActiveFocus(Qt.OtherFocusReason)
+        recordKeys.openRequested("")
+    }
+
+    RecordKeys {
+        id: recordKeys
+        records: root.records
+        row: list.currentIndex
+        onOpenRequested: typed => {
+            cursor.show(row, column)
+            list.forceLayout()
+            cursor.cell()?.open(typed)
+        }
+    }
+
+    DBTableCursor {
+        id: cursor
+        columns: tableColumns
+        keys: recordKeys
+        list: list
+    }
+
+    DBTableColumns {
+        id: tableColumns
+        listLike: root.listLike
+        offset: Math.max(0, list.contentX)
+        records: root.records
+        viewportWidth: list.width
+    }
+
+    Connections {
+        target: root.records
+        function onRevealed(row, column) {
+            if (list.activeFocus && recordKeys.row === row && cursor.cell()?.editing)
+                return
+            recordKeys.ringShown = true
+            cursor.show(row, column < 0 ? Math.min(recordKeys.column, root.records.columnCount - 1) : column)
+            list.forceActiveFocus(Qt.OtherFocusReason)
+        }
+    }
+
+    Rectangle {
+        id: card
+        border.color: Theme.ovBorder
+        border.width: Theme.lineWidth
+        color: Theme.ovSurface
+        height: body.height
+        radius: Theme.cornerField
+        width: root.listLike ? root.width : Math.min(root.width, tableColumns.contentWidth + 2)
+    }
+
+    Item {
+        id: body
+        clip: true
+        height: Math.min(root.height, header.height + list.contentHeight + addButton.height + emptyText.space
+                         + emptyState.space + 1)
+        width: card.width
+
+        DBTableHeader {
+            id: header
+            columns: tableColumns
+            height: root.listLike ? 0 : implicitHeight
+            records: root.records
+            visible: !root.listLike
+            width: list.width
+            x: 1
+            onColumnWanted: column => list.contentX = tableColumns.offsetFor(column)
+            onDeleteRequested: propertyID => root.deletePropertyRequested(propertyID)
+            onLeaveDown: list.forceActiveFocus(Qt.TabFocusReason)
+        }
+
+        OVText {
+            id: emptyText
+            readonly property real space: visible ? height : 0
+            color: Theme.ovInkSecondary
+            height: implicitHeight + 2 * Theme.space16
+            leftPadding: Theme.space12
+            role: OVText.Dense
+            text: qsTr("No records yet. Add your first one below.")
+            visible: root.records.isEmpty && !root.listLike
+            width: parent.width
+            wrapMode: Text.Wrap
+            y: header.height
+        }
+
+        OVEmptyState {
+            id: emptyState
+            readonly property real space: visible ? height + Theme.space48 + Theme.space16 : 0
+            message: root.emptyMessage
+            symbol: root.emptySymbol
+            title: root.emptyTitle
+            visible: root.listLike && (root.records.isEmpty || !root.canAdd)
+            width: parent.width - 2 * Theme.space24
+            x: Theme.space24
+            y: Theme.space48
+        }
+
+        ListView {
+            id: list
+            activeFocusOnTab: count > 0 || activeFocus
+            boundsBehavior: Flickable.StopAtBounds
+            cacheBuffer: root.rowHeight * 4
+            clip: true
+            contentWidth: tableColumns.contentWidth
+            currentIndex: -1
+            flickableDirection: Flickable.AutoFlickIfNeeded
+            focus: true
+            height: body.height - y - addButton.height
+            highlightFollowsCurrentItem: false
+            keyNavigationEnabled: false
+            model: root.records.rows
+            reuseItems: true
+            section.delegate: DBSectionLabel {
+                width: list.width
+                x: list.contentX
+            }
+            section.property: root.sectioned ? "section" : ""
+            visible: root.canAdd
+            width: parent.width - 2
+            x: 1
+            y: header.height
+            Accessible.name: cursor.description
+            Accessible.role: Accessible.Table
+            T.ScrollBar.horizontal: OVScrollBar { }
+            T.ScrollBar.vertical: OVScrollBar { }
+
+            // A key that the field of a cell has no use for is not one for the cursor.
+            Keys.onPressed: event => event.accepted = !cursor.isEditing()
+                                                      && (cursor.press(event) || recordKeys.press(event))
+            // The view would give it the focus, of which assistive technology knows nothing.
+            onCurrentItemChanged: {
+                if (currentItem)
+                    currentItem.focus = false
+            }
+            onActiveFocusChanged: {
+                if (!activeFocus && cursor.cell()?.popupOpen)
+                    return
+                if (!activeFocus)
+                    return recordKeys.fillColumn = -1
+                recordKeys.ringShown = true
+                if (currentIndex < 0)
+                    cursor.show(0, 0)
+            }
+
+            delegate: DBTableRow {
+                columns: tableColumns
+                cursorShown: list.activeFocus
+                keys: recordKeys
+                records: root.records
+                onFinished: key => root.editingFinished(key)
+                onPointed: column => root.point(index, column)
+            }
+        }
+
+        NewRecordButton {
+            id: addButton
+            anchors.bottom: parent.bottom
+            height: visible ? implicitHeight : 0
+            visible: root.canAdd
+            width: Math.min(implicitWidth, list.width)
+            x: 1
+            Keys.onUpPressed: list.forceActiveFocus(Qt.TabFocusReason)
+            onClicked: root.addRecord()
+        }
+    }
+}

@@ -1,0 +1,211 @@
+import QtQuick
+import QtTest
+import Orvel.Databases
+import Orvel.Testing
+
+/// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file.
+Item {
+    id: root
+
+    property DatabasesView view
+
+    width: 1000
+    height: 640
+
+    Component {
+        id: screen
+
+        DatabasesView {
+            anchors.fill: parent
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        name: "DatabasesView"
+        when: windowShown
+
+        function init() {
+            Workspace.reset()
+            Workspace.stopMotion()
+        }
+
+        function open() {
+            root.view = createTemporaryObject(screen, root)
+            root.view.forceActiveFocus()
+            waitForRendering(root.view)
+        }
+
+        /// A database of the built-in template, opened.
+        function openTemplate(templateID) {
+            open()
+            root.view.viewModel.newFromTemplate(templateID)
+            waitForRendering(root.view)
+        }
+
+        function focused() {
+            return root.Window.activeFocusItem
+        }
+
+        /// The visible item that assistive tools know by this name.
+        function find(name, from = root.view) {
+            for (let i = 0; i < from.children.length; ++i) {
+                const child = from.children[i]
+                if (!child.visible)
+                    continue
+                const found = child.Accessible.name === name ? child : find(name, child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        /// The visible cell with this name.
+        function findCell(name, from = root.view) {
+            for (let i = 0; i < from.children.length; ++i) {
+                const child = from.children[i]
+                if (!child.visible)
+                    continue
+                const found = child.Accessible.name === name && child instanceof DBValueCell ? child
+                                                                                            : findCell(name, child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function click(name) {
+            tryVerify(() => find(name) !== null, 2000, "shows " + name)
+            mouseClick(find(name))
+        }
+
+        function type(text) {
+            for (const character of text)
+                keyClick(character)
+        }
+
+        function saved() {
+            return JSON.parse(Workspace.saved())
+        }
+
+        /// The values of a column in the file, record by record.
+        function values(name) {
+            const file = saved()
+            const property = file.databases[0].properties.find(property => property.name === name)
+            return file.rows.map(row => row.values[property.id] ?? "").join("|")
+        }
+
+        function test_fillsATableByKeysAlone() {
+            openTemplate("projectTracker")
+            click("New record")
+            type("Plan")
+            keyClick(Qt.Key_Tab)
+            type("Ana")
+            keyClick(Qt.Key_Tab)
+            // The status has a menu, which its first letter finds.
+            keyClick(Qt.Key_Space)
+            tryVerify(() => focused().currentIndex !== undefined)
+            keyClick("d")
+            keyClick(Qt.Key_Return)
+            tryCompare(root.view, "activeFocus", true)
+            tryVerify(() => values("Status") === "Done")
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Tab)
+            type("4a5")
+            keyClick(Qt.Key_Return)
+            compare(values("Item"), "Plan")
+            compare(values("Owner"), "Ana")
+            compare(values("Progress"), "45")
+            keyClick(Qt.Key_Home)
+            keyClick(Qt.Key_F2)
+            type(" B")
+            keyClick(Qt.Key_Escape)
+            compare(values("Item"), "Plan")
+            keyClick(Qt.Key_D, Qt.ControlModifier)
+            compare(values("Item"), "Plan|Plan")
+            keyClick(Qt.Key_Delete)
+            compare(values("Item"), "|Plan")
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            keyClick(Qt.Key_Delete, Qt.ControlModifier)
+            compare(saved().rows.length, 1)
+            // The cursor is never lost.
+            keyClick("x")
+            keyClick(Qt.Key_Return)
+            compare(values("Item"), "x")
+        }
+
+        function test_everyLayoutShowsAndEdits_data() {
+            return [{ tag: "table" }, { tag: "board" }, { tag: "list" }, { tag: "gallery" }, { tag: "calendar" }]
+        }
+
+        function test_everyLayoutShowsAndEdits(data) {
+            openTemplate("projectTracker")
+            click("New record")
+            type("Plan")
+            keyClick(Qt.Key_Return)
+            root.view.viewModel.addView(data.tag)
+            // The layout before is gone with the turn of the event loop.
+            wait(50)
+            mouseClick(findCell("Item: Plan"))
+            tryVerify(() => focused().text === "Plan")
+            keyClick(Qt.Key_End)
+            type(" B")
+            keyClick(Qt.Key_Return)
+            compare(values("Item"), "Plan B")
+            keyClick(Qt.Key_D, Qt.ControlModifier)
+            compare(values("Item"), "Plan B|Plan B")
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+        }
+
+        function test_aCardFollowsItsValue() {
+            openTemplate("projectTracker")
+            click("New record")
+            type("Plan")
+            keyClick(Qt.Key_Return)
+            root.view.viewModel.addView("board")
+            click("New record in No value")
+            type("Write")
+            keyClick(Qt.Key_Escape)
+            compare(values("Item"), "Plan|")
+            compare(values("Status"), "|")
+        }
+
+        function test_viewSettingsChangeTheView() {
+            openTemplate("projectTracker")
+            for (const title of ["B", "A"]) {
+                click("New record")
+                type(title)
+                keyClick(Qt.Key_Return)
+            }
+            click("View settings")
+            click("+ Add sort")
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            const view = () => saved().databases[0].views[0]
+            tryVerify(() => view().sorts.length === 1)
+            click("Item, ascending")
+            verify(view().sorts[0].descending)
+            const chooser = find("FILTERS").parent
+            mouseClick(find("Property", chooser))
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            const value = find("Value")
+            mouseClick(value)
+            type("b")
+            keyClick(Qt.Key_Return)
+            compare(view().filters[0].value, "b")
+            tryVerify(() => find("1 of 2 records") !== null)
+        }
+
+        function test_aDatabaseIsDeletedWithoutLosingTheKeyboard() {
+            openTemplate("reading")
+            click("Delete database")
+            compare(saved().databases.length, 0)
+            verify(find("No database selected") !== null)
+            verify(focused() !== null)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+        }
+    }
+}

@@ -26,6 +26,7 @@ constexpr std::array table{
     PlaceScreen{insights, "Orvel/Insights/InsightsView.qml"},
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
     PlaceScreen{databases, "Orvel/Databases/DatabasesView.qml"},
+    PlaceScreen{reader, "Orvel/Reader/ReaderView.qml"},
     PlaceScreen{code, "Orvel/Code/CodeView.qml"},
     PlaceScreen{settings, "Orvel/Settings/SettingsView.qml"},
 };

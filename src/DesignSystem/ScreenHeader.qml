@@ -24,6 +24,7 @@ FocusScope {
     property string emptyMessage
     /// Empty for no action.
     property string emptyAction
+    property string emptyActionSymbol: "plus"
 
     signal emptyActionTriggered()
 
@@ -60,7 +61,7 @@ FocusScope {
 
                     OVEmptyState {
                         id: empty
-                        actionSymbol: "plus"
+                        actionSymbol: root.emptyActionSymbol
                         actionText: root.emptyAction
                         message: root.emptyMessage
                         symbol: root.emptySymbol

@@ -43,6 +43,7 @@ class ThemeSizes : public ThemeType
     Q_PROPERTY(int rowHeight READ rowHeight NOTIFY changed FINAL)
     Q_PROPERTY(int sidebarWidth READ sidebarWidth NOTIFY changed FINAL)
     Q_PROPERTY(int readingWidth READ readingWidth NOTIFY changed FINAL)
+    Q_PROPERTY(int bookWidth READ bookWidth NOTIFY changed FINAL)
     Q_PROPERTY(int zenWidth READ zenWidth NOTIFY changed FINAL)
     Q_PROPERTY(int listWidth READ listWidth NOTIFY changed FINAL)
     Q_PROPERTY(int gridWidth READ gridWidth NOTIFY changed FINAL)
@@ -89,6 +90,7 @@ public:
     int rowHeight() const { return control(snapshot().compactSidebar ? 28 : 32); }
     int sidebarWidth() const { return scaled(snapshot().compactSidebar ? 208 : 248); }
     int readingWidth() const { return scaled(720); }
+    int bookWidth() const { return scaled(660); }
     int zenWidth() const { return scaled(640); }
     int listWidth() const { return scaled(920); }
     int gridWidth() const { return scaled(1180); }

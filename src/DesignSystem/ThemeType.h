@@ -28,6 +28,8 @@ class ThemeType : public ThemeColors
     Q_PROPERTY(int sizeHeading2 READ sizeHeading2 NOTIFY changed FINAL)
     Q_PROPERTY(int sizeHeading3 READ sizeHeading3 NOTIFY changed FINAL)
     Q_PROPERTY(int sizeReading READ sizeReading NOTIFY changed FINAL)
+    /// Of the text of a book, before the reader's own scale.
+    Q_PROPERTY(int sizeBook READ sizeBook NOTIFY changed FINAL)
 
 public:
     QString fontFamily() const { return OVFonts::family(snapshot().fontDesign); }
@@ -52,6 +54,7 @@ public:
     int sizeHeading2() const { return scaled(21); }
     int sizeHeading3() const { return scaled(17); }
     int sizeReading() const { return scaled(16); }
+    int sizeBook() const { return scaled(18); }
 
 protected:
     using ThemeColors::ThemeColors;

@@ -22,3 +22,15 @@ void BookOperations::remove(WorkspaceStore &store, const QUuid &bookID)
     action.whenForgotten([library = store.bookLibrary(), bookID] { library.deleteText(bookID); });
     store.erase<Book>(bookID);
 }
+
+void BookOperations::keepPlace(WorkspaceStore &store, const QUuid &bookID, qint64 paragraph)
+{
+    const Book *book = store.list<Book>().first(bookID);
+    if (!book || book->lastLocation == paragraph)
+        return;
+    const Action action = Action::background(store);
+    store.change<Book>(bookID, [&](Book &kept) {
+        kept.lastLocation = paragraph;
+        kept.updatedDate = store.now();
+    });
+}

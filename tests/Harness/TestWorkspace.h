@@ -2,6 +2,7 @@
 
 #include "Harness/ManualClock.h"
 #include "Session/FocusTimer.h"
+#include "Store/BookOperations.h"
 #include "Store/DeckOperations.h"
 #include "Store/EventOperations.h"
 #include "Store/HabitOperations.h"
@@ -12,6 +13,8 @@
 #include "Support/UIState.h"
 #include "Support/Updates/UpdateService.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 
 /// A whole workspace in a scratch folder for tests of screens: QML reaches it as `Workspace` after
@@ -219,6 +222,21 @@ public:
             HabitOperations::toggle(m_store, id, m_clock.today().addDays(-days));
         return id.toString(QUuid::WithoutBraces);
     }
+
+    /// A book of the reader with its text on disk; an empty text stands for none.
+    Q_INVOKABLE QString addBook(const QString &title, const QString &author, const QString &text)
+    {
+        const Book book{.id = QUuid::createUuid(),
+                        .gutenbergID = m_store.list<Book>().size() + 1,
+                        .title = title,
+                        .author = author};
+        BookOperations::add(m_store, book);
+        if (!text.isEmpty())
+            (void)m_store.bookLibrary().write(book.id, text);
+        return book.id.toString(QUuid::WithoutBraces);
+    }
+
+    Q_INVOKABLE QString clipboard() const { return QGuiApplication::clipboard()->text(); }
 
     /// What stands in the file after a save.
     Q_INVOKABLE QString saved()

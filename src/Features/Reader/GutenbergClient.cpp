@@ -3,6 +3,11 @@
 #include "Features/Reader/GutenbergText.h"
 #include "Foundation/RecordDecoder.h"
 
+#include <QTimer>
+
+#include <atomic>
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -18,11 +23,18 @@ std::optional<GutendexResponse> decodeResponse(const QByteArray &body)
     return response;
 }
 
-std::expected<QString, QString> bookText(const HttpResult &result)
+/// What has come of a book so far. The thread of the exchange writes it.
+struct Received {
+    QByteArray bytes;
+    std::atomic<qint64> count = 0;
+    std::atomic<qint64> total = -1;
+};
+
+std::expected<QString, QString> bookText(const HttpResult &result, const QByteArray &bytes)
 {
     // Any other success has no body, or a part of it.
     if (result && result->status == 200 && !result->contentType.startsWith("text/html")) {
-        const QString text = GutenbergText::decode(result->body);
+        const QString text = GutenbergText::decode(bytes);
         if (!GutenbergText::isWebPage(text))
             return GutenbergClient::stripBoilerplate(text);
     }
@@ -71,12 +83,32 @@ void GutenbergClient::search(const QString &query)
     });
 }
 
-void GutenbergClient::download(const GutenbergBook &book, Downloaded done)
+void GutenbergClient::download(const GutenbergBook &book, QObject *owner, Progress progress,
+                               Downloaded done) const
 {
+    const auto received = std::make_shared<Received>();
+    auto *const reports = new QTimer(owner);
+    const auto report = [received, progress = std::move(progress)] {
+        if (progress)
+            progress(received->count, received->total);
+    };
+    QObject::connect(reports, &QTimer::timeout, owner, report);
+    reports->start(std::chrono::milliseconds(100));
+
+    const auto sink = [received](QByteArrayView bytes, qint64 length) -> std::expected<void, QString> {
+        received->total = length;
+        received->bytes += bytes;
+        received->count = received->bytes.size();
+        return {};
+    };
     // A book without a text has an address that can't be asked, and so fails like any other.
     const QUrl url = book.plainTextURL().value_or(QUrl());
-    Http::get({.url = url}, m_options.downloadLimits, this,
-              [done = std::move(done)](const HttpResult &result) { done(bookText(result)); });
+    Http::download({.url = url}, m_options.downloadLimits, sink, owner,
+                   [reports, report, received, done = std::move(done)](const HttpResult &result) {
+                       delete reports;
+                       report();
+                       done(bookText(result, received->bytes));
+                   });
 }
 
 QString GutenbergClient::stripBoilerplate(const QString &text)

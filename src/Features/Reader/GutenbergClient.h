@@ -34,10 +34,13 @@ public:
     /// answered last decides what is shown.
     void search(const QString &query);
 
+    /// Bytes that have come, and of how many; -1 while that is not known.
+    using Progress = std::function<void(qint64 received, qint64 total)>;
     using Downloaded = std::function<void(const std::expected<QString, QString> &)>;
-    /// Gives the text of the book without its licence, or the sentence for the person. `done` is called
-    /// once, after the call has returned, unless the client dies first.
-    void download(const GutenbergBook &book, Downloaded done);
+    /// Gives the text of the book without its licence, or the sentence for the user, and tells ten times a
+    /// second how far it has come. `done` is called once, after the call has returned, unless the owner is
+    /// destroyed first: then the download ends at once.
+    void download(const GutenbergBook &book, QObject *owner, Progress progress, Downloaded done) const;
 
     /// The book alone, without the licence before and after it and without white space at its ends.
     static QString stripBoilerplate(const QString &text);

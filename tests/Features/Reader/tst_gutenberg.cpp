@@ -62,7 +62,7 @@ private:
     std::expected<QString, QString> download(GutenbergClient &client, const GutenbergBook &book)
     {
         std::optional<std::expected<QString, QString>> result;
-        client.download(book, [&](const auto &given) { result = given; });
+        client.download(book, &client, nullptr, [&](const auto &given) { result = given; });
         if (result || !QTest::qWaitFor([&] { return result.has_value(); }, 60'000))
             return std::unexpected(u"THE TEST GAVE UP"_s);
         return *result;
@@ -214,7 +214,8 @@ private slots:
         auto client = std::make_unique<GutenbergClient>(options(m_catalogue.url()));
         bool isCalled = false;
         client->search(u"emma"_s);
-        client->download(bookAt(m_files->url(u"/slow.txt"_s)), [&](const auto &) { isCalled = true; });
+        client->download(bookAt(m_files->url(u"/slow.txt"_s)), client.get(), nullptr,
+                         [&](const auto &) { isCalled = true; });
         QTRY_COMPARE(m_catalogue.requests().size(), 1);
         QTRY_COMPARE(m_files->requests().size(), 1);
         client.reset();

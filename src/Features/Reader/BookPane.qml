@@ -1,0 +1,126 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Orvel.DesignSystem
+import Orvel.Reader
+
+/// The open book: its header, its text, and how far the user has come in it.
+FocusScope {
+    id: root
+
+    required property ReaderViewModel reader
+    required property BookViewModel book
+
+    signal backRequested()
+    /// The text is to be downloaded, since it is not on disk.
+    signal fetchRequested()
+
+    function focusText() {
+        (text.visible ? text : header).forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    function openFind() {
+        findBar.visible = true
+        findBar.focusField()
+    }
+
+    function closeFind() {
+        findBar.visible = false
+        book.finder.query = ""
+        focusText()
+    }
+
+    Shortcut {
+        enabled: root.visible && text.visible
+        sequence: "Ctrl+F"
+        onActivated: root.openFind()
+    }
+
+    Keys.onEscapePressed: event => {
+        event.accepted = true
+        if (findBar.visible)
+            closeFind()
+        else if (!book.selection.isEmpty)
+            book.selection.clear()
+        else
+            backRequested()
+    }
+
+    BookHeader {
+        id: header
+        author: root.book.author
+        canFind: text.visible
+        reader: root.reader
+        title: root.book.title
+        width: parent.width
+        onBackRequested: root.backRequested()
+        onFindRequested: root.openFind()
+    }
+
+    BookFindBar {
+        id: findBar
+        anchors.top: header.bottom
+        finder: root.book.finder
+        visible: false
+        width: parent.width
+        onCloseRequested: root.closeFind()
+    }
+
+    BookText {
+        id: text
+        anchors.bottom: footer.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: findBar.visible ? findBar.bottom : header.bottom
+        book: root.book
+        focus: true
+        fontScale: root.reader.fontScale
+        serif: root.reader.serif
+        visible: !root.book.isLoading && !root.book.isMissing
+        onFindRequested: root.openFind()
+    }
+
+    Item {
+        id: footer
+        anchors.bottom: parent.bottom
+        height: text.visible ? timeLeft.implicitHeight + 2 * Theme.space8 : 0
+        visible: text.visible
+        width: parent.width
+
+        Rectangle {
+            color: Theme.ovBorder
+            height: 2
+            width: parent.width
+
+            Rectangle {
+                color: Theme.accent
+                height: parent.height
+                width: Math.round(parent.width * root.book.progress)
+            }
+        }
+
+        OVText {
+            id: timeLeft
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.ovInkSecondary
+            role: OVText.Caption
+            text: root.book.timeLeftText
+        }
+    }
+
+    OVAppear {
+        anchors.centerIn: parent
+        visible: root.book.isMissing
+        width: Math.min(implicitWidth, parent.width - 2 * Theme.screenPaddingNarrow)
+
+        OVEmptyState {
+            actionSymbol: "square.and.arrow.down"
+            actionText: qsTr("Download it")
+            symbol: "book"
+            title: qsTr("This book's text isn't on disk yet.")
+            width: parent.width
+            onActionTriggered: root.fetchRequested()
+        }
+    }
+}

@@ -9,7 +9,8 @@
 class BookFinder : public QObject
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("The open book has it.")
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
     Q_PROPERTY(int count READ count NOTIFY matchesChanged FINAL)
     /// "3 of 12" or "No matches"; empty without a query.

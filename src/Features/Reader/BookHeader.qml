@@ -72,16 +72,16 @@ FocusScope {
             onClicked: root.findRequested()
         }
 
-        OVIconButton {
+        TextSizeButton {
             enabled: root.reader.canShrink
-            symbol: "textformat.size.smaller"
+            letterSize: Theme.sizeCaption
             text: qsTr("Smaller text")
             onClicked: root.reader.adjustScale(-1)
         }
 
-        OVIconButton {
+        TextSizeButton {
             enabled: root.reader.canGrow
-            symbol: "textformat.size.larger"
+            letterSize: Theme.sizeCardTitle
             text: qsTr("Larger text")
             onClicked: root.reader.adjustScale(1)
         }

@@ -1,12 +1,11 @@
 #include "Features/Reader/BookMarks.h"
 
-#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
-#include <QTextLayout>
 
-BookMarks::BookMarks(QObject *parent) : QObject(parent)
+BookMarks::BookMarks(QObject *parent) : QObject(parent), m_mark([this] { mark(); })
 {
-    connect(this, &BookMarks::changed, this, &BookMarks::mark);
+    connect(this, &BookMarks::changed, &m_mark, &CoalescedCall::request);
 }
 
 void BookMarks::setFinder(BookFinder *finder)
@@ -14,10 +13,10 @@ void BookMarks::setFinder(BookFinder *finder)
     if (m_finder == finder)
         return;
     if (m_finder)
-        m_finder->disconnect(this);
+        m_finder->disconnect(&m_mark);
     m_finder = finder;
     if (m_finder)
-        connect(m_finder, &BookFinder::matchesChanged, this, &BookMarks::mark);
+        connect(m_finder, &BookFinder::matchesChanged, &m_mark, &CoalescedCall::request);
     emit changed();
 }
 
@@ -37,16 +36,19 @@ void BookMarks::mark()
     const auto [first, last] = matches.inRow(m_row);
     if (first == last && !m_hasMarks)
         return;
-    QList<QTextLayout::FormatRange> ranges;
+    m_hasMarks = first != last;
+    // The toolkit draws no grounds for the formats of a layout, only for those of the document.
+    QTextCursor cursor(m_document->textDocument());
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.setCharFormat({});
     for (int i = first; i < last; ++i) {
         const BookMatches::Match match = matches.at(i);
         QTextCharFormat format;
         format.setBackground(i == m_finder->current() ? m_currentColor : m_color);
-        ranges.append({match.start, match.length, format});
+        cursor.setPosition(match.start);
+        cursor.setPosition(match.start + match.length, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(format);
     }
-    m_hasMarks = !ranges.isEmpty();
-    QTextDocument *const document = m_document->textDocument();
-    const QTextBlock block = document->firstBlock();
-    block.layout()->setFormats(ranges);
-    document->markContentsDirty(block.position(), block.length());
+    cursor.endEditBlock();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/Reader/BookFinder.h"
+#include "Foundation/CoalescedCall.h"
 
 #include <QColor>
 #include <QPointer>
@@ -39,4 +40,6 @@ private:
     QColor m_color;
     QColor m_currentColor;
     bool m_hasMarks = false;
+    // At the end of the turn, when the field has its text.
+    CoalescedCall m_mark;
 };

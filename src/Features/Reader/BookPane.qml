@@ -46,6 +46,16 @@ FocusScope {
             backRequested()
     }
 
+    Connections {
+        target: root.book
+
+        // What is hidden while the text is being read has lost the focus.
+        function onLoaded() {
+            if (text.visible && root.activeFocus && !findBar.activeFocus)
+                text.forceActiveFocus(Qt.OtherFocusReason)
+        }
+    }
+
     BookHeader {
         id: header
         author: root.book.author
@@ -68,6 +78,7 @@ FocusScope {
 
     BookText {
         id: text
+        Keys.forwardTo: [keys]
         anchors.bottom: footer.top
         anchors.left: parent.left
         anchors.right: parent.right
@@ -77,7 +88,20 @@ FocusScope {
         fontScale: root.reader.fontScale
         serif: root.reader.serif
         visible: !root.book.isLoading && !root.book.isMissing
+    }
+
+    BookPointer {
+        anchors.fill: text
+        reading: text
+        selection: root.book.selection
+        visible: text.visible
         onFindRequested: root.openFind()
+    }
+
+    BookKeys {
+        id: keys
+        reading: text
+        selection: root.book.selection
     }
 
     Item {

@@ -7,9 +7,9 @@ import Orvel.Reader
 MouseArea {
     id: root
 
-    required property ListView list
     required property BookText reading
     required property BookSelection selection
+    readonly property ListView list: reading.list
     property bool isSelecting: false
 
     signal findRequested()

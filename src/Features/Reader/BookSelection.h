@@ -10,7 +10,8 @@
 class BookSelection : public QObject
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("The open book has it.")
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed FINAL)
     /// The row at which the selection ends that moves.
     Q_PROPERTY(int row READ row NOTIFY changed FINAL)

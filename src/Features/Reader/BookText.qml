@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Templates as T
 import Orvel.DesignSystem
@@ -19,49 +17,52 @@ FocusScope {
     readonly property int lineHeight: Math.round(textSize * 1.6)
     readonly property int padding: width < 760 ? Theme.screenPaddingNarrow : Theme.screenPadding
     readonly property int columnWidth: Math.min(Theme.bookWidth, Math.ceil(measure.advanceWidth), width - 2 * padding)
+    /// The rows.
+    readonly property ListView list: rows
     /// How much of the top row is scrolled by, as a part of its height.
     property real topShare: 0
     /// Whether the view is being put to a place, which then is none that the user has come to.
     property bool isPlacing: false
 
-    signal findRequested()
-
     function scrollBy(distance: real) {
-        const end = list.originY + list.contentHeight - list.height
-        list.contentY = Math.max(list.originY, Math.min(end, list.contentY + distance))
+        const end = rows.originY + rows.contentHeight - rows.height
+        rows.contentY = Math.max(rows.originY, Math.min(end, rows.contentY + distance))
     }
 
     /// By a page less a line.
     function turnPage(direction: int) {
-        scrollBy(direction * Math.max(lineHeight, list.height - lineHeight))
+        scrollBy(direction * Math.max(lineHeight, rows.height - lineHeight))
     }
 
     function goToStart() {
-        list.positionViewAtBeginning()
+        rows.positionViewAtBeginning()
     }
 
     function goToEnd() {
-        list.positionViewAtEnd()
+        rows.positionViewAtEnd()
     }
 
     /// Takes the row at the top of the view for the user's place.
     function notePlace() {
-        if (isPlacing || list.count === 0)
+        if (isPlacing || rows.count === 0)
             return
-        const row = list.indexAt(list.width / 2, list.contentY + 1)
-        const item = list.itemAtIndex(row)
+        const row = rows.indexAt(rows.width / 2, rows.contentY + 1)
+        const item = rows.itemAtIndex(row)
         if (!item)
             return
-        topShare = Math.max(0, Math.min(1, (list.contentY - item.y) / item.height))
+        topShare = Math.max(0, Math.min(1, (rows.contentY - item.y) / item.height))
         book.topRow = row
     }
 
     /// Shows the user's place again.
     function restorePlace() {
         isPlacing = true
-        list.forceLayout()
-        list.positionViewAtIndex(book.topRow, ListView.Beginning)
-        const item = list.itemAtIndex(book.topRow)
+        rows.forceLayout()
+        if (book.topRow === 0 && topShare === 0)
+            rows.positionViewAtBeginning()
+        else
+            rows.positionViewAtIndex(book.topRow, ListView.Beginning)
+        const item = rows.itemAtIndex(book.topRow)
         if (item && topShare > 0)
             scrollBy(Math.round(topShare * item.height))
         isPlacing = false
@@ -74,15 +75,15 @@ FocusScope {
 
     /// Brings a place of a row into view.
     function reveal(row: int, start: int) {
-        let item = list.itemAtIndex(row) as BookParagraph
+        let item = rows.itemAtIndex(row) as BookParagraph
         if (!item) {
-            list.positionViewAtIndex(row, ListView.Beginning)
-            item = list.itemAtIndex(row) as BookParagraph
+            rows.positionViewAtIndex(row, ListView.Beginning)
+            item = rows.itemAtIndex(row) as BookParagraph
         }
         const line = item.lineAt(start)
-        const top = item.y + line.y - list.contentY
-        if (top < lineHeight || top + line.height > list.height - lineHeight)
-            scrollBy(top - list.height / 3)
+        const top = item.y + line.y - rows.contentY
+        if (top < lineHeight || top + line.height > rows.height - lineHeight)
+            scrollBy(top - rows.height / 3)
     }
 
     onColumnWidthChanged: restoreLater()
@@ -115,10 +116,9 @@ FocusScope {
     }
 
     ListView {
-        id: list
+        id: rows
         Accessible.name: root.book.title
         Accessible.role: Accessible.Document
-        Keys.forwardTo: [keys]
         activeFocusOnTab: true
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
@@ -147,21 +147,7 @@ FocusScope {
             family: root.family
             lineHeight: root.lineHeight
             textSize: root.textSize
-            width: list.width
+            width: rows.width
         }
-    }
-
-    BookPointer {
-        anchors.fill: parent
-        list: list
-        reading: root
-        selection: root.book.selection
-        onFindRequested: root.findRequested()
-    }
-
-    BookKeys {
-        id: keys
-        reading: root
-        selection: root.book.selection
     }
 }

@@ -3,6 +3,8 @@
 #include "Features/Reader/BookRow.h"
 #include "Store/BookOperations.h"
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 BookViewModel::BookViewModel(QObject *parent) : ViewModel(parent)
@@ -91,14 +93,16 @@ void BookViewModel::setTopRow(int row)
         return;
     m_topRow = row;
     m_finder.setTopRow(row);
+    m_hasMoved = true;
     m_placeTimer.start();
     emit topRowChanged();
 }
 
 void BookViewModel::keepPlace()
 {
+    // A book that was only opened keeps the place that it had, even if its text has become shorter.
     m_placeTimer.stop();
-    if (m_contents && m_contents->rowCount() > 0 && session())
+    if (std::exchange(m_hasMoved, false) && m_contents)
         BookOperations::keepPlace(store(), m_bookID, m_contents->rows()[m_topRow].paragraph);
 }
 

@@ -80,6 +80,8 @@ private:
     int m_topRow = 0;
     bool m_isLoading = false;
     int m_loads = 0;
+    /// Whether the place is another one than the book has.
+    bool m_hasMoved = false;
     QTimer m_placeTimer;
     // Last, so that it has ended before anything that it uses goes.
     QThreadPool m_background;

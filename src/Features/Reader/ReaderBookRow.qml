@@ -80,7 +80,7 @@ FocusScope {
             filled: row.isOpen
             symbol: "book.closed"
             x: Theme.space8
-            y: texts.y + Math.round((title.height - height) / 2)
+            y: texts.y + Math.round((titleLine.height - height) / 2)
         }
 
         Column {
@@ -91,7 +91,7 @@ FocusScope {
             x: Theme.space8 + Theme.iconRow + Theme.space8
 
             OVText {
-                id: title
+                id: titleLine
                 Accessible.ignored: true
                 color: row.isOpen || pointer.hovered ? Theme.ovInk : Theme.ovInkSecondary
                 font.weight: row.isOpen ? Font.Medium : Theme.textWeight

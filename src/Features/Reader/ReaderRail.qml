@@ -20,7 +20,7 @@ FocusScope {
         if (list.count === 0)
             modes.forceActiveFocus(Qt.TabFocusReason)
         else
-            list.keys.focus(Math.max(0, root.reader.selectedRow), Qt.TabFocusReason)
+            list.keys.focus(root.reader.selectedRow < 0 ? Math.max(0, list.currentIndex) : root.reader.selectedRow, Qt.TabFocusReason)
     }
 
     Column {

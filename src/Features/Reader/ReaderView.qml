@@ -34,18 +34,18 @@ FocusScope {
             rail.focusBooks()
     }
 
+    /// What had the focus may be hidden now.
+    function keepFocus() {
+        if (activeFocus && !rail.activeFocus)
+            focusPane()
+    }
+
     ReaderViewModel {
         id: reader
         active: root.visible
         session: Orvel
         onModeChanged: Qt.callLater(root.focusPane)
         onSelectionChanged: Qt.callLater(root.keepFocus)
-    }
-
-    // What had the focus may be hidden now.
-    function keepFocus() {
-        if (activeFocus && !Window.activeFocusItem?.visible)
-            focusPane()
     }
 
     BookViewModel {

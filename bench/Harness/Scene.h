@@ -49,13 +49,16 @@ public:
 
     QQuickItem *focusItem() const { return m_window.activeFocusItem(); }
 
-private:
+    Desk &desk() { return m_desk; }
+
+protected:
     void settle()
     {
         QCoreApplication::processEvents();
         m_control.polishItems();
     }
 
+private:
     Desk m_desk;
     QByteArray m_source;
     QQmlEngine m_engine;

@@ -27,6 +27,7 @@ constexpr std::array table{
     PlaceScreen{notes, "Orvel/Notes/NotesView.qml"},
     PlaceScreen{databases, "Orvel/Databases/DatabasesView.qml"},
     PlaceScreen{reader, "Orvel/Reader/ReaderView.qml"},
+    PlaceScreen{relax, "Orvel/Relax/RelaxView.qml"},
     PlaceScreen{code, "Orvel/Code/CodeView.qml"},
     PlaceScreen{settings, "Orvel/Settings/SettingsView.qml"},
 };

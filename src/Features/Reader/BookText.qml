@@ -112,7 +112,7 @@ FocusScope {
         font.family: root.family
         font.pixelSize: root.textSize
         // 66 characters of English, the width of a line that is easy to read.
-        text: "It was in the spring of that year, and the house by the river was "
+        text: qsTr("It was in the spring of that year, and the house by the river was ")
     }
 
     ListView {

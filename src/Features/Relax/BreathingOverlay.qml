@@ -39,9 +39,8 @@ Item {
         border.color: Qt.rgba(1, 1, 1, 0.7)
         border.width: 2
         color: Qt.rgba(1, 1, 1, 0.16)
-        height: root.size
+        height: root.size * breath.scale
         radius: height / 2
-        scale: breath.scale
         width: height
     }
 

@@ -191,12 +191,13 @@ void EmbersScene::soft(QImage &image, double seconds)
         return [&, y, dark](float x) {
             const float dx = (x - 0.5F) * aspect * 0.8F;
             const float dy = y - 1.04F;
-            const float near = 0.09F / (dx * dx + dy * dy * 1.6F + 0.09F);
+            const float near = 0.14F / (dx * dx + dy * dy * 1.3F + 0.14F);
             const float low = smoothBetween(0.55F, 1.0F, y);
             const float tongues = clouds(3.2F * x * aspect, 3.4F * y + 0.22F * time, 59);
             const float smoke = clouds(1.8F * x * aspect + 0.01F * time, 2.2F * y + 0.05F * time, 67);
-            return dark + fire * (0.4F * near * breath + 0.06F * smoke * (1 - low)) +
-                   heart * (0.55F * near * low * tongues * tongues * breath);
+            return dark * (0.45F + 0.55F * near) +
+                   fire * (0.85F * near * near * near * breath + 0.05F * smoke * (1 - low)) +
+                   heart * (1.1F * near * near * low * tongues * tongues * breath);
         };
     });
 }

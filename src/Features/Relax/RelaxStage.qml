@@ -19,6 +19,14 @@ Item {
     Accessible.name: showsVideo ? video.sourceLabel : relax.sceneLabel
     Accessible.role: Accessible.Graphic
 
+    // Behind a scene while it appears.
+    Rectangle {
+        anchors.fill: parent
+        color: Qt.rgba(0.05, 0.06, 0.09, 1)
+        radius: root.radius
+        visible: !Theme.inkMode
+    }
+
     AmbientScene {
         id: ambient
         anchors.fill: parent

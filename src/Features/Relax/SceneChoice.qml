@@ -25,6 +25,8 @@ FocusScope {
         spacing: Theme.space12
         width: root.width
 
+        readonly property int columns: width < 8 * 100 ? Math.max(2, Math.min(4, Math.floor(width / 120))) : 8
+
         Repeater {
             id: thumbnails
             model: root.relax.scenes
@@ -42,7 +44,7 @@ FocusScope {
                 checked: modelData.raw === root.relax.scene && !root.relax.useVideo
                 focus: modelData.raw === root.relax.scene
                 implicitHeight: 74
-                implicitWidth: 120
+                implicitWidth: Math.floor((flow.width - (flow.columns - 1) * flow.spacing) / flow.columns)
                 radius: Theme.cornerCard
                 tabStop: modelData.raw === root.relax.scene || activeFocus
                 text: modelData.label

@@ -60,7 +60,7 @@ Item {
         }
 
         function scene(from = root.view) {
-            return find(root.view.relax.sceneLabel, from).children[0]
+            return find(root.view.relax.sceneLabel, from)
         }
 
         function links() {

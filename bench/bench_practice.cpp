@@ -102,7 +102,7 @@ int main(int argc, char *argv[])
         screen.setSession(desk.session.get());
         int habit = 0;
         const auto toggles = Comparison::alternate(
-            100,
+            20,
             [&] {
                 const QUuid id = desk.store->list<Habit>().at(habit++ % habitCount).id;
                 return timed([&] {
@@ -127,7 +127,7 @@ int main(int argc, char *argv[])
     const CalendarEvent event = desk.store->list<CalendarEvent>().at(eventCount / 2);
     qint64 minutes = 0;
     const auto counts = Comparison::alternate(
-        30,
+        20,
         [&] {
             TaskOperations::cycleStatus(*desk.store, task);
             desk.store->change<CalendarEvent>(

@@ -38,7 +38,7 @@ GridLayout {
         chart: OVRingChart {
             colors: Theme.inkMode ? [Theme.ovInkTertiary, Theme.ovInkSecondary, Theme.ovInk]
                                   : [Theme.ovInkSecondary, Theme.ovInfo, Theme.ovSuccess]
-            unit: qsTr("tasks")
+            unit: total === 1 ? qsTr("task") : qsTr("tasks")
         }
     }
 

@@ -4,9 +4,13 @@
 #include "Features/Decks/PdfImageWriter.h"
 #include "Features/Decks/PowerPointWriter.h"
 #include "Features/Decks/ShownSlide.h"
+#include "Features/Decks/SlideFont.h"
 #include "Features/Decks/SlidePainter.h"
 
 #include <QPainter>
+#include <QThreadPool>
+
+#include <vector>
 
 namespace
 {
@@ -36,21 +40,35 @@ std::expected<QByteArray, DeckExportError> DeckExporter::make(const Deck &deck, 
 
 std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck, DeckExportProgress *progress)
 {
+    // Looks the families up before threads ask for them.
+    for (const EnumCase<SlideTheme::FontKind> &kind : enumCases<SlideTheme::FontKind>())
+        (void)SlideFont::of({.font = kind.value});
+    std::vector<std::optional<PdfImageWriter::Page>> pages(std::size_t(deck.slides.size()));
+    std::atomic<bool> isRendered = true;
+    // The threads stay from slide to slide, and with them the fonts that each has loaded.
+    QThreadPool pool;
+    for (int i = 0; i < deck.slides.size(); ++i)
+        pool.start([&deck, &pages, &isRendered, progress, i] {
+            if (!isRendered || (progress && progress->isCancelled))
+                return;
+            const QImage slide = picture(deck, i);
+            if (slide.isNull())
+                isRendered = false;
+            else
+                pages[std::size_t(i)] = PdfImageWriter::packed(slide);
+            if (progress)
+                ++progress->slidesDone;
+        });
+    pool.waitForDone();
+    if (!isRendered)
+        return std::unexpected(DeckExportError::renderFailed);
     PdfImageWriter writer(page);
-    for (int i = 0; i < deck.slides.size(); ++i) {
-        if (progress && progress->isCancelled)
-            return std::unexpected(DeckExportError::renderFailed);
-        const QImage slide = picture(deck, i);
-        if (slide.isNull())
-            return std::unexpected(DeckExportError::renderFailed);
-        writer.addPage(slide);
-        if (progress)
-            ++progress->slidesDone;
+    for (const auto &packed : pages) {
+        if (!packed)
+            return std::unexpected(DeckExportError::writeFailed);
+        writer.addPage(*packed);
     }
-    auto document = writer.finish();
-    if (!document)
-        return std::unexpected(DeckExportError::writeFailed);
-    return std::move(*document);
+    return writer.finish();
 }
 
 QImage DeckExporter::picture(const Deck &deck, int index)

@@ -112,33 +112,23 @@ void PdfImageWriter::writeStream(const QByteArray &entries, const QByteArray &da
                "\nendstream\nendobj\n";
 }
 
-void PdfImageWriter::addPage(const QImage &picture)
+std::optional<PdfImageWriter::Page> PdfImageWriter::packed(const QImage &picture)
 {
-    writePending();
-    m_pendingSize = picture.size();
-    m_pending = std::async(std::launch::async, [picture] { return packedRows(picture); });
+    const auto rows = packedRows(picture);
+    return rows ? std::optional(Page{picture.size(), *rows}) : std::nullopt;
 }
 
-void PdfImageWriter::writePending()
+void PdfImageWriter::addPage(const Page &page)
 {
-    if (!m_pending.valid())
-        return;
-    const auto packed = m_pending.get();
-    m_isWhole = m_isWhole && packed.has_value();
-    if (packed)
-        writePage(m_pendingSize, *packed);
-}
-
-void PdfImageWriter::writePage(QSize size, const QByteArray &packed)
-{
-    const QByteArray width = QByteArray::number(size.width());
+    const QByteArray width = QByteArray::number(page.size.width());
     const int image = beginObject();
     writeStream(
-        "/Type /XObject /Subtype /Image /Width " + width + " /Height " + QByteArray::number(size.height()) +
+        "/Type /XObject /Subtype /Image /Width " + width + " /Height " +
+            QByteArray::number(page.size.height()) +
             " /ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode /DecodeParms << /Predictor 15 "
             "/Colors 3 /BitsPerComponent 8 /Columns " +
             width + " >>",
-        packed);
+        page.packed);
     const int content = beginObject();
     writeStream({}, "q " + number(m_pageSize.width()) + " 0 0 " + number(m_pageSize.height()) +
                         " 0 0 cm /Slide Do Q");
@@ -149,11 +139,8 @@ void PdfImageWriter::writePage(QSize size, const QByteArray &packed)
                QByteArray::number(content) + " 0 R >>\nendobj\n";
 }
 
-std::optional<QByteArray> PdfImageWriter::finish()
+QByteArray PdfImageWriter::finish()
 {
-    writePending();
-    if (!m_isWhole)
-        return std::nullopt;
     QByteArray kids;
     for (const int page : m_pages)
         kids += QByteArray::number(page) + " 0 R ";

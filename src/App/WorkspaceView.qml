@@ -3,8 +3,8 @@ import Orvel.App
 import Orvel.Session
 import Orvel.Shell
 
-/// Everything in the window once the onboarding is done: the shell around the screens, and over it the palette and the
-/// sheet of shortcuts.
+/// Everything in the window once the onboarding is done: the shell around the screens, and over it presentations, the
+/// palette and the sheet of shortcuts.
 FocusScope {
     AppShellView {
         id: shell
@@ -19,7 +19,12 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
-    // Made ahead, so that it opens with the next frame.
+    // Made ahead, so that they open with the next frame.
+    Loader {
+        asynchronous: true
+        source: "../Decks/DeckPresenterLayer.qml"
+    }
+
     Loader {
         asynchronous: true
         source: "../Palette/CommandPalette.qml"

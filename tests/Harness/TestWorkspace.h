@@ -193,6 +193,8 @@ public:
         return id.toString(QUuid::WithoutBraces);
     }
 
+    Q_INVOKABLE void present(const QString &deckID) { m_ui.setPresentingDeckID(QUuid(deckID)); }
+    Q_INVOKABLE void deleteDeck(const QString &id) { m_store.erase<Deck>(QUuid(id)); }
     /// The title of the deck that is presented; empty for none.
     Q_INVOKABLE QString presentedDeck() const
     {

@@ -43,7 +43,7 @@ FocusScope {
         if (editor.hasSlide)
             filmstrip.forceActiveFocus(Qt.TabFocusReason)
         else
-            header.forceActiveFocus(Qt.TabFocusReason)
+            toolbar.focusAdd()
     }
 
     DeckHeader {
@@ -117,5 +117,6 @@ FocusScope {
         visible: root.editor.hasSlide
         width: parent.width
         onEditRequested: slide.enter(true)
+        onEmptied: toolbar.focusAdd()
     }
 }

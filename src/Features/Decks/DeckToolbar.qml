@@ -14,6 +14,10 @@ Item {
     signal added()
     signal deleteRequested()
 
+    function focusAdd() {
+        add.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     implicitHeight: Theme.buttonHeight
 
     Row {

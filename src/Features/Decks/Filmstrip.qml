@@ -21,9 +21,13 @@ ListView {
     }
 
     signal editRequested()
+    /// The last slide is gone, and the keyboard was here.
+    signal emptied()
 
     function remove() {
         editor.deleteSlide()
+        if (count === 0)
+            return emptied()
         forceActiveFocus(focusByKeys ? Qt.TabFocusReason : Qt.MouseFocusReason)
     }
 
@@ -66,7 +70,7 @@ ListView {
 
     Accessible.name: qsTr("Slides")
     Accessible.role: Accessible.List
-    activeFocusOnTab: count > 0
+    activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     currentIndex: editor.selectedIndex

@@ -1,5 +1,6 @@
 #include "Features/Decks/DeckEditorViewModel.h"
 #include "Features/Decks/DeckExportViewModel.h"
+#include "Features/Decks/DeckPresenterViewModel.h"
 #include "Features/Decks/DecksViewModel.h"
 #include "Harness/TestWorkspace.h"
 #include "Store/DeckOperations.h"
@@ -254,6 +255,51 @@ private slots:
         QCOMPARE(revealed.size(), 1);
         QCOMPARE(revealed[0][1].toString(), u"title"_s);
         QCOMPARE(revealed[0][2].toInt(), 1);
+    }
+
+    void slidesFitBetweenTheBars()
+    {
+        using Presenter = DeckPresenterViewModel;
+        QCOMPARE(Presenter::fittedSize({1600, 1300}, -1), QSizeF(1600, 900));
+        QCOMPARE(Presenter::fittedSize({1600, 930}, -1), QSizeF(1440, 810));
+        QCOMPARE(Presenter::fittedSize({1600, 930}, 150), QSizeF(570 * 16.0 / 9, 570));
+        QCOMPARE(Presenter::fittedSize({1600, 200}, 150).height(), 160.0);
+    }
+
+    void theTimerCountsMinutesBeyondAnHour()
+    {
+        const Timestamp start = m_workspace->clock().now();
+        const auto after = [&](std::chrono::milliseconds time) {
+            return DeckPresenterViewModel::timerText(start, start + time);
+        };
+        QCOMPARE(after(std::chrono::milliseconds(61'999)), u"01:01"_s);
+        QCOMPARE(after(std::chrono::minutes(75)), u"75:00"_s);
+        QCOMPARE(after(std::chrono::seconds(-5)), u"00:00"_s);
+    }
+
+    void aTalkKeepsTheDeckItBeganWith()
+    {
+        const QUuid plan = addDeck(u"Plan"_s, {u"a"_s, u"b"_s});
+        DeckPresenterViewModel talk;
+        talk.setSession(m_session.get());
+        QVERIFY(!talk.isPresenting());
+        m_workspace->ui().setPresentingDeckID(QUuid::createUuid());
+        QVERIFY(!talk.isPresenting());
+        m_workspace->ui().setPresentingDeckID(plan);
+        QCOMPARE(talk.count(), 2);
+        talk.advance(-1);
+        QCOMPARE(talk.index(), 0);
+        talk.advance(1);
+        talk.advance(1);
+        QCOMPARE(talk.index(), 1);
+        QCOMPARE(talk.progress(), 1.0);
+        talk.setBlanked(true);
+        m_workspace->clock().advance(std::chrono::minutes(2));
+        talk.restartTimer();
+        QCOMPARE(talk.elapsedText(), u"00:00"_s);
+        QVERIFY(talk.isBlanked());
+        talk.close();
+        QVERIFY(!talk.isPresenting());
     }
 
     void exportsWithoutHoldingTheWindow()

@@ -42,7 +42,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             text: DisplayText.shown(root.label)
             tone: root.tone
-            width: Math.min(implicitWidth, parent.width - number.width - addButton.width - Theme.space16)
+            width: Math.min(implicitWidth, parent.width - number.width - Theme.space16)
             x: Theme.space4
 
             OVText {

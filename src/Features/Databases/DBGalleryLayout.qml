@@ -97,6 +97,8 @@ FocusScope {
 
         activeFocusOnTab: count > 0 || activeFocus
         anchors.fill: parent
+        // Room for the last tile where it begins a row of its own.
+        bottomMargin: count % columns === 0 ? cellHeight : 0
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 0
         cellHeight: root.cardHeight + Theme.space12
@@ -142,11 +144,6 @@ FocusScope {
                 recordKeys.ringShown = false
             }
         }
-        // Room for the last tile where it begins a row of its own.
-        footer: Item {
-            height: grid.count % grid.columns === 0 ? grid.cellHeight : 0
-        }
-
         OVPressable {
             id: addTile
             height: root.cardHeight

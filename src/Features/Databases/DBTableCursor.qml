@@ -36,6 +36,8 @@ QtObject {
         keys.ringShown = true
         keys.fillColumn = -1
         show(keys.row + rows, keys.column + columns)
+        if (columns < 0 && keys.column === 0)
+            list.contentX = 0
         return true
     }
 

@@ -67,6 +67,10 @@ FocusScope {
         list: list
     }
 
+    DBSections {
+        id: sections
+    }
+
     DBTableColumns {
         id: tableColumns
         listLike: root.listLike
@@ -77,6 +81,11 @@ FocusScope {
 
     Connections {
         target: root.records
+        function onLaidOut() {
+            // The view does not look at the sections of rows that stay where they are.
+            list.section.property = ""
+            list.section.property = root.sectioned ? "section" : ""
+        }
         function onRevealed(row, column) {
             if (list.activeFocus && recordKeys.row === row && cursor.cell()?.editing)
                 return
@@ -87,21 +96,15 @@ FocusScope {
     }
 
     Rectangle {
-        id: card
+        id: body
         border.color: Theme.ovBorder
         border.width: Theme.lineWidth
+        clip: true
         color: Theme.ovSurface
-        height: body.height
+        height: Math.min(root.height, header.height + list.contentHeight + addButton.height + 1
+                         + (nothing.visible ? nothing.height : 0))
         radius: Theme.cornerField
         width: root.listLike ? root.width : Math.min(root.width, tableColumns.contentWidth + 2)
-    }
-
-    Item {
-        id: body
-        clip: true
-        height: Math.min(root.height, header.height + list.contentHeight + addButton.height + emptyText.space
-                         + emptyState.space + 1)
-        width: card.width
 
         DBTableHeader {
             id: header
@@ -116,30 +119,15 @@ FocusScope {
             onLeaveDown: list.forceActiveFocus(Qt.TabFocusReason)
         }
 
-        OVText {
-            id: emptyText
-            readonly property real space: visible ? height : 0
-            color: Theme.ovInkSecondary
-            height: implicitHeight + 2 * Theme.space16
-            leftPadding: Theme.space12
-            role: OVText.Dense
-            text: qsTr("No records yet. Add your first one below.")
-            visible: root.records.isEmpty && !root.listLike
-            width: parent.width
-            wrapMode: Text.Wrap
-            y: header.height
-        }
-
-        OVEmptyState {
-            id: emptyState
-            readonly property real space: visible ? height + Theme.space48 + Theme.space16 : 0
+        NoRecords {
+            id: nothing
+            isList: root.listLike
             message: root.emptyMessage
             symbol: root.emptySymbol
             title: root.emptyTitle
-            visible: root.listLike && (root.records.isEmpty || !root.canAdd)
-            width: parent.width - 2 * Theme.space24
-            x: Theme.space24
-            y: Theme.space48
+            visible: root.records.isEmpty || !root.canAdd
+            width: parent.width
+            y: header.height
         }
 
         ListView {
@@ -157,10 +145,7 @@ FocusScope {
             keyNavigationEnabled: false
             model: root.records.rows
             reuseItems: true
-            section.delegate: DBSectionLabel {
-                width: list.width
-                x: list.contentX
-            }
+            section.delegate: sections.label
             section.property: root.sectioned ? "section" : ""
             visible: root.canAdd
             width: parent.width - 2

@@ -156,6 +156,8 @@ Item {
             compare(values("Item"), "Plan B")
             keyClick(Qt.Key_D, Qt.ControlModifier)
             compare(values("Item"), "Plan B|Plan B")
+            if (data.tag === "calendar")
+                verify(find("NO DATE") !== null)
             keyClick(Qt.Key_Z, Qt.ControlModifier)
         }
 

@@ -78,7 +78,8 @@ FocusScope {
                 OVPrimaryButton {
                     id: primary
                     focus: true
-                    keyText: qsTr("Space")
+                    // In a narrow place the buttons need the room.
+                    keyText: root.width >= 2 * Theme.fieldWidth ? qsTr("Space") : ""
                     symbol: root.viewModel.primarySymbol
                     text: root.viewModel.primaryText
                     onClicked: root.viewModel.toggleRunning()

@@ -176,9 +176,11 @@ FocusScope {
             anchors.right: parent.right
             editor: editor
             enabled: visible
-            height: parent.height
+            height: parent.height - y
             visible: root.showInspector && (!root.isNarrow || !root.railOverDeck)
-            width: Math.round(256 * Theme.fontScale)
+            width: Math.round(Math.min(256 * Theme.fontScale, parent.width))
+            // Over the deck it leaves the way to hide it free.
+            y: root.isNarrow ? Theme.buttonHeight + Theme.space8 : 0
         }
     }
 

@@ -8,6 +8,7 @@ T.Popup {
     id: root
 
     required property DeckExportViewModel deckExport
+    property real rise: 0
 
     closePolicy: T.Popup.NoAutoClose
     horizontalPadding: Theme.space16
@@ -16,7 +17,7 @@ T.Popup {
     parent: T.Overlay.overlay
     verticalPadding: Theme.space8
     x: Math.round((parent.width - width) / 2)
-    y: parent.height - height - Theme.space32
+    y: parent.height - height - Theme.space32 + rise
     OVAccessible.name: qsTr("Exporting")
     OVAccessible.role: Accessible.AlertMessage
 

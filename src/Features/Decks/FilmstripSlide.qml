@@ -61,7 +61,7 @@ Item {
             shown: row.shown
             width: parent.width - 6
             x: 3
-            y: 5
+            y: Theme.space8
         }
 
         OVText {

@@ -34,7 +34,7 @@ OVSheet {
             id: pathField
             focus: true
             placeholderText: qsTr("Path of the file, or drop it here")
-            width: parent.width - readButton.width - Theme.space8
+            width: parent.width - readButton.width - chooseButton.width - 2 * Theme.space8
             onAccepted: readButton.activate()
 
             DropArea {
@@ -46,6 +46,13 @@ OVSheet {
                     sheet.transfer.read(pathField.text)
                 }
             }
+        }
+
+        OVSecondaryButton {
+            id: chooseButton
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Choose…")
+            onClicked: sheet.transfer.choose()
         }
 
         OVSecondaryButton {

@@ -33,7 +33,8 @@ struct CsvTransfer::Job {
 CsvTransfer::CsvTransfer(QObject *parent)
     : ViewModel(parent),
       m_dialog(QDBusConnection::sessionBus(),
-               QStandardPaths::writableLocation(QStandardPaths::DownloadLocation))
+               QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)),
+      m_portal(QDBusConnection::sessionBus())
 {
 }
 
@@ -81,6 +82,20 @@ void CsvTransfer::cancel()
     m_job->isCanceled = true;
     m_isBusy = false;
     emit stateChanged();
+}
+
+void CsvTransfer::choose()
+{
+    m_portal.ask(QStringLiteral("OpenFile"), tr("Import CSV"), {},
+                 [this](const std::expected<QString, FilePortal::NoFile> &path) {
+                     if (path)
+                         return read(*path);
+                     if (path.error() == FilePortal::NoFile::cancelled)
+                         return;
+                     m_error =
+                         tr("This desktop has no file dialog. Type the path of the file, or drop it here.");
+                     emit stateChanged();
+                 });
 }
 
 void CsvTransfer::read(const QString &place)

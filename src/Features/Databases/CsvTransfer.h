@@ -3,6 +3,7 @@
 #include "Features/Databases/CsvReader.h"
 #include "Foundation/KeyedListModel.h"
 #include "Models/DBRow.h"
+#include "Session/FilePortal.h"
 #include "Session/SaveFileDialog.h"
 #include "Session/ViewModel.h"
 
@@ -59,6 +60,8 @@ public:
     QString summary() const;
     QAbstractItemModel *columns() { return &m_columns; }
 
+    /// Lets the user choose the file to read in the dialog of the desktop.
+    Q_INVOKABLE void choose();
     /// Begins to read a file.
     /// @param place a path or the address of a file
     Q_INVOKABLE void read(const QString &place);
@@ -103,4 +106,5 @@ private:
     std::shared_ptr<Job> m_job;
     std::thread m_worker;
     SaveFileDialog m_dialog;
+    FilePortal m_portal;
 };

@@ -124,6 +124,14 @@ ListView {
         z: 3
     }
 
+    Connections {
+        target: list.editor
+
+        function onDeckIDChanged() {
+            list.positionViewAtBeginning()
+        }
+    }
+
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         orientation: Qt.Vertical

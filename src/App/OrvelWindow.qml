@@ -55,6 +55,11 @@ Window {
         window: window
     }
 
+    Loader {
+        active: rootView.isDrawn
+        source: "../MenuBar/MenuBarExtra.qml"
+    }
+
     CommandKeys {
         active: rootView.isDrawn
         commands: commands

@@ -240,6 +240,9 @@ public:
 
     Q_INVOKABLE QString clipboard() const { return QGuiApplication::clipboard()->text(); }
 
+    /// The place that the window shows, as `Destination::text()`.
+    Q_INVOKABLE QString selection() const { return m_ui.selection().text(); }
+
     /// What stands in the file after a save.
     Q_INVOKABLE QString saved()
     {
@@ -263,6 +266,10 @@ public:
         m_store.changeSettings([&](AppSettings &settings) {
             settings.theme.navigation = enumFromRaw<NavigationStyle>(raw).value();
         });
+    }
+    Q_INVOKABLE void setMenuBarShowsTasks(bool shown)
+    {
+        m_store.changeSettings([&](AppSettings &settings) { settings.menuBarShowsTasks = shown; });
     }
     Q_INVOKABLE void setTabBarLabels(bool shown)
     {

@@ -63,9 +63,12 @@ Column {
         Column {
             width: parent.width
 
-            SettingSwitch {
-                field: "menuBarEnabled"
+            OVSwitch {
+                checked: root.viewModel.menuBarEnabled
+                indicatorTrailing: true
                 text: qsTr("Show Orvel in the menu bar")
+                width: parent.width
+                onToggled: root.viewModel.menuBarEnabled = checked
             }
 
             SettingSwitch {

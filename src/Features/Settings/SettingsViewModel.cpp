@@ -5,9 +5,22 @@
 
 #include <QLocale>
 
+namespace
+{
+const QString menuBarKey = QStringLiteral("orvel.menuBarEnabled");
+}
+
 SettingsViewModel::SettingsViewModel(QObject *parent) : ViewModel(parent)
 {
     follow<Page, TaskItem, Project, Habit, DatabaseTable, CalendarEvent, CodeDocument, Deck>();
+}
+
+void SettingsViewModel::start()
+{
+    connect(&session()->preferences(), &Preferences::changed, this, [this](const QString &key) {
+        if (key == menuBarKey)
+            emit menuBarEnabledChanged();
+    });
 }
 
 void SettingsViewModel::refresh(const ChangeSet &)
@@ -26,6 +39,17 @@ void SettingsViewModel::refresh(const ChangeSet &)
 QStringList SettingsViewModel::workspaceIcons()
 {
     return ::workspaceIcons();
+}
+
+bool SettingsViewModel::menuBarEnabled() const
+{
+    return session() && session()->preferences().value(menuBarKey, true).toBool();
+}
+
+void SettingsViewModel::setMenuBarEnabled(bool enabled)
+{
+    store().changeSettings([enabled](AppSettings &settings) { settings.menuBarEnabled = enabled; });
+    session()->preferences().setValue(menuBarKey, enabled);
 }
 
 QString SettingsViewModel::updatesText() const

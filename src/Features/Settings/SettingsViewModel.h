@@ -26,6 +26,9 @@ class SettingsViewModel : public ViewModel
     Q_PROPERTY(QAbstractItemModel *counts READ counts CONSTANT FINAL)
     Q_PROPERTY(bool hasExampleContent READ hasExampleContent NOTIFY hasExampleContentChanged FINAL)
     Q_PROPERTY(QStringList workspaceIcons READ workspaceIcons CONSTANT FINAL)
+    /// Whether the icon on the desktop's panel is wanted on this machine.
+    Q_PROPERTY(
+        bool menuBarEnabled READ menuBarEnabled WRITE setMenuBarEnabled NOTIFY menuBarEnabledChanged FINAL)
     /// Where and when updates are looked for.
     Q_PROPERTY(QString updatesText READ updatesText NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString versionText READ versionText NOTIFY sessionChanged FINAL)
@@ -37,6 +40,8 @@ public:
     const QList<SettingsCount> &countList() const { return m_counts.rows(); }
     bool hasExampleContent() const { return m_hasExampleContent; }
     static QStringList workspaceIcons();
+    bool menuBarEnabled() const;
+    void setMenuBarEnabled(bool enabled);
     QString updatesText() const;
     QString versionText() const;
 
@@ -48,8 +53,10 @@ public:
 
 signals:
     void hasExampleContentChanged();
+    void menuBarEnabledChanged();
 
 private:
+    void start() override;
     void refresh(const ChangeSet &changes) override;
 
     KeyedListModel<SettingsCount> m_counts;

@@ -26,6 +26,7 @@ private slots:
     void countsFollowTheWorkspace();
     void examplesGoInOneStep();
     void theFirstRunCanBeRepeated();
+    void theMenuBarIsOfThisMachine();
 
 private:
     const AppSettings &settings() const { return m_workspace->store().settings(); }
@@ -237,6 +238,22 @@ void SettingsViewModelTest::theFirstRunCanBeRepeated()
     QCOMPARE(m_workspace->ui().selection(), Destination());
     QVERIFY(m_workspace->store().tasks().isEmpty());
     QVERIFY(settings() == AppSettings());
+}
+
+void SettingsViewModelTest::theMenuBarIsOfThisMachine()
+{
+    SettingsViewModel model;
+    model.setSession(m_session.get());
+    QSignalSpy changes(&model, &SettingsViewModel::menuBarEnabledChanged);
+    QVERIFY(model.menuBarEnabled());
+    model.setMenuBarEnabled(false);
+    QVERIFY(!model.menuBarEnabled());
+    QVERIFY(!settings().menuBarEnabled);
+    QCOMPARE(m_session->preferences().value(u"orvel.menuBarEnabled"_s), QVariant(false));
+    // A workspace from elsewhere does not decide it.
+    m_workspace->store().resetEverything(false);
+    QVERIFY(!model.menuBarEnabled());
+    QCOMPARE(changes.count(), 1);
 }
 
 QTEST_MAIN(SettingsViewModelTest)

@@ -1,0 +1,50 @@
+#include "Features/MenuBar/MenuBarViewModel.h"
+
+#include "Features/Tasks/TaskFilters.h"
+#include "Foundation/LineText.h"
+#include "Store/HabitOperations.h"
+#include "Store/TaskOperations.h"
+#include "Support/OrvelNavigation.h"
+
+MenuBarViewModel::MenuBarViewModel(QObject *parent) : ViewModel(parent)
+{
+    follow<TaskItem, Habit>();
+    followSettings();
+    followDays();
+}
+
+void MenuBarViewModel::refresh(const ChangeSet &)
+{
+    const AppSettings &settings = store().settings();
+    const int hour = toDateTime(store().now(), clock().timeZone()).time().hour();
+    Shown next{.icon = settings.workspaceIcon,
+               .name = OrvelNavigation::windowTitle(settings),
+               .greeting = settings.greeting(hour),
+               .habitCount = int(HabitOperations::doneToday(store())),
+               .listsTasks = settings.menuBarShowsTasks};
+    const TaskDay day(clock());
+    QList<MenuBarTask> due;
+    for (const TaskItem &task : store().tasks()) {
+        next.openCount += task.status != TaskStatus::done;
+        if (TaskFilters::takes(TaskFilter::today, task, day))
+            due.append({task.id, task.title});
+    }
+    m_tasks.setRows(due);
+    m_shown = next;
+    emit changed();
+}
+
+bool MenuBarViewModel::addTask(const QString &title)
+{
+    const QString trimmed = LineText::singleLine(title).trimmed();
+    if (trimmed.isEmpty())
+        return false;
+    TaskOperations::create(store(), trimmed, TaskItem().priority, store().now());
+    flush();
+    return true;
+}
+
+void MenuBarViewModel::finishTask(const QUuid &taskID)
+{
+    TaskOperations::setStatus(store(), taskID, TaskStatus::done);
+}

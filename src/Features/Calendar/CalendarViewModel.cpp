@@ -181,7 +181,8 @@ void CalendarViewModel::layOut()
 CalendarCell CalendarViewModel::cellOf(int index, QDate day, const DayItems &items) const
 {
     const bool isMonth = m_mode == CalendarMode::month;
-    const QList<DayItem> all = items.on(day);
+    const qsizetype count = items.countOn(day);
+    const QList<DayItem> shown = items.on(day, isMonth ? monthChips : weekChips);
     CalendarCell cell{.id = index,
                       .day = day,
                       .number = isMonth ? OVDate::dayNumber(day) : OVDate::weekdayShort(day),
@@ -189,18 +190,17 @@ CalendarCell CalendarViewModel::cellOf(int index, QDate day, const DayItems &ite
                       .isInPeriod = !isMonth || day.month() == m_cursor.month(),
                       .isToday = day == m_today,
                       .isSelected = day == m_selected};
-    if (all.size() == 1)
+    if (count == 1)
         cell.label = tr("%1, 1 item").arg(cell.label);
-    else if (!all.isEmpty())
-        cell.label = tr("%1, %2 items").arg(cell.label).arg(all.size());
-    const qsizetype shown = std::min(all.size(), isMonth ? monthChips : weekChips);
-    if (all.size() > shown)
-        cell.moreText = tr("%1 more").arg(all.size() - shown);
-    for (qsizetype i = 0; i < shown; ++i)
-        cell.chips.append({.id = int(i),
-                           .title = LineText::shown(all[i].title),
-                           .tone = int(all[i].tone),
-                           .isDone = all[i].done});
+    else if (count > 1)
+        cell.label = tr("%1, %2 items").arg(cell.label).arg(count);
+    if (count > shown.size())
+        cell.moreText = tr("%1 more").arg(count - shown.size());
+    for (const DayItem &item : shown)
+        cell.chips.append({.id = int(cell.chips.size()),
+                           .title = LineText::shown(item.title),
+                           .tone = int(item.tone),
+                           .isDone = item.done});
     return cell;
 }
 

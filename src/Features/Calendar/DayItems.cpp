@@ -59,16 +59,28 @@ DayItems::DayItems(const WorkspaceStore &store, const QList<QDate> &days) : m_st
     }
 }
 
-QList<DayItem> DayItems::on(QDate day) const
+QList<DayItem> DayItems::on(QDate day, qsizetype most) const
 {
     QList<DayItem> items;
-    for (const CalendarEvent *event : EventOperations::onDay(m_store, day))
+    for (const CalendarEvent *event : EventOperations::onDay(m_store, day)) {
+        if (items.size() == most)
+            return items;
         items.append(DayItem::of(*event));
-    for (const TaskItem *task : m_tasks.value(day))
+    }
+    for (const TaskItem *task : m_tasks.value(day)) {
+        if (items.size() == most)
+            return items;
         items.append({.id = itemID(u't', task->id),
                       .title = task->title,
                       .kindLabel = tr("Task"),
                       .done = task->status == TaskStatus::done,
                       .notes = task->notes});
+    }
     return items;
+}
+
+qsizetype DayItems::countOn(QDate day) const
+{
+    const auto events = m_store.groups().eventsByDay.of(m_store.list<CalendarEvent>(), day);
+    return events.size() + m_tasks.value(day).size();
 }

@@ -3,6 +3,8 @@
 #include "Foundation/BadgeTone.h"
 #include "Store/WorkspaceStore.h"
 
+#include <limits>
+
 /// An event or a task as it stands on its day in the calendar.
 struct DayItem {
     /// "e" or "t" and the id of the record.
@@ -33,7 +35,9 @@ public:
     DayItems(const WorkspaceStore &store, const QList<QDate> &days);
 
     /// All-day events, then timed ones by their time, then tasks.
-    QList<DayItem> on(QDate day) const;
+    /// @param most as many of the first ones as are wanted
+    QList<DayItem> on(QDate day, qsizetype most = std::numeric_limits<qsizetype>::max()) const;
+    qsizetype countOn(QDate day) const;
 
 private:
     const WorkspaceStore &m_store;

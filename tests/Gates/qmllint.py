@@ -19,6 +19,7 @@ ID = re.compile(r"^\s*id:\s*(\w+)", re.MULTILINE)
 FALSE_ALARMS = [
     'Type "QUuid" of property',  # Qt 6.4 does not describe it to QML, which hands it on all the same
     'No type found for property "pageID"',  # a QUuid too
+    'No type found for property "bookID"',
     'No type found for property "projectID"',
     "Cannot assign binding of type QStringList to QList<QString>",  # two names of one type
     'Property "callLater" is a QJSValue property',  # it is a method of Qt's own

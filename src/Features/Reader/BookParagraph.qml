@@ -85,8 +85,8 @@ Item {
     }
 
     BookMarks {
-        color: Qt.alpha(Theme.ovWarning, Theme.dark ? 0.3 : 0.25)
-        currentColor: Qt.alpha(Theme.ovWarning, 0.6)
+        color: Theme.inkMode ? Qt.alpha(Theme.ovInk, 0.14) : Qt.alpha(Theme.ovWarning, Theme.dark ? 0.3 : 0.25)
+        currentColor: Theme.inkMode ? Qt.alpha(Theme.ovInk, 0.34) : Qt.alpha(Theme.ovWarning, 0.6)
         document: words.textDocument
         finder: root.book.finder
         row: root.index

@@ -16,12 +16,13 @@ FocusScope {
     required property ListFocus keys
     property int inset: 0
     property bool isOpen: false
+    readonly property ListView list: ListView.view as ListView
     readonly property bool isRinged: activeFocus && keys.ringShown
 
     signal opened()
 
     function remove() {
-        const count = keys.view.count
+        const count = list.count
         if (activeFocus && count > 1)
             keys.focus(index + 1 < count ? index + 1 : index - 1, Qt.TabFocusReason)
         reader.remove(bookID)
@@ -32,16 +33,16 @@ FocusScope {
     Accessible.role: Accessible.ListItem
     Accessible.selected: isOpen
     Accessible.onPressAction: opened()
-    activeFocusOnTab: activeFocus || (keys.view.currentIndex < 0 ? index === Math.max(0, reader.selectedRow)
+    activeFocusOnTab: activeFocus || ((list?.currentIndex ?? -1) < 0 ? index === Math.max(0, reader.selectedRow)
                                                                  : ListView.isCurrentItem)
     height: texts.implicitHeight + 2 * Theme.space8
-    width: ListView.view?.width ?? 0
+    width: list?.width ?? 0
 
     onActiveFocusChanged: {
         if (!activeFocus)
             return
-        keys.view.currentIndex = index
-        keys.view.positionViewAtIndex(index, ListView.Contain)
+        list.currentIndex = index
+        list.positionViewAtIndex(index, ListView.Contain)
     }
     Keys.onPressed: event => {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))

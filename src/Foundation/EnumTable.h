@@ -2,6 +2,7 @@
 
 #include "Foundation/BadgeTone.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringView>
 
@@ -15,7 +16,8 @@ template <typename Enum>
 struct EnumCase {
     Enum value;
     std::string_view raw;
-    std::u16string_view label = {};
+    /// In English, marked by `QT_TRANSLATE_NOOP("EnumLabel", "...")`.
+    const char *label = "";
     /// Name of the product's own symbol set; the design system maps it to an icon.
     std::string_view symbol = {};
     std::string_view filledSymbol = {};
@@ -50,11 +52,11 @@ constexpr std::string_view enumRaw(Enum value)
     return enumCase(value).raw;
 }
 
+/// How the user reads the case, in the user's language.
 template <TabledEnum Enum>
 QString enumLabel(Enum value)
 {
-    const auto label = enumCase(value).label;
-    return QString::fromUtf16(label.data(), qsizetype(label.size()));
+    return QCoreApplication::translate("EnumLabel", enumCase(value).label);
 }
 
 template <TabledEnum Enum>

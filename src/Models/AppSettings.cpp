@@ -2,13 +2,13 @@
 
 QString AppSettings::greeting(int hour) const
 {
-    QString words = QStringLiteral("Good evening");
+    QString words = QCoreApplication::translate("AppSettings", "Good evening");
     if (hour < 5)
-        words = QStringLiteral("Still up");
+        words = QCoreApplication::translate("AppSettings", "Still up");
     else if (hour < 12)
-        words = QStringLiteral("Good morning");
+        words = QCoreApplication::translate("AppSettings", "Good morning");
     else if (hour < 18)
-        words = QStringLiteral("Good afternoon");
+        words = QCoreApplication::translate("AppSettings", "Good afternoon");
     const QString name = userName.trimmed();
     return name.isEmpty() ? words : words + QStringLiteral(", ") + name;
 }

@@ -12,9 +12,9 @@ enum class AppearanceMode { system, light, dark };
 template <>
 struct EnumTable<AppearanceMode> {
     static constexpr auto cases = std::to_array<EnumCase<AppearanceMode>>({
-        {AppearanceMode::system, "system", u"System"},
-        {AppearanceMode::light, "light", u"Light"},
-        {AppearanceMode::dark, "dark", u"Dark"},
+        {AppearanceMode::system, "system", QT_TRANSLATE_NOOP("EnumLabel", "System")},
+        {AppearanceMode::light, "light", QT_TRANSLATE_NOOP("EnumLabel", "Light")},
+        {AppearanceMode::dark, "dark", QT_TRANSLATE_NOOP("EnumLabel", "Dark")},
     });
 };
 

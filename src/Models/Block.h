@@ -22,17 +22,20 @@ enum class BlockType {
 template <>
 struct EnumTable<BlockType> {
     static constexpr auto cases = std::to_array<EnumCase<BlockType>>({
-        {BlockType::paragraph, "paragraph", u"Text", "text.alignleft"},
-        {BlockType::heading1, "heading1", u"Heading 1", "textformat.size.larger"},
-        {BlockType::heading2, "heading2", u"Heading 2", "textformat.size"},
-        {BlockType::heading3, "heading3", u"Heading 3", "textformat.size.smaller"},
-        {BlockType::bulleted, "bulleted", u"Bulleted list", "list.bullet"},
-        {BlockType::numbered, "numbered", u"Numbered list", "list.number"},
-        {BlockType::checklist, "checklist", u"To-do", "checklist"},
-        {BlockType::quote, "quote", u"Quote", "text.quote"},
-        {BlockType::callout, "callout", u"Callout", "megaphone"},
-        {BlockType::code, "code", u"Code", "chevron.left.forwardslash.chevron.right"},
-        {BlockType::divider, "divider", u"Divider", "minus"},
+        {BlockType::paragraph, "paragraph", QT_TRANSLATE_NOOP("EnumLabel", "Text"), "text.alignleft"},
+        {BlockType::heading1, "heading1", QT_TRANSLATE_NOOP("EnumLabel", "Heading 1"),
+         "textformat.size.larger"},
+        {BlockType::heading2, "heading2", QT_TRANSLATE_NOOP("EnumLabel", "Heading 2"), "textformat.size"},
+        {BlockType::heading3, "heading3", QT_TRANSLATE_NOOP("EnumLabel", "Heading 3"),
+         "textformat.size.smaller"},
+        {BlockType::bulleted, "bulleted", QT_TRANSLATE_NOOP("EnumLabel", "Bulleted list"), "list.bullet"},
+        {BlockType::numbered, "numbered", QT_TRANSLATE_NOOP("EnumLabel", "Numbered list"), "list.number"},
+        {BlockType::checklist, "checklist", QT_TRANSLATE_NOOP("EnumLabel", "To-do"), "checklist"},
+        {BlockType::quote, "quote", QT_TRANSLATE_NOOP("EnumLabel", "Quote"), "text.quote"},
+        {BlockType::callout, "callout", QT_TRANSLATE_NOOP("EnumLabel", "Callout"), "megaphone"},
+        {BlockType::code, "code", QT_TRANSLATE_NOOP("EnumLabel", "Code"),
+         "chevron.left.forwardslash.chevron.right"},
+        {BlockType::divider, "divider", QT_TRANSLATE_NOOP("EnumLabel", "Divider"), "minus"},
     });
 };
 
@@ -41,10 +44,11 @@ enum class CalloutTone { info, tip, warning, danger };
 template <>
 struct EnumTable<CalloutTone> {
     static constexpr auto cases = std::to_array<EnumCase<CalloutTone>>({
-        {CalloutTone::info, "info", u"info", "info.circle.fill"},
-        {CalloutTone::tip, "tip", u"tip", "lightbulb.fill"},
-        {CalloutTone::warning, "warning", u"warning", "exclamationmark.triangle.fill"},
-        {CalloutTone::danger, "danger", u"danger", "xmark.octagon.fill"},
+        {CalloutTone::info, "info", QT_TRANSLATE_NOOP("EnumLabel", "info"), "info.circle.fill"},
+        {CalloutTone::tip, "tip", QT_TRANSLATE_NOOP("EnumLabel", "tip"), "lightbulb.fill"},
+        {CalloutTone::warning, "warning", QT_TRANSLATE_NOOP("EnumLabel", "warning"),
+         "exclamationmark.triangle.fill"},
+        {CalloutTone::danger, "danger", QT_TRANSLATE_NOOP("EnumLabel", "danger"), "xmark.octagon.fill"},
     });
 };
 

@@ -13,9 +13,9 @@ enum class EventKind { event, deadline, reminder };
 template <>
 struct EnumTable<EventKind> {
     static constexpr auto cases = std::to_array<EnumCase<EventKind>>({
-        {EventKind::event, "event", u"Event"},
-        {EventKind::deadline, "deadline", u"Deadline"},
-        {EventKind::reminder, "reminder", u"Reminder"},
+        {EventKind::event, "event", QT_TRANSLATE_NOOP("EnumLabel", "Event")},
+        {EventKind::deadline, "deadline", QT_TRANSLATE_NOOP("EnumLabel", "Deadline")},
+        {EventKind::reminder, "reminder", QT_TRANSLATE_NOOP("EnumLabel", "Reminder")},
     });
 };
 

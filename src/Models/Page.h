@@ -12,8 +12,8 @@ enum class PageKind { page, note };
 template <>
 struct EnumTable<PageKind> {
     static constexpr auto cases = std::to_array<EnumCase<PageKind>>({
-        {PageKind::page, "page", u"Page"},
-        {PageKind::note, "note", u"Note"},
+        {PageKind::page, "page", QT_TRANSLATE_NOOP("EnumLabel", "Page")},
+        {PageKind::note, "note", QT_TRANSLATE_NOOP("EnumLabel", "Note")},
     });
 };
 

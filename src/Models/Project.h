@@ -15,11 +15,11 @@ enum class ProjectStatus { notStarted, planning, inProgress, onHold, completed }
 template <>
 struct EnumTable<ProjectStatus> {
     static constexpr auto cases = std::to_array<EnumCase<ProjectStatus>>({
-        {ProjectStatus::notStarted, "notStarted", u"Not started"},
-        {ProjectStatus::planning, "planning", u"Planning"},
-        {ProjectStatus::inProgress, "inProgress", u"In progress"},
-        {ProjectStatus::onHold, "onHold", u"On hold"},
-        {ProjectStatus::completed, "completed", u"Completed"},
+        {ProjectStatus::notStarted, "notStarted", QT_TRANSLATE_NOOP("EnumLabel", "Not started")},
+        {ProjectStatus::planning, "planning", QT_TRANSLATE_NOOP("EnumLabel", "Planning")},
+        {ProjectStatus::inProgress, "inProgress", QT_TRANSLATE_NOOP("EnumLabel", "In progress")},
+        {ProjectStatus::onHold, "onHold", QT_TRANSLATE_NOOP("EnumLabel", "On hold")},
+        {ProjectStatus::completed, "completed", QT_TRANSLATE_NOOP("EnumLabel", "Completed")},
     });
 };
 

@@ -11,14 +11,14 @@ enum class SlideKind { title, section, statement, bullets, twoColumn, quote, sta
 template <>
 struct EnumTable<SlideKind> {
     static constexpr auto cases = std::to_array<EnumCase<SlideKind>>({
-        {SlideKind::title, "title", u"Title"},
-        {SlideKind::section, "section", u"Section"},
-        {SlideKind::statement, "statement", u"Statement"},
-        {SlideKind::bullets, "bullets", u"Bullets"},
-        {SlideKind::twoColumn, "twoColumn", u"Two columns"},
-        {SlideKind::quote, "quote", u"Quote"},
-        {SlideKind::stats, "stats", u"Stats"},
-        {SlideKind::closing, "closing", u"Closing"},
+        {SlideKind::title, "title", QT_TRANSLATE_NOOP("EnumLabel", "Title")},
+        {SlideKind::section, "section", QT_TRANSLATE_NOOP("EnumLabel", "Section")},
+        {SlideKind::statement, "statement", QT_TRANSLATE_NOOP("EnumLabel", "Statement")},
+        {SlideKind::bullets, "bullets", QT_TRANSLATE_NOOP("EnumLabel", "Bullets")},
+        {SlideKind::twoColumn, "twoColumn", QT_TRANSLATE_NOOP("EnumLabel", "Two columns")},
+        {SlideKind::quote, "quote", QT_TRANSLATE_NOOP("EnumLabel", "Quote")},
+        {SlideKind::stats, "stats", QT_TRANSLATE_NOOP("EnumLabel", "Stats")},
+        {SlideKind::closing, "closing", QT_TRANSLATE_NOOP("EnumLabel", "Closing")},
     });
 };
 

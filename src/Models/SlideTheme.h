@@ -67,42 +67,42 @@ struct SlideTheme {
 template <>
 struct EnumTable<SlideTheme::Decoration> {
     static constexpr auto cases = std::to_array<EnumCase<SlideTheme::Decoration>>({
-        {SlideTheme::Decoration::plain, "plain", u"Plain"},
-        {SlideTheme::Decoration::rule, "rule", u"Rule"},
-        {SlideTheme::Decoration::band, "band", u"Band"},
-        {SlideTheme::Decoration::edge, "edge", u"Edge"},
+        {SlideTheme::Decoration::plain, "plain", QT_TRANSLATE_NOOP("EnumLabel", "Plain")},
+        {SlideTheme::Decoration::rule, "rule", QT_TRANSLATE_NOOP("EnumLabel", "Rule")},
+        {SlideTheme::Decoration::band, "band", QT_TRANSLATE_NOOP("EnumLabel", "Band")},
+        {SlideTheme::Decoration::edge, "edge", QT_TRANSLATE_NOOP("EnumLabel", "Edge")},
     });
 };
 
 template <>
 struct EnumTable<SlideTheme::FontKind> {
     static constexpr auto cases = std::to_array<EnumCase<SlideTheme::FontKind>>({
-        {SlideTheme::FontKind::system, "system", u"System"},
-        {SlideTheme::FontKind::serif, "serif", u"Serif"},
-        {SlideTheme::FontKind::rounded, "rounded", u"Rounded"},
-        {SlideTheme::FontKind::monospaced, "monospaced", u"Monospaced"},
+        {SlideTheme::FontKind::system, "system", QT_TRANSLATE_NOOP("EnumLabel", "System")},
+        {SlideTheme::FontKind::serif, "serif", QT_TRANSLATE_NOOP("EnumLabel", "Serif")},
+        {SlideTheme::FontKind::rounded, "rounded", QT_TRANSLATE_NOOP("EnumLabel", "Rounded")},
+        {SlideTheme::FontKind::monospaced, "monospaced", QT_TRANSLATE_NOOP("EnumLabel", "Monospaced")},
     });
 };
 
 template <>
 struct EnumTable<SlideTheme::Weight> {
     static constexpr auto cases = std::to_array<EnumCase<SlideTheme::Weight>>({
-        {SlideTheme::Weight::regular, "regular", u"Regular"},
-        {SlideTheme::Weight::medium, "medium", u"Medium"},
-        {SlideTheme::Weight::semibold, "semibold", u"Semibold"},
-        {SlideTheme::Weight::bold, "bold", u"Bold"},
-        {SlideTheme::Weight::heavy, "heavy", u"Heavy"},
-        {SlideTheme::Weight::black, "black", u"Black"},
+        {SlideTheme::Weight::regular, "regular", QT_TRANSLATE_NOOP("EnumLabel", "Regular")},
+        {SlideTheme::Weight::medium, "medium", QT_TRANSLATE_NOOP("EnumLabel", "Medium")},
+        {SlideTheme::Weight::semibold, "semibold", QT_TRANSLATE_NOOP("EnumLabel", "Semibold")},
+        {SlideTheme::Weight::bold, "bold", QT_TRANSLATE_NOOP("EnumLabel", "Bold")},
+        {SlideTheme::Weight::heavy, "heavy", QT_TRANSLATE_NOOP("EnumLabel", "Heavy")},
+        {SlideTheme::Weight::black, "black", QT_TRANSLATE_NOOP("EnumLabel", "Black")},
     });
 };
 
 template <>
 struct EnumTable<SlideTheme::Marker> {
     static constexpr auto cases = std::to_array<EnumCase<SlideTheme::Marker>>({
-        {SlideTheme::Marker::bar, "bar", u"Bar"},
-        {SlideTheme::Marker::square, "square", u"Square"},
-        {SlideTheme::Marker::dot, "dot", u"Dot"},
-        {SlideTheme::Marker::dash, "dash", u"Dash"},
-        {SlideTheme::Marker::number, "number", u"Number"},
+        {SlideTheme::Marker::bar, "bar", QT_TRANSLATE_NOOP("EnumLabel", "Bar")},
+        {SlideTheme::Marker::square, "square", QT_TRANSLATE_NOOP("EnumLabel", "Square")},
+        {SlideTheme::Marker::dot, "dot", QT_TRANSLATE_NOOP("EnumLabel", "Dot")},
+        {SlideTheme::Marker::dash, "dash", QT_TRANSLATE_NOOP("EnumLabel", "Dash")},
+        {SlideTheme::Marker::number, "number", QT_TRANSLATE_NOOP("EnumLabel", "Number")},
     });
 };

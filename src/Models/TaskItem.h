@@ -13,9 +13,19 @@ enum class TaskStatus { todo, inProgress, done };
 template <>
 struct EnumTable<TaskStatus> {
     static constexpr auto cases = std::to_array<EnumCase<TaskStatus>>({
-        {TaskStatus::todo, "todo", u"To do", "circle"},
-        {TaskStatus::inProgress, "inProgress", u"In progress", "circle.dotted", {}, BadgeTone::warning},
-        {TaskStatus::done, "done", u"Done", "checkmark.circle.fill", {}, BadgeTone::success},
+        {TaskStatus::todo, "todo", QT_TRANSLATE_NOOP("EnumLabel", "To do"), "circle"},
+        {TaskStatus::inProgress,
+         "inProgress",
+         QT_TRANSLATE_NOOP("EnumLabel", "In progress"),
+         "circle.dotted",
+         {},
+         BadgeTone::warning},
+        {TaskStatus::done,
+         "done",
+         QT_TRANSLATE_NOOP("EnumLabel", "Done"),
+         "checkmark.circle.fill",
+         {},
+         BadgeTone::success},
     });
 };
 
@@ -24,9 +34,14 @@ enum class TaskPriority { low, medium, high };
 template <>
 struct EnumTable<TaskPriority> {
     static constexpr auto cases = std::to_array<EnumCase<TaskPriority>>({
-        {TaskPriority::low, "low", u"Low"},
-        {TaskPriority::medium, "medium", u"Medium", {}, {}, BadgeTone::warning},
-        {TaskPriority::high, "high", u"High", {}, {}, BadgeTone::danger},
+        {TaskPriority::low, "low", QT_TRANSLATE_NOOP("EnumLabel", "Low")},
+        {TaskPriority::medium,
+         "medium",
+         QT_TRANSLATE_NOOP("EnumLabel", "Medium"),
+         {},
+         {},
+         BadgeTone::warning},
+        {TaskPriority::high, "high", QT_TRANSLATE_NOOP("EnumLabel", "High"), {}, {}, BadgeTone::danger},
     });
 };
 

@@ -22,19 +22,19 @@ enum class AccentPalette {
 template <>
 struct EnumTable<AccentPalette> {
     static constexpr auto cases = std::to_array<EnumCase<AccentPalette>>({
-        {AccentPalette::mono, "mono", u"Mono"},
-        {AccentPalette::graphite, "graphite", u"Graphite"},
-        {AccentPalette::blue, "blue", u"Blue"},
-        {AccentPalette::indigo, "indigo", u"Indigo"},
-        {AccentPalette::violet, "violet", u"Violet"},
-        {AccentPalette::teal, "teal", u"Teal"},
-        {AccentPalette::green, "green", u"Green"},
-        {AccentPalette::amber, "amber", u"Amber"},
-        {AccentPalette::orange, "orange", u"Orange"},
-        {AccentPalette::rose, "rose", u"Rose"},
-        {AccentPalette::pink, "pink", u"Pink"},
-        {AccentPalette::cyan, "cyan", u"Cyan"},
-        {AccentPalette::red, "red", u"Red"},
+        {AccentPalette::mono, "mono", QT_TRANSLATE_NOOP("EnumLabel", "Mono")},
+        {AccentPalette::graphite, "graphite", QT_TRANSLATE_NOOP("EnumLabel", "Graphite")},
+        {AccentPalette::blue, "blue", QT_TRANSLATE_NOOP("EnumLabel", "Blue")},
+        {AccentPalette::indigo, "indigo", QT_TRANSLATE_NOOP("EnumLabel", "Indigo")},
+        {AccentPalette::violet, "violet", QT_TRANSLATE_NOOP("EnumLabel", "Violet")},
+        {AccentPalette::teal, "teal", QT_TRANSLATE_NOOP("EnumLabel", "Teal")},
+        {AccentPalette::green, "green", QT_TRANSLATE_NOOP("EnumLabel", "Green")},
+        {AccentPalette::amber, "amber", QT_TRANSLATE_NOOP("EnumLabel", "Amber")},
+        {AccentPalette::orange, "orange", QT_TRANSLATE_NOOP("EnumLabel", "Orange")},
+        {AccentPalette::rose, "rose", QT_TRANSLATE_NOOP("EnumLabel", "Rose")},
+        {AccentPalette::pink, "pink", QT_TRANSLATE_NOOP("EnumLabel", "Pink")},
+        {AccentPalette::cyan, "cyan", QT_TRANSLATE_NOOP("EnumLabel", "Cyan")},
+        {AccentPalette::red, "red", QT_TRANSLATE_NOOP("EnumLabel", "Red")},
     });
 };
 
@@ -57,19 +57,19 @@ enum class CanvasStyle {
 template <>
 struct EnumTable<CanvasStyle> {
     static constexpr auto cases = std::to_array<EnumCase<CanvasStyle>>({
-        {CanvasStyle::none, "none", u"None"},
-        {CanvasStyle::paper, "paper", u"Paper"},
-        {CanvasStyle::mist, "mist", u"Mist"},
-        {CanvasStyle::dawn, "dawn", u"Dawn"},
-        {CanvasStyle::dusk, "dusk", u"Dusk"},
-        {CanvasStyle::aurora, "aurora", u"Aurora"},
-        {CanvasStyle::sunset, "sunset", u"Sunset"},
-        {CanvasStyle::forest, "forest", u"Forest"},
-        {CanvasStyle::ocean, "ocean", u"Ocean"},
-        {CanvasStyle::blossom, "blossom", u"Blossom"},
-        {CanvasStyle::candy, "candy", u"Candy"},
-        {CanvasStyle::midnight, "midnight", u"Midnight"},
-        {CanvasStyle::ember, "ember", u"Ember"},
+        {CanvasStyle::none, "none", QT_TRANSLATE_NOOP("EnumLabel", "None")},
+        {CanvasStyle::paper, "paper", QT_TRANSLATE_NOOP("EnumLabel", "Paper")},
+        {CanvasStyle::mist, "mist", QT_TRANSLATE_NOOP("EnumLabel", "Mist")},
+        {CanvasStyle::dawn, "dawn", QT_TRANSLATE_NOOP("EnumLabel", "Dawn")},
+        {CanvasStyle::dusk, "dusk", QT_TRANSLATE_NOOP("EnumLabel", "Dusk")},
+        {CanvasStyle::aurora, "aurora", QT_TRANSLATE_NOOP("EnumLabel", "Aurora")},
+        {CanvasStyle::sunset, "sunset", QT_TRANSLATE_NOOP("EnumLabel", "Sunset")},
+        {CanvasStyle::forest, "forest", QT_TRANSLATE_NOOP("EnumLabel", "Forest")},
+        {CanvasStyle::ocean, "ocean", QT_TRANSLATE_NOOP("EnumLabel", "Ocean")},
+        {CanvasStyle::blossom, "blossom", QT_TRANSLATE_NOOP("EnumLabel", "Blossom")},
+        {CanvasStyle::candy, "candy", QT_TRANSLATE_NOOP("EnumLabel", "Candy")},
+        {CanvasStyle::midnight, "midnight", QT_TRANSLATE_NOOP("EnumLabel", "Midnight")},
+        {CanvasStyle::ember, "ember", QT_TRANSLATE_NOOP("EnumLabel", "Ember")},
     });
 };
 
@@ -78,10 +78,10 @@ enum class FontChoice { system, rounded, serif, monospaced };
 template <>
 struct EnumTable<FontChoice> {
     static constexpr auto cases = std::to_array<EnumCase<FontChoice>>({
-        {FontChoice::system, "system", u"System"},
-        {FontChoice::rounded, "rounded", u"Rounded"},
-        {FontChoice::serif, "serif", u"Serif"},
-        {FontChoice::monospaced, "monospaced", u"Monospaced"},
+        {FontChoice::system, "system", QT_TRANSLATE_NOOP("EnumLabel", "System")},
+        {FontChoice::rounded, "rounded", QT_TRANSLATE_NOOP("EnumLabel", "Rounded")},
+        {FontChoice::serif, "serif", QT_TRANSLATE_NOOP("EnumLabel", "Serif")},
+        {FontChoice::monospaced, "monospaced", QT_TRANSLATE_NOOP("EnumLabel", "Monospaced")},
     });
 };
 
@@ -90,9 +90,9 @@ enum class CornerStyle { sharp, soft, round };
 template <>
 struct EnumTable<CornerStyle> {
     static constexpr auto cases = std::to_array<EnumCase<CornerStyle>>({
-        {CornerStyle::sharp, "sharp", u"Sharp"},
-        {CornerStyle::soft, "soft", u"Soft"},
-        {CornerStyle::round, "round", u"Round"},
+        {CornerStyle::sharp, "sharp", QT_TRANSLATE_NOOP("EnumLabel", "Sharp")},
+        {CornerStyle::soft, "soft", QT_TRANSLATE_NOOP("EnumLabel", "Soft")},
+        {CornerStyle::round, "round", QT_TRANSLATE_NOOP("EnumLabel", "Round")},
     });
 };
 
@@ -101,9 +101,9 @@ enum class DensityStyle { cozy, comfortable, spacious };
 template <>
 struct EnumTable<DensityStyle> {
     static constexpr auto cases = std::to_array<EnumCase<DensityStyle>>({
-        {DensityStyle::cozy, "cozy", u"Cozy"},
-        {DensityStyle::comfortable, "comfortable", u"Comfortable"},
-        {DensityStyle::spacious, "spacious", u"Spacious"},
+        {DensityStyle::cozy, "cozy", QT_TRANSLATE_NOOP("EnumLabel", "Cozy")},
+        {DensityStyle::comfortable, "comfortable", QT_TRANSLATE_NOOP("EnumLabel", "Comfortable")},
+        {DensityStyle::spacious, "spacious", QT_TRANSLATE_NOOP("EnumLabel", "Spacious")},
     });
 };
 
@@ -112,10 +112,10 @@ enum class NavigationStyle { sidebar, tabsTop, tabsBottom, glassDock };
 template <>
 struct EnumTable<NavigationStyle> {
     static constexpr auto cases = std::to_array<EnumCase<NavigationStyle>>({
-        {NavigationStyle::sidebar, "sidebar", u"Sidebar"},
-        {NavigationStyle::tabsTop, "tabsTop", u"Tabs on top"},
-        {NavigationStyle::tabsBottom, "tabsBottom", u"Tabs at the bottom"},
-        {NavigationStyle::glassDock, "glassDock", u"Glass dock"},
+        {NavigationStyle::sidebar, "sidebar", QT_TRANSLATE_NOOP("EnumLabel", "Sidebar")},
+        {NavigationStyle::tabsTop, "tabsTop", QT_TRANSLATE_NOOP("EnumLabel", "Tabs on top")},
+        {NavigationStyle::tabsBottom, "tabsBottom", QT_TRANSLATE_NOOP("EnumLabel", "Tabs at the bottom")},
+        {NavigationStyle::glassDock, "glassDock", QT_TRANSLATE_NOOP("EnumLabel", "Glass dock")},
     });
 };
 
@@ -124,9 +124,9 @@ enum class AnimationLevel { subtle, normal, lively };
 template <>
 struct EnumTable<AnimationLevel> {
     static constexpr auto cases = std::to_array<EnumCase<AnimationLevel>>({
-        {AnimationLevel::subtle, "subtle", u"Subtle"},
-        {AnimationLevel::normal, "normal", u"Normal"},
-        {AnimationLevel::lively, "lively", u"Lively"},
+        {AnimationLevel::subtle, "subtle", QT_TRANSLATE_NOOP("EnumLabel", "Subtle")},
+        {AnimationLevel::normal, "normal", QT_TRANSLATE_NOOP("EnumLabel", "Normal")},
+        {AnimationLevel::lively, "lively", QT_TRANSLATE_NOOP("EnumLabel", "Lively")},
     });
 };
 
@@ -135,14 +135,14 @@ enum class ThemePreset { paper, mist, graphite, aurora, dusk, forest, ocean, emb
 template <>
 struct EnumTable<ThemePreset> {
     static constexpr auto cases = std::to_array<EnumCase<ThemePreset>>({
-        {ThemePreset::paper, "paper", u"Paper"},
-        {ThemePreset::mist, "mist", u"Mist"},
-        {ThemePreset::graphite, "graphite", u"Graphite"},
-        {ThemePreset::aurora, "aurora", u"Aurora"},
-        {ThemePreset::dusk, "dusk", u"Dusk"},
-        {ThemePreset::forest, "forest", u"Forest"},
-        {ThemePreset::ocean, "ocean", u"Ocean"},
-        {ThemePreset::ember, "ember", u"Ember"},
+        {ThemePreset::paper, "paper", QT_TRANSLATE_NOOP("EnumLabel", "Paper")},
+        {ThemePreset::mist, "mist", QT_TRANSLATE_NOOP("EnumLabel", "Mist")},
+        {ThemePreset::graphite, "graphite", QT_TRANSLATE_NOOP("EnumLabel", "Graphite")},
+        {ThemePreset::aurora, "aurora", QT_TRANSLATE_NOOP("EnumLabel", "Aurora")},
+        {ThemePreset::dusk, "dusk", QT_TRANSLATE_NOOP("EnumLabel", "Dusk")},
+        {ThemePreset::forest, "forest", QT_TRANSLATE_NOOP("EnumLabel", "Forest")},
+        {ThemePreset::ocean, "ocean", QT_TRANSLATE_NOOP("EnumLabel", "Ocean")},
+        {ThemePreset::ember, "ember", QT_TRANSLATE_NOOP("EnumLabel", "Ember")},
     });
 };
 

@@ -62,8 +62,7 @@ void FocusTimer::complete()
 {
     m_preferences.setValue(sessionsKey, sessions() + 1);
     if (const TaskItem *const task = linkedTask(); task && task->projectID)
-        ProjectOperations::logActivity(m_store, *task->projectID,
-                                       QStringLiteral("Focused %1 minutes").arg(m_minutes),
+        ProjectOperations::logActivity(m_store, *task->projectID, tr("Focused %1 minutes").arg(m_minutes),
                                        QStringLiteral("note"));
     stop(0ms);
 }

@@ -56,8 +56,8 @@ QUuid ProjectOperations::create(WorkspaceStore &store, const ProjectTemplate &fr
     Project project{.name = from.name, .icon = from.icon, .details = from.details, .status = from.status};
     for (const QString &title : from.milestones)
         project.milestones.append({.title = title});
-    const QUuid id = addProject(
-        store, project, QStringLiteral("Created from the ") + from.name + QStringLiteral(" template"));
+    const QUuid id =
+        addProject(store, project, ActionText::tr("Created from the %1 template").arg(from.name));
     for (const QString &title : from.tasks)
         addTask(store, id, title);
     return id;
@@ -70,7 +70,7 @@ std::optional<QUuid> ProjectOperations::createBlank(WorkspaceStore &store, const
         return std::nullopt;
     const Action action(store, ActionText::tr("New Project"));
     return addProject(store, {.name = trimmed, .icon = QStringLiteral("🚀")},
-                      QStringLiteral("Project created"));
+                      ActionText::tr("Project created"));
 }
 
 std::optional<QUuid> ProjectOperations::createFrom(WorkspaceStore &store, const QUuid &templateProjectID)
@@ -85,7 +85,7 @@ std::optional<QUuid> ProjectOperations::createFrom(WorkspaceStore &store, const 
                        .details = original->details,
                        .status = original->status,
                        .milestones = original->milestones},
-                      QStringLiteral("Created from a template"));
+                      ActionText::tr("Created from a template"));
 }
 
 void ProjectOperations::rename(WorkspaceStore &store, const QUuid &projectID, const QString &name)
@@ -126,7 +126,7 @@ void ProjectOperations::setStatus(WorkspaceStore &store, const QUuid &projectID,
         project.status = status;
         project.updatedDate = store.now();
     });
-    logActivity(store, projectID, QStringLiteral("Status changed to ") + enumLabel(status), statusKind);
+    logActivity(store, projectID, ActionText::tr("Status changed to %1").arg(enumLabel(status)), statusKind);
 }
 
 void ProjectOperations::addMilestone(WorkspaceStore &store, const QUuid &projectID, const QString &title)
@@ -138,7 +138,7 @@ void ProjectOperations::addMilestone(WorkspaceStore &store, const QUuid &project
     changeMilestones(store, projectID, [&](QList<Milestone> &milestones) {
         milestones.append({store.makeId(), trimmed, false});
     });
-    logActivity(store, projectID, QStringLiteral("Added milestone “%1”").arg(trimmed), noteKind);
+    logActivity(store, projectID, ActionText::tr("Added milestone “%1”").arg(trimmed), noteKind);
 }
 
 void ProjectOperations::toggleMilestone(WorkspaceStore &store, const QUuid &projectID,

@@ -10,16 +10,18 @@ enum class SearchResultKind { page, note, task, project, database, event, habit,
 template <>
 struct EnumTable<SearchResultKind> {
     static constexpr auto cases = std::to_array<EnumCase<SearchResultKind>>({
-        {SearchResultKind::page, "page", u"Page", "doc.text"},
-        {SearchResultKind::note, "note", u"Note", "note.text"},
-        {SearchResultKind::task, "task", u"Task", "checkmark.square"},
-        {SearchResultKind::project, "project", u"Project", "target"},
-        {SearchResultKind::database, "database", u"Database", "cylinder.split.1x2"},
-        {SearchResultKind::event, "event", u"Event", "calendar"},
-        {SearchResultKind::habit, "habit", u"Habit", "flame"},
-        {SearchResultKind::code, "code", u"Code", "chevron.left.forwardslash.chevron.right"},
-        {SearchResultKind::deck, "deck", u"Deck", "rectangle.on.rectangle"},
-        {SearchResultKind::book, "book", u"Book", "book"},
+        {SearchResultKind::page, "page", QT_TRANSLATE_NOOP("EnumLabel", "Page"), "doc.text"},
+        {SearchResultKind::note, "note", QT_TRANSLATE_NOOP("EnumLabel", "Note"), "note.text"},
+        {SearchResultKind::task, "task", QT_TRANSLATE_NOOP("EnumLabel", "Task"), "checkmark.square"},
+        {SearchResultKind::project, "project", QT_TRANSLATE_NOOP("EnumLabel", "Project"), "target"},
+        {SearchResultKind::database, "database", QT_TRANSLATE_NOOP("EnumLabel", "Database"),
+         "cylinder.split.1x2"},
+        {SearchResultKind::event, "event", QT_TRANSLATE_NOOP("EnumLabel", "Event"), "calendar"},
+        {SearchResultKind::habit, "habit", QT_TRANSLATE_NOOP("EnumLabel", "Habit"), "flame"},
+        {SearchResultKind::code, "code", QT_TRANSLATE_NOOP("EnumLabel", "Code"),
+         "chevron.left.forwardslash.chevron.right"},
+        {SearchResultKind::deck, "deck", QT_TRANSLATE_NOOP("EnumLabel", "Deck"), "rectangle.on.rectangle"},
+        {SearchResultKind::book, "book", QT_TRANSLATE_NOOP("EnumLabel", "Book"), "book"},
     });
 };
 

@@ -18,7 +18,7 @@ QString resultId(const char *prefix, const QUuid &id)
 QString titleOrUntitled(const QString &title)
 {
     const QString trimmed = title.trimmed();
-    return trimmed.isEmpty() ? u"Untitled"_s : trimmed;
+    return trimmed.isEmpty() ? QCoreApplication::translate("WorkspaceSearch", "Untitled") : trimmed;
 }
 
 /// A running search: what is looked for and what has been found.
@@ -125,7 +125,8 @@ private:
     {
         const QDate today = m_store.clock().today();
         const QString subtitle =
-            u"%1 day streak · %2/%3 this week"_s.arg(HabitDays::currentStreak(habit, today))
+            QCoreApplication::translate("WorkspaceSearch", "%1 day streak · %2/%3 this week")
+                .arg(HabitDays::currentStreak(habit, today))
                 .arg(HabitDays::weeklyCount(habit, today))
                 .arg(habit.targetPerWeek);
         return {resultId("habit", habit.id),

@@ -1,5 +1,6 @@
 #include "Support/OVDate.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <cstdlib>
@@ -60,16 +61,16 @@ QString OVDate::relative(QDate day, QDate today)
 {
     const qint64 days = today.daysTo(day);
     if (days == 0)
-        return QStringLiteral("Today");
+        return QCoreApplication::translate("OVDate", "Today");
     if (days == -1)
-        return QStringLiteral("Yesterday");
+        return QCoreApplication::translate("OVDate", "Yesterday");
     if (days == 1)
-        return QStringLiteral("Tomorrow");
+        return QCoreApplication::translate("OVDate", "Tomorrow");
     if (std::abs(days) > 6)
         return mediumYear(day);
     if (days < 1)
-        return QStringLiteral("%1 days ago").arg(-days);
-    return QStringLiteral("in %1 days").arg(days);
+        return QCoreApplication::translate("OVDate", "%1 days ago").arg(-days);
+    return QCoreApplication::translate("OVDate", "in %1 days").arg(days);
 }
 
 QString OVDate::relative(Timestamp moment, Timestamp now, const QTimeZone &zone)

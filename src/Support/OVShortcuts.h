@@ -29,24 +29,25 @@ template <>
 struct EnumTable<OVShortcuts::Category> {
     using Category = OVShortcuts::Category;
     static constexpr auto cases = std::to_array<EnumCase<Category>>({
-        {Category::general, "general", u"General"},
-        {Category::navigate, "navigate", u"Navigate"},
-        {Category::create, "create", u"Create"},
-        {Category::view, "view", u"View"},
+        {Category::general, "general", QT_TRANSLATE_NOOP("EnumLabel", "General")},
+        {Category::navigate, "navigate", QT_TRANSLATE_NOOP("EnumLabel", "Navigate")},
+        {Category::create, "create", QT_TRANSLATE_NOOP("EnumLabel", "Create")},
+        {Category::view, "view", QT_TRANSLATE_NOOP("EnumLabel", "View")},
     });
 };
 
 struct ShortcutItem {
     QString id;
-    QString title;
+    /// The title in English.
+    const char *source = "";
     /// The main modifier as "⌘", Shift as "⇧", then the key.
     QString keys;
     OVShortcuts::Category category = OVShortcuts::Category::general;
     /// Name of the product's own symbol set.
     QString systemImage;
 
-    bool operator==(const ShortcutItem &) const = default;
-
+    /// The title in the user's language.
+    QString title() const;
     /// The keys in portable form, such as "Ctrl+Shift+K".
     QString portableKeys() const;
 };

@@ -19,17 +19,18 @@ static_assert(std::ranges::all_of(enumCases<OrvelModule>(), [](const EnumCase<Or
 }));
 } // namespace
 
-const QList<OrvelNavigation::Group> &OrvelNavigation::groups()
+QList<OrvelNavigation::Group> OrvelNavigation::groups()
 {
     using enum OrvelModule;
-    static const QList<Group> all{
+    return {
         {QStringLiteral("home"), std::nullopt, {dashboard, today, focus}},
         {QStringLiteral("workspaces"),
-         QStringLiteral("Workspaces"),
+         QCoreApplication::translate("OrvelNavigation", "Workspaces"),
          {tasks, calendar, projects, notes, databases, code, decks}},
-        {QStringLiteral("explore"), QStringLiteral("Explore"), {habits, insights, relax, reader}},
+        {QStringLiteral("explore"),
+         QCoreApplication::translate("OrvelNavigation", "Explore"),
+         {habits, insights, relax, reader}},
     };
-    return all;
 }
 
 QList<OrvelNavigation::Group> OrvelNavigation::visibleGroups(const AppSettings &settings)

@@ -16,7 +16,7 @@ struct Group {
 };
 
 /// All modules in the order of the sidebar and of menus.
-const QList<Group> &groups();
+QList<Group> groups();
 /// The groups with their visible modules only; a group left empty is dropped, its label with it.
 QList<Group> visibleGroups(const AppSettings &settings);
 

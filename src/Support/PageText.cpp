@@ -91,5 +91,5 @@ QString PageText::readingTimeLabel(qsizetype words)
 {
     static constexpr qsizetype wordsPerMinute = 200;
     const qsizetype minutes = (words + wordsPerMinute - 1) / wordsPerMinute;
-    return QStringLiteral("%1 min read").arg(std::max<qsizetype>(minutes, 1));
+    return QCoreApplication::translate("PageText", "%1 min read").arg(std::max<qsizetype>(minutes, 1));
 }

@@ -4,6 +4,10 @@
 In QML: each string with a letter in it that stands in a property such as text or title needs qsTr. The gallery of the
 design system is for developers only.
 
+In C++: each Qt string of several words that begins with a capital letter needs tr, translate or a _NOOP, unless it
+goes to the log (as the reasons of some engines do) or is content that the program writes into records and files, such
+as templates and quotes.
+
     translated.py [folder of the project]
 """
 
@@ -79,8 +83,30 @@ def unmarked(source):
             yield source.count("\n", 0, string.start()) + 1, string.group()
 
 
+# Sentences as Qt strings; those for the log and of the system are plain.
+CXX_STRING = re.compile(r'(?:\bQStringLiteral\(|\bQLatin1String\(|\bu)("[A-Z](?:[^"\\\n]|\\.)*[a-z] [A-Za-z%](?:[^"\\\n]|\\.)*")')
+CXX_QUIET = re.compile(r"\b(?:qC?(?:Debug|Info|Warning|Critical)|createMethodCall|Q_ASSERT_X)\b")
+CONTENT = re.compile(
+    r"OVQuotes|Templates|Starter|DBEngine|Slide\.cpp|Deck\.cpp|PowerPoint|PdfImageWriter|CodeLanguages|OVFonts|OVDate|DateLabel|MonthGrid"
+    r"|PackageArchive|OVZip|SnapshotCodec|SingleInstance|AppSettings\.h|DatabaseTable\.h"
+)
+
+
+def unmarked_cxx(source):
+    source = without_comments(source)
+    for string in CXX_STRING.finditer(source):
+        statement = source[max(source.rfind(sign, 0, string.start()) for sign in ";{}") + 1 : string.start()]
+        if not CXX_QUIET.search(statement):
+            yield source.count("\n", 0, string.start()) + 1, string.group(1)
+
+
 def findings(project):
     src = Path(project) / "src"
+    for file in sorted([*src.rglob("*.cpp"), *src.rglob("*.h")]):
+        if CONTENT.search(file.name):
+            continue
+        for line, text in unmarked_cxx(file.read_text()):
+            yield f"{file.relative_to(project)}:{line}: {text}"
     for file in sorted(src.rglob("*.qml")):
         if "Gallery" in file.parts:
             continue
@@ -91,4 +117,4 @@ def findings(project):
 if __name__ == "__main__":
     wrong = list(findings(Path(sys.argv[1] if len(sys.argv) > 1 else ".").resolve()))
     print("\n".join(wrong))
-    sys.exit(f"{len(wrong)} texts are not marked: wrap them in qsTr()" if wrong else 0)
+    sys.exit(f"{len(wrong)} texts are not marked: wrap them in qsTr() or tr()" if wrong else 0)

@@ -39,6 +39,24 @@ class Translated(unittest.TestCase):
             with self.subTest(source=source):
                 self.assertEqual(self.texts(source), [])
 
+    def test_sentences_of_cxx_are_found(self):
+        for source in (
+            'return u"No such page"_s;',
+            'setText(QStringLiteral("Page not found"));',
+            'qCWarning(log) << 1; show(u"It is gone"_s);',
+        ):
+            with self.subTest(source=source):
+                self.assertEqual(len(list(translated.unmarked_cxx(source))), 1)
+        for source in (
+            'return tr("No such page");',
+            'qCWarning(log) << u"No such page"_s;',
+            'key = u"square.grid.2x2"_s;',
+            'sql = u"select a from b"_s;',
+            '// u"No such page"_s',
+        ):
+            with self.subTest(source=source):
+                self.assertEqual(list(translated.unmarked_cxx(source)), [])
+
     def test_lines_are_told(self):
         source = 'Item {\n    /* a\n comment */\n    text: "Add"\n}\n'
         self.assertEqual(list(translated.unmarked(source)), [(4, '"Add"')])

@@ -1,5 +1,6 @@
 // Draws pages of the program into pictures, in every look.
-// usage: orvel-screenshots FOLDER [BEGINNING OF A NAME]...
+// usage: orvel-screenshots [--pseudo] FOLDER [BEGINNING OF A NAME]...
+// --pseudo draws them in a language whose texts are a third longer.
 
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
@@ -17,6 +18,7 @@
 #include <QQuickView>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 
 #include <functional>
 
@@ -447,6 +449,19 @@ bool draw(const Picture &picture, const QString &file)
     return view.grabWindow().save(file);
 }
 
+/// Stands for a language that needs more room: every marked text is a third longer and begins with a sign.
+class PseudoLanguage : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        const QString source = QString::fromUtf8(text);
+        const qsizetype more = (source.size() + 2) / 3;
+        return u'¬' + source + QString::fromLatin1(" und noch ein wenig").repeated(more / 19 + 1).left(more);
+    }
+};
+
 bool isWanted(const QString &name, const QStringList &beginnings)
 {
     return beginnings.isEmpty() || std::ranges::any_of(beginnings, [&name](const QString &beginning) {
@@ -458,10 +473,13 @@ bool isWanted(const QString &name, const QStringList &beginnings)
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
-    const QStringList arguments = application.arguments();
+    QStringList arguments = application.arguments();
     QTextStream err(stderr);
+    PseudoLanguage pseudo;
+    if (arguments.removeAll(QStringLiteral("--pseudo")) > 0)
+        QCoreApplication::installTranslator(&pseudo);
     if (arguments.size() < 2) {
-        err << "usage: orvel-screenshots FOLDER [BEGINNING OF A NAME]...\n";
+        err << "usage: orvel-screenshots [--pseudo] FOLDER [BEGINNING OF A NAME]...\n";
         return 2;
     }
     const QDir folder(arguments.at(1));

@@ -8,8 +8,11 @@ enum class DeckExportError { noSlides, renderFailed, writeFailed };
 template <>
 struct EnumTable<DeckExportError> {
     static constexpr auto cases = std::to_array<EnumCase<DeckExportError>>({
-        {DeckExportError::noSlides, "noSlides", u"This deck has no slides yet."},
-        {DeckExportError::renderFailed, "renderFailed", u"Orvel could not render this deck."},
-        {DeckExportError::writeFailed, "writeFailed", u"Orvel could not build this file."},
+        {DeckExportError::noSlides, "noSlides",
+         QT_TRANSLATE_NOOP("EnumLabel", "This deck has no slides yet.")},
+        {DeckExportError::renderFailed, "renderFailed",
+         QT_TRANSLATE_NOOP("EnumLabel", "Orvel could not render this deck.")},
+        {DeckExportError::writeFailed, "writeFailed",
+         QT_TRANSLATE_NOOP("EnumLabel", "Orvel could not build this file.")},
     });
 };

@@ -15,10 +15,10 @@ enum class DeckExportFormat { pdf, pptx, markdown, text };
 template <>
 struct EnumTable<DeckExportFormat> {
     static constexpr auto cases = std::to_array<EnumCase<DeckExportFormat>>({
-        {DeckExportFormat::pdf, "pdf", u"PDF document"},
-        {DeckExportFormat::pptx, "pptx", u"PowerPoint"},
-        {DeckExportFormat::markdown, "markdown", u"Markdown"},
-        {DeckExportFormat::text, "text", u"Plain text"},
+        {DeckExportFormat::pdf, "pdf", QT_TRANSLATE_NOOP("EnumLabel", "PDF document")},
+        {DeckExportFormat::pptx, "pptx", QT_TRANSLATE_NOOP("EnumLabel", "PowerPoint")},
+        {DeckExportFormat::markdown, "markdown", QT_TRANSLATE_NOOP("EnumLabel", "Markdown")},
+        {DeckExportFormat::text, "text", QT_TRANSLATE_NOOP("EnumLabel", "Plain text")},
     });
 };
 

@@ -40,7 +40,7 @@ QString NoteRow::preview() const
 {
     const QString text = LineText::shown(beginning(content).trimmed(), previewLength * 16);
     if (text.isEmpty())
-        return QStringLiteral("Empty note");
+        return QCoreApplication::translate("NoteRow", "Empty note");
     const QString shown = Graphemes::left(text, previewLength);
     return shown.size() < text.size() ? shown.trimmed() + u'…' : shown;
 }

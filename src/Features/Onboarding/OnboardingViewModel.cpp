@@ -43,10 +43,9 @@ QList<OnboardingModule> allModules()
 {
     QList<OnboardingModule> modules;
     for (const EnumCase<OrvelModule> &entry : enumCases<OrvelModule>()) {
-        const auto blurb = moduleBlurb(entry.value);
         modules.append({.id = entry.value,
                         .title = enumLabel(entry.value),
-                        .blurb = QString::fromUtf16(blurb.data(), qsizetype(blurb.size())),
+                        .blurb = moduleBlurb(entry.value),
                         .symbol = enumSymbol(entry.value)});
     }
     return modules;

@@ -35,7 +35,7 @@ PaletteRow rowOf(OrvelModule module)
 PaletteRow rowOf(const Page &page)
 {
     const QString title = page.title.trimmed();
-    PaletteRow row = rowOf(title.isEmpty() ? u"Untitled"_s : title);
+    PaletteRow row = rowOf(title.isEmpty() ? QCoreApplication::translate("PaletteRows", "Untitled") : title);
     const RecordIcon icon = RecordIcon::of(page);
     row.symbol = icon.symbol;
     row.emoji = icon.emoji;
@@ -91,7 +91,7 @@ QList<PaletteRow> PaletteRows::start(const WorkspaceStore &store)
     for (const OrvelModule module : modules.first(std::min(mostLinks, modules.size())))
         rows.append(rowOf(module));
     if (!rows.isEmpty())
-        rows.first().header = u"QUICK LINKS"_s;
+        rows.first().header = QCoreApplication::translate("PaletteRows", "QUICK LINKS");
     const qsizetype links = rows.size();
     for (const Page *const page : recentPages(store))
         rows.append(rowOf(*page));

@@ -29,7 +29,7 @@ bool namesKeys(QStringList caps, const QString &query)
 
 bool matches(const ShortcutItem &item, const QStringList &caps, const QString &query)
 {
-    return item.title.toLower().contains(query) || item.keys.toLower().contains(query) ||
+    return item.title().toLower().contains(query) || item.keys.toLower().contains(query) ||
            namesKeys(caps, query);
 }
 
@@ -41,7 +41,7 @@ QList<ShortcutRowGroup> groupsFor(const QString &query)
         for (const ShortcutItem &item : group.items) {
             const QStringList caps = KeyText::caps(item.portableKeys());
             if (matches(item, caps, query))
-                next.rows.append({item.title, item.systemImage, caps, KeyText::of(item.portableKeys())});
+                next.rows.append({item.title(), item.systemImage, caps, KeyText::of(item.portableKeys())});
         }
         if (!next.rows.isEmpty())
             groups.append(next);

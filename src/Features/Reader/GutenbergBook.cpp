@@ -1,5 +1,7 @@
 #include "Features/Reader/GutenbergBook.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,7 @@ std::optional<QUrl> secureURL(QString address)
 QString GutenbergBook::authorLine() const
 {
     if (authors.isEmpty())
-        return u"Unknown author"_s;
+        return QCoreApplication::translate("GutenbergBook", "Unknown author");
     QStringList names;
     for (const Author &author : authors)
         names.append(author.name);

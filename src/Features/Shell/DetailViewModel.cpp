@@ -59,10 +59,9 @@ QVariantMap DetailViewModel::placeholder(const Destination &place)
     const auto module = OrvelNavigation::module(place);
     if (!module)
         return {{u"symbol"_s, u"questionmark.circle"_s}, {u"title"_s, tr("Nothing to show here yet")}};
-    const auto blurb = moduleBlurb(*module);
     return {{u"symbol"_s, enumSymbol(*module)},
             {u"title"_s, enumLabel(*module)},
-            {u"message"_s, QString::fromUtf16(blurb.data(), qsizetype(blurb.size()))}};
+            {u"message"_s, moduleBlurb(*module)}};
 }
 
 QVariantMap DetailViewModel::notFound(const ScreenRecord &record) const

@@ -11,10 +11,10 @@ enum class TaskFilter { all, open, today, upcoming };
 template <>
 struct EnumTable<TaskFilter> {
     static constexpr auto cases = std::to_array<EnumCase<TaskFilter>>({
-        {TaskFilter::all, "all", u"All"},
-        {TaskFilter::open, "open", u"Open"},
-        {TaskFilter::today, "today", u"Today"},
-        {TaskFilter::upcoming, "upcoming", u"Upcoming"},
+        {TaskFilter::all, "all", QT_TRANSLATE_NOOP("EnumLabel", "All")},
+        {TaskFilter::open, "open", QT_TRANSLATE_NOOP("EnumLabel", "Open")},
+        {TaskFilter::today, "today", QT_TRANSLATE_NOOP("EnumLabel", "Today")},
+        {TaskFilter::upcoming, "upcoming", QT_TRANSLATE_NOOP("EnumLabel", "Upcoming")},
     });
 };
 

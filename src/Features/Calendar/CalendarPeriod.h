@@ -12,10 +12,10 @@ enum class CalendarMode { month, week, day, agenda };
 template <>
 struct EnumTable<CalendarMode> {
     static constexpr auto cases = std::to_array<EnumCase<CalendarMode>>({
-        {CalendarMode::month, "month", u"month"},
-        {CalendarMode::week, "week", u"week"},
-        {CalendarMode::day, "day", u"day"},
-        {CalendarMode::agenda, "agenda", u"agenda"},
+        {CalendarMode::month, "month", QT_TRANSLATE_NOOP("EnumLabel", "month")},
+        {CalendarMode::week, "week", QT_TRANSLATE_NOOP("EnumLabel", "week")},
+        {CalendarMode::day, "day", QT_TRANSLATE_NOOP("EnumLabel", "day")},
+        {CalendarMode::agenda, "agenda", QT_TRANSLATE_NOOP("EnumLabel", "agenda")},
     });
 };
 

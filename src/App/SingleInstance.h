@@ -43,7 +43,7 @@ public:
     /// on another thread once `start` has returned, one call at a time.
     std::expected<void, QString> checkLock();
 
-    /// Finds out who this process is. The error is a sentence for the person.
+    /// Finds out who this process is. The error is a sentence for the user.
     /// @param activationToken the desktop's permission to come to the front, handed to the first start
     std::expected<Role, QString> start(const QByteArray &activationToken = {});
 

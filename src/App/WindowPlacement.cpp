@@ -10,7 +10,7 @@ namespace
 {
 const QString geometryKey = u"window/geometry"_s;
 const QString maximizedKey = u"window/maximized"_s;
-// So much of a window has to show for a person to find and move it.
+// So much of a window has to show for a user to find and move it.
 constexpr QSize leastVisible{160, 48};
 } // namespace
 

@@ -3,7 +3,7 @@
 #include <QKeySequence>
 #include <QStringList>
 
-/// The keys of the machine at hand as a person reads them. They are given in portable form, such as "Ctrl+K".
+/// The keys of the machine at hand as a user reads them. They are given in portable form, such as "Ctrl+K".
 namespace KeyText
 {
 /// One text for each key, such as "Ctrl" and "K".

@@ -4,7 +4,7 @@
 #include <QQuickTextDocument>
 #include <QTextDocument>
 
-/// Sets the lines of an editable text apart, which a TextEdit cannot do by itself. The person's undo never
+/// Sets the lines of an editable text apart, which a TextEdit cannot do by itself. The user's undo never
 /// sees it.
 class LineSpacing : public QObject
 {

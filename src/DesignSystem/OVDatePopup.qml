@@ -16,9 +16,9 @@ OVPopup {
     /// Whether the keyboard opened it, so that its place shows at once.
     property bool byKeyboard: false
 
-    /// The person chose this moment.
+    /// The user chose this moment.
     signal edited(moment: date)
-    /// The person took the value away.
+    /// The user took the value away.
     signal cleared()
 
     name: showsDate ? qsTr("Choose a date") : qsTr("Choose a time")

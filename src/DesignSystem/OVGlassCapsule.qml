@@ -1,7 +1,7 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// The ground of bars, docks and capsules: glass where the person likes it, plain paper otherwise.
+/// The ground of bars, docks and capsules: glass where the user likes it, plain paper otherwise.
 Rectangle {
     id: root
 

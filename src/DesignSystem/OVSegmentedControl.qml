@@ -13,7 +13,7 @@ T.Control {
     property list<string> model
     property int currentIndex: 0
 
-    /// The person chose another one.
+    /// The user chose another one.
     signal activated(index: int)
 
     function choose(index: int) {

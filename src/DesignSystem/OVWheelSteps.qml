@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Turns the wheel's or touchpad's movement into whole steps: 1 for one notch away from the person.
+/// Turns the wheel's or touchpad's movement into whole steps: 1 for one notch away from the user.
 WheelHandler {
     id: root
 

@@ -22,7 +22,7 @@ public:
 
     bool isDark() const { return m_dark; }
 
-    /// What the portal's number says; nothing if the person has no preference there.
+    /// What the portal's number says; nothing if the user has no preference there.
     static std::optional<bool> preference(uint colorScheme);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Text counted as a person counts it: a letter with its accents, or an emoji of several parts, is one.
+/// Text counted as a user counts it: a letter with its accents, or an emoji of several parts, is one.
 namespace Graphemes
 {
 qsizetype count(const QString &text);

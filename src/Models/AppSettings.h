@@ -33,7 +33,7 @@ struct RelaxLink {
     }
 };
 
-/// Everything that the person can choose. It lies in the workspace file and so travels with it.
+/// Everything that the user can choose. It lies in the workspace file and so travels with it.
 struct AppSettings {
     QString userName;
     QString workspaceName = QStringLiteral("My Workspace");
@@ -57,8 +57,8 @@ struct AppSettings {
 
     bool operator==(const AppSettings &) const = default;
 
-    /// "Good morning" and the like, with the person's name if there is one.
-    /// @param hour hour of the person's day, from 0 to 23
+    /// "Good morning" and the like, with the user's name if there is one.
+    /// @param hour hour of the user's day, from 0 to 23
     QString greeting(int hour) const;
     /// The modules that are not hidden, in module order.
     QList<OrvelModule> visibleModules() const;

@@ -46,7 +46,7 @@ struct DBProperty {
     }
 };
 
-/// A table that the person defines: columns and saved views. Its rows are stored apart.
+/// A table that the user defines: columns and saved views. Its rows are stored apart.
 struct DatabaseTable {
     QUuid id;
     QString name = QStringLiteral("Untitled database");
@@ -54,7 +54,7 @@ struct DatabaseTable {
     QString details;
     QList<DBProperty> properties;
     QList<DBView> views;
-    /// The person's star on the database.
+    /// The user's star on the database.
     bool isTemplate = false;
     double sortOrder = 0;
     Timestamp createdDate;

@@ -2,7 +2,7 @@
 
 #include "Foundation/EnumTable.h"
 
-/// The fourteen screens that a person can show or hide, in the order of every list of modules.
+/// The fourteen screens that a user can show or hide, in the order of every list of modules.
 enum class OrvelModule {
     dashboard,
     today,

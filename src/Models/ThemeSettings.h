@@ -146,7 +146,7 @@ struct EnumTable<ThemePreset> {
     });
 };
 
-/// The choices of appearance, as the person made them. `OVTheme` resolves them into what screens read.
+/// The choices of appearance, as the user made them. `OVTheme` resolves them into what screens read.
 struct ThemeSettings {
     AccentPalette accent = AccentPalette::mono;
     CanvasStyle canvas = CanvasStyle::mist;

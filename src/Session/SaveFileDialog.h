@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Asks the person where a file is to be saved, in the dialog of the desktop itself, which every desktop
+/// Asks the user where a file is to be saved, in the dialog of the desktop itself, which every desktop
 /// offers to programs through its portal. Where there is none, the file goes into a folder without asking.
 class SaveFileDialog : public QObject
 {
@@ -16,7 +16,7 @@ public:
         /// False where the folder was taken without asking.
         bool wasAsked = true;
     };
-    /// Gets nothing if the person has cancelled.
+    /// Gets nothing if the user has cancelled.
     using Receiver = std::function<void(const std::optional<Answer> &)>;
 
     /// @param fallbackFolder is made when it is needed

@@ -16,7 +16,7 @@ PreparedSearch::PreparedSearch(const WorkspaceStore &store, Timing timing, QObje
 
 void PreparedSearch::prepareLater()
 {
-    // The time is not pushed on by each change: a person who types on and on is to find it ready, too.
+    // The time is not pushed on by each change: a user who types on and on is to find it ready, too.
     if (!m_timer.isActive())
         m_timer.start(m_timing.delay);
 }

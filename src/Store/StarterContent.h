@@ -5,7 +5,7 @@
 class WorkspaceStore;
 
 /// What a new workspace holds, and the examples in it. Example records carry no mark: they are known by their
-/// exact titles, so a record of the person's own with such a title counts as one.
+/// exact titles, so a record of the user's own with such a title counts as one.
 namespace StarterContent
 {
 /// The choices made in the onboarding.

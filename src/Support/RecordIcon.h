@@ -4,7 +4,7 @@
 #include "Models/Page.h"
 
 /// How a page or folder is marked in lists: with a line icon as long as it has the icon it was made with,
-/// else with the emoji that the person chose.
+/// else with the emoji that the user chose.
 struct RecordIcon {
     QString symbol;
     QString emoji;

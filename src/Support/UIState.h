@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-/// Where the person is in the window. There is one for the process, and nothing of it is stored: it starts
+/// Where the user is in the window. There is one for the process, and nothing of it is stored: it starts
 /// afresh with each launch. Of the ids, null means none.
 class UIState : public QObject
 {

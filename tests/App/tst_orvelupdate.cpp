@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The program itself, in a folder of the person's own, beside an update site.
+/// The program itself, in a folder of the user's own, beside an update site.
 class OrvelUpdateTest : public QObject
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 #include <expected>
 
-/// Checks JSON that a person has written, and lays it out.
+/// Checks JSON that a user has written, and lays it out.
 namespace JsonText
 {
 /// The same value with sorted keys and two blanks a level. Numbers and strings stay as they are written, and

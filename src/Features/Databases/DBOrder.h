@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-/// The order of values in a sort: numbers by their value, all other texts as a person would file them, with
+/// The order of values in a sort: numbers by their value, all other texts as a user would file them, with
 /// runs of digits by their value and case and accents deciding only among otherwise equal texts. The empty
 /// value comes before all others.
 class DBOrder

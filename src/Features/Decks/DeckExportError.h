@@ -2,7 +2,7 @@
 
 #include "Foundation/EnumTable.h"
 
-/// Why a deck could not be exported; the label is the sentence that the person sees.
+/// Why a deck could not be exported; the label is the sentence that the user sees.
 enum class DeckExportError { noSlides, renderFailed, writeFailed };
 
 template <>

@@ -18,7 +18,7 @@ struct NoteRow {
     Q_PROPERTY(QString dateText READ dateText FINAL)
 
 public:
-    /// Characters, as a person counts them, of a preview.
+    /// Characters, as a user counts them, of a preview.
     static constexpr qsizetype previewLength = 140;
 
     QUuid id;

@@ -18,7 +18,7 @@ FocusScope {
     property alias spacing: column.spacing
     default property alias content: column.data
 
-    /// The person is done with the step.
+    /// The user is done with the step.
     signal accepted
 
     function reveal(item: Item) {

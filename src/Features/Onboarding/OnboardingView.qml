@@ -9,7 +9,7 @@ import Orvel.Session
 FocusScope {
     id: root
 
-    /// Where the person is, and what is chosen so far.
+    /// Where the user is, and what is chosen so far.
     readonly property alias choices: onboarding
 
     readonly property list<string> pages: ["WelcomeStep", "ProfileStep", "ModulesStep", "StarterStep",

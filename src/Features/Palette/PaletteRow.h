@@ -27,7 +27,7 @@ public:
     QString symbol;
     /// Shown instead of the symbol.
     QString emoji;
-    /// The keys that open it without the palette, as a person reads them.
+    /// The keys that open it without the palette, as a user reads them.
     QString keys;
     Destination destination;
 

@@ -16,7 +16,7 @@ Item {
     OVSheet {
         id: sheet
 
-        /// The sheet keeps its height while the person searches.
+        /// The sheet keeps its height while the user searches.
         property real wholeHeight: 0
 
         maximumWidth: Theme.readingWidth

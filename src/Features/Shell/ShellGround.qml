@@ -1,7 +1,7 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// What the sidebar and the bars stand on: glass where the person likes it, with a hair line towards the screen.
+/// What the sidebar and the bars stand on: glass where the user likes it, with a hair line towards the screen.
 Rectangle {
     id: root
 

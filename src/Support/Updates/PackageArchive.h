@@ -20,7 +20,7 @@ struct Limits {
 /// Unpacks the bundle of the archive, and nothing beside it, into the folder, as plain files and folders:
 /// there are no links, and of the modes only "executable" is kept. Blocks until it is done or asked to stop.
 /// An archive that could reach outside the folder, or be read in two ways, is refused.
-/// On failure gives the reason, for logs rather than for the person; what was unpacked so far is left.
+/// On failure gives the reason, for logs rather than for the user; what was unpacked so far is left.
 std::expected<void, QString> unpack(const QString &archive, const QString &folder,
                                     const std::stop_token &stop = {}, const Limits &limits = Limits());
 } // namespace PackageArchive

@@ -30,7 +30,7 @@ public:
     struct Phase {
         enum class Kind { idle, checking, installing, failed };
         Kind kind = Kind::idle;
-        /// Why it failed, for the person.
+        /// Why it failed, for the user.
         QString message = {};
 
         bool operator==(const Phase &) const = default;
@@ -46,7 +46,7 @@ public:
         /// Installs an update as soon as it is found.
         bool installsByItself = false;
         Wait wait = systemWait();
-        /// Shows a page of the web to the person.
+        /// Shows a page of the web to the user.
         std::function<void(const QUrl &)> openPage = [](const QUrl &) {};
         HttpLimits limits = ManifestRequest::limits;
     };
@@ -73,7 +73,7 @@ public:
     const QString &currentBuild() const { return m_options.build; }
     const Phase &phase() const { return m_phase; }
     const std::optional<AvailableUpdate> &available() const { return m_available; }
-    /// A message for the person; empty for none.
+    /// A message for the user; empty for none.
     const QString &notice() const { return m_notice; }
     /// 0 to 1 while a package is fetched, nothing at other times.
     std::optional<double> installProgress() const { return m_installProgress; }

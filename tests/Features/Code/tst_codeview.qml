@@ -113,7 +113,7 @@ Item {
             Orvel.ui.selectCodeDocument(b)
             shows("Source of b")
 
-            // A new look makes the screen anew, where the person was.
+            // A new look makes the screen anew, where the user was.
             click("a, Python · 1 line")
             shows("Source of a")
             root.view.destroy()

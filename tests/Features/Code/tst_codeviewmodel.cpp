@@ -72,7 +72,7 @@ private slots:
         const QUuid b = desk.add(u"b"_s), c = desk.add(u"c"_s);
         desk.workspace.ui().setCodeDocumentID(b);
         QCOMPARE(desk.titles(), u"a b* c"_s);
-        // It is wanted once; later the person goes where they like.
+        // It is wanted once; later the user goes where they like.
         desk.code.select(c);
         desk.add(u"d"_s);
         QCOMPARE(desk.titles(), u"a b c* d"_s);

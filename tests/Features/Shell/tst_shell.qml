@@ -111,7 +111,7 @@ Item {
             const host = all(view, item => item instanceof DetailHost)[0]
             tryVerify(() => host.activeFocus)
 
-            // A page that has its name takes no words until the person goes to where they belong.
+            // A page that has its name takes no words until the user goes to where they belong.
             Orvel.ui.selectPage(plan)
             one("Plan", PageEditorView)
             tryVerify(() => host.activeFocus && !host.busy)

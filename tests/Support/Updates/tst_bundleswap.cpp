@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Runs the script with stand-ins for its tools, in a folder that stands for the person's applications.
+/// Runs the script with stand-ins for its tools, in a folder that stands for the user's applications.
 class BundleSwapTest : public QObject
 {
     Q_OBJECT

@@ -103,7 +103,7 @@ private:
         return update;
     }
 
-    /// Gives what the person is told, or nothing after a success.
+    /// Gives what the user is told, or nothing after a success.
     QString install(const AvailableUpdate &update, const HttpLimits &limits = patient)
     {
         std::optional<std::expected<void, QString>> result;

@@ -6,11 +6,11 @@
 template <>
 struct EnumTable<SlideField> {
     static constexpr auto cases = std::to_array<EnumCase<SlideField>>({
-        {SlideField::kicker, "kicker", u"Kicker"},
-        {SlideField::title, "title", u"Title"},
-        {SlideField::subtitle, "subtitle", u"Subtitle"},
-        {SlideField::body, "body", u"Body"},
-        {SlideField::bodyB, "bodyB", u"Second column"},
+        {SlideField::kicker, "kicker", QT_TRANSLATE_NOOP("EnumLabel", "Kicker")},
+        {SlideField::title, "title", QT_TRANSLATE_NOOP("EnumLabel", "Title")},
+        {SlideField::subtitle, "subtitle", QT_TRANSLATE_NOOP("EnumLabel", "Subtitle")},
+        {SlideField::body, "body", QT_TRANSLATE_NOOP("EnumLabel", "Body")},
+        {SlideField::bodyB, "bodyB", QT_TRANSLATE_NOOP("EnumLabel", "Second column")},
     });
 };
 

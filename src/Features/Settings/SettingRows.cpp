@@ -19,11 +19,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("SettingRows", text);
 }
 
-QString fromTable(std::u16string_view text)
-{
-    return QString::fromUtf16(text.data(), qsizetype(text.size()));
-}
-
 /// One choice a case of the enum, by its label.
 template <TabledEnum Enum>
 Choices casesOf(const std::function<void(Enum, SettingChoice &)> &fill = {})
@@ -131,7 +126,7 @@ Choices modules(const AppSettings &settings)
 {
     return casesOf<OrvelModule>([&settings](OrvelModule module, SettingChoice &choice) {
         choice.symbol = enumSymbol(module);
-        choice.detail = fromTable(moduleBlurb(module));
+        choice.detail = moduleBlurb(module);
         choice.isSelected = !settings.hiddenModules.contains(enumRawText(module));
     });
 }

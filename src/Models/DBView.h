@@ -14,11 +14,11 @@ enum class DBViewType { table, board, list, gallery, calendar };
 template <>
 struct EnumTable<DBViewType> {
     static constexpr auto cases = std::to_array<EnumCase<DBViewType>>({
-        {DBViewType::table, "table", u"Table", "tablecells"},
-        {DBViewType::board, "board", u"Board", "rectangle.split.3x1"},
-        {DBViewType::list, "list", u"List", "list.bullet.indent"},
-        {DBViewType::gallery, "gallery", u"Gallery", "square.grid.2x2"},
-        {DBViewType::calendar, "calendar", u"Calendar", "calendar"},
+        {DBViewType::table, "table", QT_TRANSLATE_NOOP("EnumLabel", "Table"), "tablecells"},
+        {DBViewType::board, "board", QT_TRANSLATE_NOOP("EnumLabel", "Board"), "rectangle.split.3x1"},
+        {DBViewType::list, "list", QT_TRANSLATE_NOOP("EnumLabel", "List"), "list.bullet.indent"},
+        {DBViewType::gallery, "gallery", QT_TRANSLATE_NOOP("EnumLabel", "Gallery"), "square.grid.2x2"},
+        {DBViewType::calendar, "calendar", QT_TRANSLATE_NOOP("EnumLabel", "Calendar"), "calendar"},
     });
 };
 
@@ -27,13 +27,13 @@ enum class FilterOp { isExactly, isNot, contains, isEmpty, isNotEmpty, before, a
 template <>
 struct EnumTable<FilterOp> {
     static constexpr auto cases = std::to_array<EnumCase<FilterOp>>({
-        {FilterOp::isExactly, "is", u"is"},
-        {FilterOp::isNot, "isNot", u"is not"},
-        {FilterOp::contains, "contains", u"contains"},
-        {FilterOp::isEmpty, "isEmpty", u"is empty"},
-        {FilterOp::isNotEmpty, "isNotEmpty", u"is not empty"},
-        {FilterOp::before, "before", u"is before"},
-        {FilterOp::after, "after", u"is after"},
+        {FilterOp::isExactly, "is", QT_TRANSLATE_NOOP("EnumLabel", "is")},
+        {FilterOp::isNot, "isNot", QT_TRANSLATE_NOOP("EnumLabel", "is not")},
+        {FilterOp::contains, "contains", QT_TRANSLATE_NOOP("EnumLabel", "contains")},
+        {FilterOp::isEmpty, "isEmpty", QT_TRANSLATE_NOOP("EnumLabel", "is empty")},
+        {FilterOp::isNotEmpty, "isNotEmpty", QT_TRANSLATE_NOOP("EnumLabel", "is not empty")},
+        {FilterOp::before, "before", QT_TRANSLATE_NOOP("EnumLabel", "is before")},
+        {FilterOp::after, "after", QT_TRANSLATE_NOOP("EnumLabel", "is after")},
     });
 };
 

@@ -10,15 +10,17 @@ enum class DBPropertyType { text, select, status, multiselect, date, number, che
 template <>
 struct EnumTable<DBPropertyType> {
     static constexpr auto cases = std::to_array<EnumCase<DBPropertyType>>({
-        {DBPropertyType::text, "text", u"Text", "textformat"},
-        {DBPropertyType::select, "select", u"Select", "chevron.down.circle"},
-        {DBPropertyType::status, "status", u"Status", "circle.dotted"},
-        {DBPropertyType::multiselect, "multiselect", u"Multi-select", "list.bullet"},
-        {DBPropertyType::date, "date", u"Date", "calendar"},
-        {DBPropertyType::number, "number", u"Number", "number"},
-        {DBPropertyType::checkbox, "checkbox", u"Checkbox", "checkmark.square"},
-        {DBPropertyType::url, "url", u"URL", "link"},
-        {DBPropertyType::progress, "progress", u"Progress", "chart.bar"},
+        {DBPropertyType::text, "text", QT_TRANSLATE_NOOP("EnumLabel", "Text"), "textformat"},
+        {DBPropertyType::select, "select", QT_TRANSLATE_NOOP("EnumLabel", "Select"), "chevron.down.circle"},
+        {DBPropertyType::status, "status", QT_TRANSLATE_NOOP("EnumLabel", "Status"), "circle.dotted"},
+        {DBPropertyType::multiselect, "multiselect", QT_TRANSLATE_NOOP("EnumLabel", "Multi-select"),
+         "list.bullet"},
+        {DBPropertyType::date, "date", QT_TRANSLATE_NOOP("EnumLabel", "Date"), "calendar"},
+        {DBPropertyType::number, "number", QT_TRANSLATE_NOOP("EnumLabel", "Number"), "number"},
+        {DBPropertyType::checkbox, "checkbox", QT_TRANSLATE_NOOP("EnumLabel", "Checkbox"),
+         "checkmark.square"},
+        {DBPropertyType::url, "url", QT_TRANSLATE_NOOP("EnumLabel", "URL"), "link"},
+        {DBPropertyType::progress, "progress", QT_TRANSLATE_NOOP("EnumLabel", "Progress"), "chart.bar"},
     });
 };
 

@@ -16,8 +16,8 @@ enum class LibraryTab { recent, favourites };
 template <>
 struct EnumTable<LibraryTab> {
     static constexpr auto cases = std::to_array<EnumCase<LibraryTab>>({
-        {LibraryTab::recent, "recent", u"Recent"},
-        {LibraryTab::favourites, "favourites", u"Favourites"},
+        {LibraryTab::recent, "recent", QT_TRANSLATE_NOOP("EnumLabel", "Recent")},
+        {LibraryTab::favourites, "favourites", QT_TRANSLATE_NOOP("EnumLabel", "Favourites")},
     });
 };
 

@@ -130,7 +130,7 @@ QList<DBProperty> CsvColumns::guess(const CsvTable &table, const QLocale &locale
         DBProperty property;
         property.name = table.names.at(i).trimmed();
         if (property.name.isEmpty())
-            property.name = QStringLiteral("Column %1").arg(i + 1);
+            property.name = QCoreApplication::translate("CsvColumns", "Column %1").arg(i + 1);
         const Column column(table, i);
         // The first column names the records.
         property.type = i == 0 ? Type::text : guessType(column, locale);

@@ -38,7 +38,8 @@ std::expected<QString, QString> bookText(const HttpResult &result, const QByteAr
         if (!GutenbergText::isWebPage(text))
             return GutenbergClient::stripBoilerplate(text);
     }
-    return std::unexpected(u"Couldn't download that book. Check your connection and try again."_s);
+    return std::unexpected(QCoreApplication::translate(
+        "GutenbergClient", "Couldn't download that book. Check your connection and try again."));
 }
 } // namespace
 
@@ -69,13 +70,16 @@ void GutenbergClient::search(const QString &query)
     setPhase(Phase::loading);
     const auto url = searchURL(wanted);
     if (!url) {
-        setPhase(Phase::failed, u"That search couldn't be built."_s);
+        setPhase(Phase::failed,
+                 QCoreApplication::translate("GutenbergClient", "That search couldn't be built."));
         return;
     }
     Http::get({.url = *url}, m_options.searchLimits, this, [this](const HttpResult &result) {
         const auto response = result ? decodeResponse(result->body) : std::nullopt;
         if (!response) {
-            setPhase(Phase::failed, u"Couldn't reach the library. Check your connection and try again."_s);
+            setPhase(Phase::failed, QCoreApplication::translate(
+                                        "GutenbergClient",
+                                        "Couldn't reach the library. Check your connection and try again."));
             return;
         }
         setResults(response->results);

@@ -25,7 +25,7 @@ public:
     explicit GutenbergClient(Options options, QObject *parent = nullptr);
 
     Phase phase() const { return m_phase; }
-    /// The sentence for the person while the phase is `failed`, else empty.
+    /// The sentence for the user while the phase is `failed`, else empty.
     const QString &failure() const { return m_failure; }
     /// What the last answered search found, in the catalogue's order; a failed search leaves it as it was.
     const QList<GutenbergBook> &results() const { return m_results; }

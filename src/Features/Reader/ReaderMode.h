@@ -8,7 +8,8 @@ enum class ReaderMode { library, discover };
 template <>
 struct EnumTable<ReaderMode> {
     static constexpr auto cases = std::to_array<EnumCase<ReaderMode>>({
-        {ReaderMode::library, "library", u"Library", "books.vertical"},
-        {ReaderMode::discover, "discover", u"Discover", "sparkle.magnifyingglass"},
+        {ReaderMode::library, "library", QT_TRANSLATE_NOOP("EnumLabel", "Library"), "books.vertical"},
+        {ReaderMode::discover, "discover", QT_TRANSLATE_NOOP("EnumLabel", "Discover"),
+         "sparkle.magnifyingglass"},
     });
 };

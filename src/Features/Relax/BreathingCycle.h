@@ -27,8 +27,8 @@ Moment at(double seconds);
 template <>
 struct EnumTable<BreathingCycle::Phase> {
     static constexpr auto cases = std::to_array<EnumCase<BreathingCycle::Phase>>({
-        {BreathingCycle::Phase::in, "in", u"Breathe in"},
-        {BreathingCycle::Phase::hold, "hold", u"Hold"},
-        {BreathingCycle::Phase::out, "out", u"Breathe out"},
+        {BreathingCycle::Phase::in, "in", QT_TRANSLATE_NOOP("EnumLabel", "Breathe in")},
+        {BreathingCycle::Phase::hold, "hold", QT_TRANSLATE_NOOP("EnumLabel", "Hold")},
+        {BreathingCycle::Phase::out, "out", QT_TRANSLATE_NOOP("EnumLabel", "Breathe out")},
     });
 };

@@ -12,14 +12,14 @@ enum class RelaxScene { aurora, ocean, forest, night, sunset, meadow, rain, embe
 template <>
 struct EnumTable<RelaxScene> {
     static constexpr auto cases = std::to_array<EnumCase<RelaxScene>>({
-        {RelaxScene::aurora, "aurora", u"Aurora"},
-        {RelaxScene::ocean, "ocean", u"Ocean"},
-        {RelaxScene::forest, "forest", u"Forest"},
-        {RelaxScene::night, "night", u"Night sky"},
-        {RelaxScene::sunset, "sunset", u"Sunset"},
-        {RelaxScene::meadow, "meadow", u"Meadow"},
-        {RelaxScene::rain, "rain", u"Rainfall"},
-        {RelaxScene::embers, "embers", u"Embers"},
+        {RelaxScene::aurora, "aurora", QT_TRANSLATE_NOOP("EnumLabel", "Aurora")},
+        {RelaxScene::ocean, "ocean", QT_TRANSLATE_NOOP("EnumLabel", "Ocean")},
+        {RelaxScene::forest, "forest", QT_TRANSLATE_NOOP("EnumLabel", "Forest")},
+        {RelaxScene::night, "night", QT_TRANSLATE_NOOP("EnumLabel", "Night sky")},
+        {RelaxScene::sunset, "sunset", QT_TRANSLATE_NOOP("EnumLabel", "Sunset")},
+        {RelaxScene::meadow, "meadow", QT_TRANSLATE_NOOP("EnumLabel", "Meadow")},
+        {RelaxScene::rain, "rain", QT_TRANSLATE_NOOP("EnumLabel", "Rainfall")},
+        {RelaxScene::embers, "embers", QT_TRANSLATE_NOOP("EnumLabel", "Embers")},
     });
 };
 

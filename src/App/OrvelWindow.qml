@@ -55,11 +55,6 @@ Window {
         window: window
     }
 
-    Loader {
-        active: rootView.isDrawn
-        source: "../MenuBar/MenuBarExtra.qml"
-    }
-
     CommandKeys {
         active: rootView.isDrawn
         commands: commands
@@ -70,5 +65,10 @@ Window {
 
         anchors.fill: parent
         commands: commands
+    }
+
+    Loader {
+        active: rootView.isDrawn
+        source: "../MenuBar/MenuBarExtra.qml"
     }
 }

@@ -26,6 +26,11 @@ FocusScope {
         return true
     }
 
+    /// What Tab does here; false to leave it to others.
+    function leaveForwards(): bool {
+        return list.exitForwards()
+    }
+
     activeFocusOnTab: activeFocus
     height: rowHeight
     width: ListView.view?.width ?? 0
@@ -45,7 +50,7 @@ FocusScope {
     }
 
     Keys.onBacktabPressed: event => event.accepted = leaveBackwards()
-    Keys.onTabPressed: event => event.accepted = list.exitForwards()
+    Keys.onTabPressed: event => event.accepted = leaveForwards()
 
     OVAppear {
         id: appear

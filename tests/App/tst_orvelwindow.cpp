@@ -488,7 +488,7 @@ private slots:
         QTRY_VERIFY(item("PageEditorView"));
         const Snapshot two = store().snapshot();
         ui().select(u"settings"_s);
-        QTRY_VERIFY(item("PlaceNotice"));
+        QTRY_VERIFY(item("SettingsView"));
         press(u"Ctrl+Z"_s);
         QCOMPARE(store().snapshot(), one);
         press(u"Ctrl+Y"_s);

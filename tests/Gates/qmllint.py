@@ -19,6 +19,10 @@ ID = re.compile(r"^\s*id:\s*(\w+)", re.MULTILINE)
 FALSE_ALARMS = [
     'Type "QUuid" of property',  # Qt 6.4 does not describe it to QML, which hands it on all the same
     'No type found for property "pageID"',  # a QUuid too
+    'No type found for property "tableID"',
+    'No type found for property "viewID"',
+    'Property "map" not found on type "QList<Choice>"',
+    "Cannot assign binding of type QQuickWindow to QQuickWindowQmlImpl",
     'No type found for property "bookID"',
     'No type found for property "projectID"',
     "Cannot assign binding of type QStringList to QList<QString>",  # two names of one type

@@ -77,7 +77,8 @@ void NavigationTest::emptyGroupsAreNotShown()
     AppSettings settings;
     QCOMPARE(OrvelNavigation::visibleGroups(settings), OrvelNavigation::groups());
 
-    for (const OrvelModule module : OrvelNavigation::groups().last().modules)
+    const auto groups = OrvelNavigation::groups();
+    for (const OrvelModule module : groups.last().modules)
         settings.setModule(module, false);
     settings.setModule(OrvelModule::today, false);
     const auto shown = OrvelNavigation::visibleGroups(settings);

@@ -8,6 +8,8 @@ using namespace ICalendarFormat;
 namespace
 {
 constexpr int maxDays = 366;
+/// Characters of all events together.
+constexpr qsizetype maxTextLength = 8 * 1024 * 1024;
 /// An event that repeats within the hour fills thousands of days with itself.
 constexpr auto mostOften = ICAL_DAILY_RECURRENCE;
 
@@ -203,6 +205,8 @@ bool ICalendarEvents::addSeries(const Source &source)
         if (!repeats)
             return false;
         starts.append(*repeats);
+        if (starts.size() > ICalendarReader::maxEvents)
+            return false;
     }
     for (icalproperty *date = first(source.component, ICAL_RDATE_PROPERTY); date;
          date = icalcomponent_get_next_property(source.component, ICAL_RDATE_PROPERTY)) {
@@ -214,6 +218,8 @@ bool ICalendarEvents::addSeries(const Source &source)
     QSet<QString> done = exceptions(source);
     const qsizetype before = events.size();
     for (const icaltimetype &start : std::as_const(starts)) {
+        if (m_deadline.hasExpired())
+            return false;
         const QString key = keyOf(start);
         const QDate day = written(start, m_options.zone).date();
         if (day < m_first || day > m_last || done.contains(key) || done.contains(key.first(8)) ||
@@ -229,6 +235,8 @@ bool ICalendarEvents::addSeries(const Source &source)
 
 std::optional<QList<icaltimetype>> ICalendarEvents::repeated(const Source &source, icalproperty *property)
 {
+    if (m_deadline.hasExpired())
+        return std::nullopt;
     QList<icaltimetype> starts;
     icalrecurrencetype rule = icalproperty_get_rrule(property);
     if (rule.freq < mostOften || rule.freq > ICAL_YEARLY_RECURRENCE) {
@@ -252,6 +260,8 @@ std::optional<QList<icaltimetype>> ICalendarEvents::repeated(const Source &sourc
     }
     const icaltimetype end = dateOf(m_last);
     for (;;) {
+        if (m_deadline.hasExpired() || starts.size() > ICalendarReader::maxEvents)
+            return std::nullopt;
         const icaltimetype next = icalrecur_iterator_next(repetition.get());
         if (icaltime_is_null_time(next))
             return starts;
@@ -259,8 +269,6 @@ std::optional<QList<icaltimetype>> ICalendarEvents::repeated(const Source &sourc
             ++losses.farAway;
             return starts;
         }
-        if (m_deadline.hasExpired() || starts.size() > ICalendarReader::maxEvents)
-            return std::nullopt;
         if (icaltime_compare_date_only(next, from) >= 0)
             starts.append(next);
     }
@@ -285,7 +293,10 @@ bool ICalendarEvents::addOn(const Source &source, const icaltimetype &start, con
     if (!isDate)
         moment = moment.toTimeZone(m_options.zone);
     for (int i = 0; i < source.days; ++i) {
-        if (events.size() >= ICalendarReader::maxEvents)
+        // Each day gets a copy of the texts: a small file must not become a huge workspace.
+        m_textLength += source.event.title.size() + source.event.notes.size();
+        hasTooMuchText = m_textLength > maxTextLength;
+        if (events.size() >= ICalendarReader::maxEvents || hasTooMuchText || m_deadline.hasExpired())
             return false;
         CalendarEvent event = source.event;
         const QUuid own = key.isEmpty() && i == 0 ? QUuid::fromString(source.uid) : QUuid();

@@ -34,6 +34,8 @@ public:
     qsizetype series = 0;
     qsizetype occurrences = 0;
     Losses losses;
+    /// Whether the last `add` failed for the length of the texts.
+    bool hasTooMuchText = false;
 
 private:
     /// An event as it stands in the file.
@@ -67,6 +69,7 @@ private:
     QDate m_last;
     QHash<QByteArray, QTimeZone> m_zones;
     QSet<QUuid> m_ids;
+    qsizetype m_textLength = 0;
     /// Occurrences that an event of its own replaces: UID and start.
     QSet<QString> m_replaced;
 };

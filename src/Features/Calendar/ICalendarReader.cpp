@@ -92,6 +92,8 @@ std::expected<ICalendarContents, QString> ICalendarReader::read(QByteArray bytes
             continue;
         if (reader.events.size() >= maxEvents)
             return std::unexpected(tr("This calendar file holds more than %1 events.").arg(maxEvents));
+        if (reader.hasTooMuchText)
+            return std::unexpected(tr("The texts of this calendar file are too long."));
         return std::unexpected(sentence(ICalendarLines::Failure::tooSlow));
     }
     return ICalendarContents{std::move(reader.events), reader.series, reader.occurrences,

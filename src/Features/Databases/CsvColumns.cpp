@@ -158,8 +158,10 @@ QList<qsizetype> CsvColumns::match(const QStringList &names, const QList<DBPrope
 {
     QList<qsizetype> matches;
     for (const QString &name : names) {
-        const auto found = std::ranges::find_if(properties, [&name](const DBProperty &property) {
-            return property.name.trimmed().compare(name.trimmed(), Qt::CaseInsensitive) == 0;
+        // Of two columns with one name the second goes to the second property of that name.
+        const auto found = std::ranges::find_if(properties, [&](const DBProperty &property) {
+            return property.name.trimmed().compare(name.trimmed(), Qt::CaseInsensitive) == 0 &&
+                   !matches.contains(&property - properties.constData());
         });
         matches.append(found == properties.end() ? -1 : found - properties.begin());
     }

@@ -6,6 +6,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <array>
 #include <csv.h>
 #include <memory>
 
@@ -17,6 +18,25 @@ struct CsvText {
 
 /// Bytes handed to the parser at a time, after which progress is told.
 constexpr qsizetype pieceSize = 256 * 1024;
+/// More than this is no table that a user works with, but a file that would fill the memory.
+constexpr qsizetype maxColumns = 500;
+constexpr qsizetype maxCells = 20'000'000;
+
+/// Windows-1252 differs from Latin-1 in these characters, from 0x80 on.
+constexpr std::array<char16_t, 32> windowsCharacters{
+    0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021, 0x2C6,  0x2030, 0x160,
+    0x2039, 0x152,  0x8D,   0x17D,  0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
+
+QString fromWindows1252(const QByteArray &file)
+{
+    QString text = QString::fromLatin1(file);
+    for (QChar &character : text) {
+        if (character.unicode() >= 0x80 && character.unicode() < 0xA0)
+            character = QChar(windowsCharacters.at(character.unicode() - 0x80));
+    }
+    return text;
+}
 
 QByteArray toUtf8(const QByteArray &file)
 {
@@ -26,9 +46,13 @@ QByteArray toUtf8(const QByteArray &file)
     if (file.startsWith("\xEF\xBB\xBF"))
         return file.mid(3);
     QStringDecoder decoder(QStringConverter::Utf8);
-    const qsizetype sample = std::min<qsizetype>(file.size(), 4 * pieceSize);
-    const QString decoded = decoder.decode(QByteArrayView(file).first(sample));
-    return decoder.hasError() ? QString::fromLatin1(file).toUtf8() : file;
+    for (qsizetype from = 0; from < file.size(); from += pieceSize) {
+        const QString piece =
+            decoder.decode(QByteArrayView(file).sliced(from, std::min(pieceSize, file.size() - from)));
+        if (decoder.hasError())
+            return fromWindows1252(file).toUtf8();
+    }
+    return file;
 }
 
 /// Gathers what the parser finds.
@@ -47,6 +71,7 @@ public:
         gatherer.endRow();
     }
 
+    bool isTooLarge() const { return m_isTooLarge; }
     CsvTable take() { return std::move(m_table); }
 
 private:
@@ -55,10 +80,16 @@ private:
         QStringList row = std::exchange(m_row, {});
         if (!m_hasNames) {
             m_hasNames = true;
+            m_isTooLarge = row.size() > maxColumns;
             m_table.names = std::move(row);
             return;
         }
         const qsizetype width = m_table.names.size();
+        m_cells += width;
+        if (m_isTooLarge || m_cells > maxCells) {
+            m_isTooLarge = true;
+            return;
+        }
         m_row.reserve(width);
         if (row.size() != width) {
             ++m_table.ragged;
@@ -72,7 +103,9 @@ private:
 
     CsvTable m_table;
     QStringList m_row;
+    qsizetype m_cells = 0;
     bool m_hasNames = false;
+    bool m_isTooLarge = false;
 };
 
 int noSpace(unsigned char)
@@ -86,13 +119,19 @@ char CsvReader::separatorOf(QByteArrayView text)
     static constexpr std::array separators{',', ';', '\t'};
     std::array<qsizetype, separators.size()> counts{};
     bool isQuoted = false;
+    bool hasText = false;
     for (const char character : text) {
         if (character == '"')
             isQuoted = !isQuoted;
         if (isQuoted)
             continue;
-        if (character == '\n' || character == '\r')
-            break;
+        if (character == '\n' || character == '\r') {
+            // The parser passes over blank lines as well.
+            if (hasText)
+                break;
+            continue;
+        }
+        hasText = true;
         for (std::size_t i = 0; i < separators.size(); ++i)
             counts[i] += character == separators[i];
     }
@@ -117,8 +156,12 @@ std::expected<CsvTable, QString> CsvReader::read(const QByteArray &file, const P
             size)
             return std::unexpected(CsvText::tr("The file could not be read: %1.")
                                        .arg(QString::fromUtf8(csv_strerror(csv_error(&parser)))));
+        if (gatherer.isTooLarge())
+            break;
     }
     csv_fini(&parser, &Gatherer::cell, &Gatherer::row, &gatherer);
+    if (gatherer.isTooLarge())
+        return std::unexpected(CsvText::tr("The file has too many columns or cells."));
     CsvTable table = gatherer.take();
     if (table.names.isEmpty())
         return std::unexpected(CsvText::tr("The file is empty."));

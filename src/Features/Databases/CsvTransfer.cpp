@@ -107,6 +107,9 @@ void CsvTransfer::read(const QString &place)
     run([this, path](Job &job) -> std::function<void()> {
         QFile file(path);
         const auto fail = [this](const QString &message) { return [this, message] { m_error = message; }; };
+        // A pipe or a device may have no end.
+        if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+            return fail(tr("“%1” is not a file.").arg(path));
         if (!file.open(QIODevice::ReadOnly))
             return fail(tr("“%1” could not be opened: %2.").arg(path, file.errorString()));
         auto table = CsvReader::read(file.readAll(), [&job](double share) { return job.goOn(share * 0.9); });

@@ -10,6 +10,9 @@ OVTextField {
     /// What the cell has taken of the text that was written last.
     property string taken
 
+    // A field cuts what is longer, and the next key would write the rest away.
+    maximumLength: Math.max(32767, cell.text.length + 32767)
+
     signal written(text: string)
     /// The user goes on with this key.
     signal finished(key: int)

@@ -108,6 +108,16 @@ QString DBValue::pasted(const DBProperty &property, const QString &text)
     }
     case DBPropertyType::checkbox:
         return isChecked(text.trimmed()) ? QStringLiteral("true") : QString();
+    // What is a number as a whole keeps its value; of any other text the digits are kept, as in typing.
+    case DBPropertyType::number:
+        return number(text.trimmed()) ? text.trimmed() : typed(property.type, text);
+    case DBPropertyType::progress: {
+        QString share = text.trimmed();
+        if (share.endsWith(u'%'))
+            share = share.chopped(1).trimmed();
+        const auto value = number(share);
+        return value ? QString::number(qRound64(std::clamp(*value, 0.0, 1e6))) : typed(property.type, text);
+    }
     default:
         return typed(property.type, text);
     }

@@ -30,6 +30,8 @@ Column {
 
     OVTextField {
         id: field
+        // A field cuts what is longer, and the next key would write the rest away.
+        maximumLength: Math.max(32767, root.content.length + 32767)
         placeholderText: root.placeholder
         storeBacked: true
         text: root.content

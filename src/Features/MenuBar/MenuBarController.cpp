@@ -103,6 +103,8 @@ QPoint MenuBarController::place(const QPoint &icon, int width, int height) const
     const QScreen *screen = QGuiApplication::screenAt(icon);
     if (!screen)
         screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return {};
     return PanelPlacement::place({width, height}, icon, screen->geometry(), screen->availableGeometry());
 }
 

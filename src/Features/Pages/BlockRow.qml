@@ -45,6 +45,11 @@ ScreenListRow {
         return !part.hasOwnKeys
     }
 
+    // Tab goes through the parts of a block first.
+    function leaveForwards(): bool {
+        return false
+    }
+
     fadesIn: false
     onCaretMoved: caretPosition = part.input?.cursorPosition ?? caretPosition
     rowHeight: Math.ceil(loader.height)

@@ -1,7 +1,6 @@
 #include "Features/Shell/DetailViewModel.h"
 
 #include "DesignSystem/ThemeRevision.h"
-#include "Support/OrvelNavigation.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,25 +42,15 @@ DetailViewModel::Screen DetailViewModel::screen() const
     const PlaceScreen *const found = m_screens->find(place.kind);
     const ScreenRecord *const record = found && found->record ? &*found->record : nullptr;
     const bool exists = !record || record->exists(store(), place.id);
-    if (exists && found && found->file) {
+    if (!exists) {
+        next.source = url("Orvel/Shell/PlaceNotice.qml");
+        next.properties = notFound(*record);
+    } else if (found) {
         next.source = url(found->file);
         if (record)
             next.properties.insert(QLatin1String(record->property), place.id);
-    } else {
-        next.source = url("Orvel/Shell/PlaceNotice.qml");
-        next.properties = exists ? placeholder(place) : notFound(*record);
     }
     return next;
-}
-
-QVariantMap DetailViewModel::placeholder(const Destination &place)
-{
-    const auto module = OrvelNavigation::module(place);
-    if (!module)
-        return {{u"symbol"_s, u"questionmark.circle"_s}, {u"title"_s, tr("Nothing to show here yet")}};
-    return {{u"symbol"_s, enumSymbol(*module)},
-            {u"title"_s, enumLabel(*module)},
-            {u"message"_s, moduleBlurb(*module)}};
 }
 
 QVariantMap DetailViewModel::notFound(const ScreenRecord &record) const

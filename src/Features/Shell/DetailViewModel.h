@@ -51,8 +51,7 @@ private:
     void start() override;
     void refresh(const ChangeSet &changes) override;
     Screen screen() const;
-    /// The properties of PlaceNotice.qml for a place without a screen, and for one whose record is gone.
-    static QVariantMap placeholder(const Destination &place);
+    /// The properties of PlaceNotice.qml for a place whose record is gone.
     QVariantMap notFound(const ScreenRecord &record) const;
 
     ScreenTable *m_screens = nullptr;

@@ -28,8 +28,8 @@ bool recordExists(const WorkspaceStore &store, const QUuid &id)
 /// All there is to know of what stands in the detail pane at one kind of place.
 struct PlaceScreen {
     Destination::Kind kind;
-    /// The QML file below the import path; null for a place without a screen of its own.
-    const char *file = nullptr;
+    /// The QML file below the import path.
+    const char *file;
     std::optional<ScreenRecord> record = {};
 };
 

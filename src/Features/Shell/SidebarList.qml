@@ -100,7 +100,7 @@ FocusScope {
         Accessible.name: qsTr("Pages and places")
         Accessible.role: Accessible.List
         T.ScrollBar.vertical: scrollBar
-        onHasHeightChanged: root.reveal(root.sidebar.currentRow)
+        onHasHeightChanged: Qt.callLater(root.reveal, root.sidebar.currentRow)
 
         Keys.enabled: !root.sidebar.isNaming
         Keys.onPressed: event => {

@@ -187,6 +187,8 @@ Item {
             keyClick(Qt.Key_Return)
             const view = () => saved().databases[0].views[0]
             tryVerify(() => view().sorts.length === 1)
+            // The popup of the choice has to be gone.
+            wait(300)
             click("Item, ascending")
             tryVerify(() => view().sorts[0].descending)
             const chooser = find("FILTERS").parent

@@ -78,7 +78,7 @@ std::expected<void, QString> SingleInstance::checkLock()
 void SingleInstance::listen()
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    // A killed process leaves its socket behind; whoever holds the lock may clear it away.
+    // A killed process leaves its socket behind; the process that holds the lock may clear it away.
     QLocalServer::removeServer(m_options.socketPath);
     if (!m_server.listen(m_options.socketPath))
         qCWarning(instanceLog, "A second start of Orvel will not find this one: %s",

@@ -5,7 +5,7 @@ import Orvel.DesignSystem
 /// How far something has come, as a ring that fills clockwise from the top; `value` goes from 0 to 1. What is put
 /// into it stands in its middle.
 ///
-/// Small steps are shown as they come, so that whoever counts decides how often it is drawn; larger ones glide.
+/// Small steps are shown as they come, so that the caller decides how often it is drawn; larger ones glide.
 Item {
     id: root
 

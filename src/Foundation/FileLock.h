@@ -19,7 +19,7 @@ public:
     explicit FileLock(const QString &path);
 
     /// Tries to get the lock, without waiting. A lock file that this user may not open, which a start as
-    /// another user leaves, is replaced by a new one; whoever holds the old one finds out by `check`.
+    /// another user leaves, is replaced by a new one; the holder of the old one finds out by `check`.
     State acquire();
 
     /// Whether the lock is still held and is still the one on disk. A lock whose file was removed or replaced

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 using Fault = FaultySystem::Fault;
 using State = WorkspaceFile::State;
 
-/// What is found at the workspace's place is never lost, whatever it is and whoever wrote it.
+/// What is found at the workspace's place is never lost, whatever it is and whichever program wrote it.
 class WorkspaceFileTest : public QObject
 {
     Q_OBJECT

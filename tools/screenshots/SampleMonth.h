@@ -7,7 +7,7 @@ class WorkspaceStore;
 /// Records of every kind around the day of the picture.
 namespace SampleMonth
 {
-/// What somebody has who uses every module: the examples and a busy month.
+/// The workspace of a user of every module: the examples and a busy month.
 void fill(WorkspaceStore &store);
 /// The same with thirty entries a day and titles of two hundred characters.
 void crowd(WorkspaceStore &store);

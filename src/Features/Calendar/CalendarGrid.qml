@@ -6,7 +6,7 @@ import Orvel.Calendar
 import Orvel.DesignSystem
 
 /// Days in weeks, one stop for Tab, as high as the place allows. Its model has a row for each day, with what
-/// `CalendarDayCell` requires; where the keys lead is for whoever knows the days.
+/// `CalendarDayCell` requires; the screen decides where the keys lead.
 T.Control {
     id: grid
 

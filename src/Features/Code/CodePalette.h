@@ -14,7 +14,7 @@ struct CodeColor {
     std::string_view inkRole;
 };
 
-/// The colours of source text as data; whoever draws asks the theme which of them counts.
+/// The colours of source text as data; drawing asks the theme which of them counts.
 namespace CodePalette
 {
 /// @param kind none for plain text

@@ -20,6 +20,6 @@ struct CodeRunnerOptions {
     /// Whether runs get a PID namespace where the system allows it.
     bool isIsolated = true;
 
-    /// Those of this machine and this person.
+    /// Those of this machine and this user.
     static CodeRunnerOptions ofThisMachine();
 };

@@ -9,7 +9,7 @@ Item {
     required property CodeViewModel viewModel
     required property int caretLine
     required property int caretColumn
-    /// Whether somebody works in the editor by keyboard alone.
+    /// Whether the user works in the editor by keyboard alone.
     property bool byKeyboard: false
 
     implicitHeight: Theme.iconButtonSize + Theme.space8

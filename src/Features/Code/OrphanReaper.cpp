@@ -68,7 +68,7 @@ OrphanReaper::~OrphanReaper()
 
 void OrphanReaper::killOrphans(std::chrono::steady_clock::time_point until)
 {
-    // The list may lack somebody while others come and go, so it has to be empty twice.
+    // The list may miss a process while others start and end, so it has to be empty twice.
     for (int timesEmpty = 0; timesEmpty < 2 && std::chrono::steady_clock::now() < until;) {
         timesEmpty = killOnce() ? 0 : timesEmpty + 1;
         std::this_thread::sleep_for(2ms);

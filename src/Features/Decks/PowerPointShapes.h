@@ -16,7 +16,7 @@ QString alpha(double opacity);
 /// that names it could not be opened.
 QString colorXML(const QString &hex, const QString &children = {});
 QString fontName(SlideTheme::FontKind kind);
-/// A person's text within XML. Characters that XML cannot hold at all are dropped.
+/// The user's text within XML. Characters that XML cannot hold at all are dropped.
 QString escaped(const QString &text);
 /// The unit of packages; the reference canvas's unit is 9525 of them.
 qint64 emu(double units);

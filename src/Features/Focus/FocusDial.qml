@@ -8,7 +8,7 @@ FocusScope {
     id: root
 
     required property FocusViewModel viewModel
-    /// Whether somebody can see it.
+    /// Whether it is visible to the user.
     required property bool inSight
 
     // Within it the ring moves by less than a pixel, so that it seems to glide.

@@ -11,7 +11,7 @@ class FocusViewModel : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether somebody can see the count.
+    /// Whether the count is visible to the user.
     Q_PROPERTY(bool watched MEMBER m_watched WRITE setWatched NOTIFY watchedChanged FINAL)
 
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY changed FINAL)

@@ -29,7 +29,7 @@ public:
 
     explicit PackageInstaller(Surroundings surroundings) : m_surroundings(std::move(surroundings)) {}
 
-    /// Whether the running copy is a bundle in a place where this person may replace it; one that a package
+    /// Whether the running copy is a bundle in a place where this user may replace it; one that a package
     /// manager keeps is not.
     bool canInstall() const override;
     void install(const AvailableUpdate &update, QObject *owner, std::function<void(double)> progress,

@@ -109,7 +109,7 @@ Item {
             click("a, Python · 1 line")
             shows("Source of a")
 
-            // A person who left it opens it from the palette again.
+            // A user who left it opens it from the palette again.
             Orvel.ui.selectCodeDocument(b)
             shows("Source of b")
 

@@ -1,4 +1,5 @@
 #include "Features/Projects/ProjectDetailViewModel.h"
+#include "Harness/ShownRows.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/TaskActions.h"
 #include "Store/ProjectOperations.h"
@@ -6,26 +7,7 @@
 #include <QAbstractItemModelTester>
 #include <QtTest>
 
-namespace
-{
-void finishTurn()
-{
-    QCoreApplication::sendPostedEvents();
-}
-
-QVariant role(const QAbstractItemModel *model, int row, const QByteArray &name)
-{
-    return model->index(row, 0).data(model->roleNames().key(name));
-}
-
-QString texts(const QAbstractItemModel *model, const QByteArray &name)
-{
-    QStringList texts;
-    for (int row = 0; row < model->rowCount(); ++row)
-        texts.append(role(model, row, name).toString());
-    return texts.join(u'|');
-}
-} // namespace
+using namespace ShownRows;
 
 class ProjectDetailViewModelTest : public QObject
 {

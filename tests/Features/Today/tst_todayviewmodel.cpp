@@ -1,24 +1,11 @@
 #include "Features/Today/TodayViewModel.h"
+#include "Harness/ShownRows.h"
 #include "Harness/TestWorkspace.h"
 #include "Store/ProjectOperations.h"
 
 #include <QtTest>
 
-namespace
-{
-void finishTurn()
-{
-    QCoreApplication::sendPostedEvents();
-}
-
-QString texts(const QAbstractItemModel *model, const QByteArray &name)
-{
-    QStringList texts;
-    for (int row = 0; row < model->rowCount(); ++row)
-        texts.append(model->index(row, 0).data(model->roleNames().key(name)).toString());
-    return texts.join(u'|');
-}
-} // namespace
+using namespace ShownRows;
 
 class TodayViewModelTest : public QObject
 {

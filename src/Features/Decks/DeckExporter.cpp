@@ -1,16 +1,12 @@
 #include "Features/Decks/DeckExporter.h"
 
 #include "Features/Decks/DeckOutline.h"
-#include "Features/Decks/PdfImageWriter.h"
 #include "Features/Decks/PowerPointWriter.h"
 #include "Features/Decks/ShownSlide.h"
-#include "Features/Decks/SlideFont.h"
 #include "Features/Decks/SlidePainter.h"
+#include "Features/Decks/SlidePdf.h"
 
 #include <QPainter>
-#include <QThreadPool>
-
-#include <vector>
 
 namespace
 {
@@ -40,35 +36,19 @@ std::expected<QByteArray, DeckExportError> DeckExporter::make(const Deck &deck, 
 
 std::expected<QByteArray, DeckExportError> DeckExporter::pdf(const Deck &deck, DeckExportProgress *progress)
 {
-    // Looks the families up before threads ask for them.
-    for (const EnumCase<SlideTheme::FontKind> &kind : enumCases<SlideTheme::FontKind>())
-        (void)SlideFont::of({.font = kind.value});
-    std::vector<std::optional<PdfImageWriter::Page>> pages(std::size_t(deck.slides.size()));
-    std::atomic<bool> isRendered = true;
-    // The threads stay from slide to slide, and with them the fonts that each has loaded.
-    QThreadPool pool;
-    for (int i = 0; i < deck.slides.size(); ++i)
-        pool.start([&deck, &pages, &isRendered, progress, i] {
-            if (!isRendered || (progress && progress->isCancelled))
-                return;
-            const QImage slide = picture(deck, i);
-            if (slide.isNull())
-                isRendered = false;
-            else
-                pages[std::size_t(i)] = PdfImageWriter::packed(slide);
-            if (progress)
-                ++progress->slidesDone;
-        });
-    pool.waitForDone();
-    if (!isRendered)
-        return std::unexpected(DeckExportError::renderFailed);
-    PdfImageWriter writer(page);
-    for (const auto &packed : pages) {
-        if (!packed)
+    SlidePdf document(deck.title);
+    for (int i = 0; i < deck.slides.size(); ++i) {
+        if (progress && progress->isCancelled)
             return std::unexpected(DeckExportError::writeFailed);
-        writer.addPage(*packed);
+        if (!document.addPage(ShownSlide::of(deck, i).regions(), deck.theme))
+            return std::unexpected(DeckExportError::renderFailed);
+        if (progress)
+            ++progress->slidesDone;
     }
-    return writer.finish();
+    QByteArray bytes = document.finish();
+    if (bytes.isEmpty())
+        return std::unexpected(DeckExportError::writeFailed);
+    return bytes;
 }
 
 QImage DeckExporter::picture(const Deck &deck, int index)

@@ -38,10 +38,10 @@ std::expected<QByteArray, DeckExportError> make(const Deck &deck, DeckExportForm
                                                 const QDateTime &localMoment,
                                                 DeckExportProgress *progress = nullptr);
 
-/// One page of 960 by 540 points a slide, each a picture of three pixels a point.
+/// One page of 960 by 540 points a slide, of text that can be searched and of shapes.
 std::expected<QByteArray, DeckExportError> pdf(const Deck &deck, DeckExportProgress *progress = nullptr);
 
-/// The picture of one slide as it stands in the PDF.
+/// The picture of one slide, of three pixels a point of its page in the PDF.
 QImage picture(const Deck &deck, int index);
 
 /// What files of this format end in, without the dot.

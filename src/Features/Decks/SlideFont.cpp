@@ -3,6 +3,7 @@
 #include "DesignSystem/OVFonts.h"
 #include "Features/Decks/SlideStyle.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
@@ -36,10 +37,20 @@ bool mayJoin(QChar left, QChar right)
            (isCross(left) && right.isDigit());
 }
 
-/// Whether a font may draw what is left and right of the position as one sign, so that they are kept apart.
+/// Whether a font may raise it between capitals and figures. Such signs look better there, but files of
+/// documents forget what they stand for.
+bool mayRaise(QChar character)
+{
+    return QStringView(u"()[]{}<>-–—:+=@*|~`•×÷¡¿«»").contains(character);
+}
+
+/// Whether what is left and right of the position is shaped apart, so that each character shows its own sign.
 bool isSeparated(const QString &text, int position)
 {
-    return position > 0 && position < text.size() && mayJoin(text[position - 1], text[position]);
+    if (position == 0 || position >= text.size())
+        return false;
+    const QChar left = text[position - 1], right = text[position];
+    return mayJoin(left, right) || mayRaise(left) || mayRaise(right);
 }
 
 /// Text is shaped within one format, so formats that change nothing keep characters apart. Characters that
@@ -76,6 +87,23 @@ QList<QTextLayout::FormatRange> formats(const QString &text)
         endRange(int(text.size()), {});
     return ranges;
 }
+
+/// Names the face of a weight that the family has. Files of documents would otherwise embolden a face as
+/// heavy as asked for once more.
+void setFace(QFont &font, QFont::Weight weight)
+{
+    font.setWeight(weight);
+    if (weight <= QFont::Bold)
+        return;
+    const QString family = font.family();
+    for (const QString &style : QFontDatabase::styles(family)) {
+        if (QFontDatabase::weight(family, style) != weight || QFontDatabase::italic(family, style))
+            continue;
+        font.setStyleName(style);
+        font.setWeight(QFont::DemiBold);
+        return;
+    }
+}
 } // namespace
 
 QFont SlideFont::of(const SlideRegion &region)
@@ -85,7 +113,7 @@ QFont SlideFont::of(const SlideRegion &region)
     const double tracking = SlideStyle::tracking(region.tracking);
     QFont font(fontFamily(region.font));
     font.setPixelSize(qRound(region.size));
-    font.setWeight(fontWeight(region.weight));
+    setFace(font, fontWeight(region.weight));
     // Hinted advances depend on the size on screen and would move line breaks.
     font.setHintingPreference(QFont::PreferNoHinting);
     // Coloured edges would differ from screen to file.
@@ -96,9 +124,9 @@ QFont SlideFont::of(const SlideRegion &region)
 
 QFont SlideFont::ofMarkers(const SlideRegion &region)
 {
-    QFont font = of(region);
-    font.setWeight(QFont::Medium);
-    return font;
+    SlideRegion medium = region;
+    medium.weight = SlideTheme::Weight::medium;
+    return of(medium);
 }
 
 void SlideFont::setText(QTextLayout &layout, const QString &text, const SlideRegion &region)

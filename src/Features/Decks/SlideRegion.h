@@ -41,7 +41,7 @@ struct SlideRegion {
     double leading = 8;
     /// Opacity of text or fill.
     double opacity = 1;
-    /// A presentation program may shrink the text to stay inside; our own drawing doesn't.
+    /// The text is shrunk to stay inside, here and by presentation programs.
     bool fit = false;
     /// The field that can be edited here.
     std::optional<SlideField> field;

@@ -1,8 +1,10 @@
 #include "Features/Decks/SlideText.h"
 
+#include "Features/Decks/PdfText.h"
 #include "Features/Decks/SlideFont.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -175,7 +177,11 @@ void SlideText::paint(QPainter &painter, const QColor &markerColor) const
     const QPen pen = painter.pen();
     for (const Paragraph &paragraph : m_paragraphs) {
         painter.setPen(pen);
-        paragraph.layout->draw(&painter, {paragraph.indent, paragraph.top});
+        const QPointF place(paragraph.indent, paragraph.top);
+        if (painter.paintEngine()->type() == QPaintEngine::Pdf)
+            PdfText::paint(painter, *paragraph.layout, place);
+        else
+            paragraph.layout->draw(&painter, place);
         if (paragraph.marker.isEmpty() || paragraph.lineCount == 0)
             continue;
         const QTextLine first = paragraph.layout->lineAt(0);

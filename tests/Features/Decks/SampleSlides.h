@@ -24,6 +24,19 @@ inline Slide slide(SlideKind kind)
     return slide;
 }
 
+/// Gives the slide more text than its regions have room for.
+inline void overfill(Slide &slide)
+{
+    const QString sentence = QStringLiteral("A calm place needs some more words than a line has room for. ");
+    slide.title = sentence.repeated(2).trimmed();
+    slide.body = sentence.repeated(8).trimmed();
+    if (slide.kind == SlideKind::stats)
+        slide.body =
+            QStringLiteral("1,234,567.89 EUR | Revenue\n72 %1| Label %1\n99.999999 % | x").arg(sentence);
+    else if (slide.kind != SlideKind::quote)
+        slide.body = slide.bodyB = (sentence + u'\n').repeated(8).trimmed();
+}
+
 inline Deck deck()
 {
     Deck deck;

@@ -1,10 +1,16 @@
 #include "Features/Decks/DeckLayout.h"
+#include "Features/Decks/SlideFont.h"
 #include "Features/Decks/SlidePainter.h"
 
 #include <QFontDatabase>
+#include <QGlyphRun>
 #include <QImage>
 #include <QPainter>
+#include <QRawFont>
 #include <QTest>
+#include <QTextLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -176,6 +182,35 @@ private slots:
                 }
                 const double width = SlideText(region).placedLines().at(0).rect.width();
                 QVERIFY2(std::abs(width - parts) < 3, qPrintable(pair));
+            }
+    }
+
+    /// Signs that stand for others, such as a raised hyphen between capitals, could not be searched in a PDF.
+    void everySignIsThatOfItsCharacter()
+    {
+        QString signs = u"–—•×÷“”’«»¿¡"_s;
+        for (char16_t sign = u'!'; sign <= u'~'; ++sign)
+            if (!QChar(sign).isLetterOrNumber())
+                signs.append(sign);
+        for (const auto &kind : enumCases<SlideTheme::FontKind>())
+            for (const QChar sign : std::as_const(signs)) {
+                const QString typed = u"A%1B C %1 D 1%12 3 %1 4 a%1b %1%1 (%1) x%1x"_s.replace(u"%1"_s, sign);
+                SlideRegion region;
+                region.font = kind.value;
+                QTextLayout layout;
+                SlideFont::setText(layout, typed, region);
+                layout.beginLayout();
+                layout.createLine().setLineWidth(10000);
+                layout.endLayout();
+                const auto runs = layout.glyphRuns();
+                // Signs that the font lacks come from another one, for which the same holds.
+                if (runs.size() != 1)
+                    continue;
+                auto shown = runs.first().glyphIndexes();
+                auto nominal = runs.first().rawFont().glyphIndexesForString(typed);
+                std::ranges::sort(shown);
+                std::ranges::sort(nominal);
+                QVERIFY2(shown == nominal, qPrintable(enumRawText(kind.value) + u": "_s + typed));
             }
     }
 

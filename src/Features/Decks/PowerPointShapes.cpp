@@ -1,6 +1,7 @@
 #include "Features/Decks/PowerPointShapes.h"
 
 #include "Features/Decks/SlideStyle.h"
+#include "Features/Decks/SlideText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,6 +53,16 @@ QString boxXML(const SlideRegion &region, int id)
            QStringLiteral("</p:spPr><p:txBody><a:bodyPr/><a:lstStyle/><a:p/></p:txBody></p:sp>");
 }
 
+/// Other programs shrink such a text only once it is edited, so the file says how much ours is shrunk.
+QString autofitXML(const SlideRegion &region)
+{
+    if (!region.fit)
+        return {};
+    const auto percent = std::llround(SlideText(region).scale() * 100);
+    return percent == 100 ? QStringLiteral("<a:normAutofit/>")
+                          : QStringLiteral("<a:normAutofit fontScale=\"%1\"/>").arg(percent * 1000);
+}
+
 QString textXML(const SlideRegion &region, int id, const SlideTheme &theme)
 {
     const QString anchor =
@@ -66,9 +77,8 @@ QString textXML(const SlideRegion &region, int id, const SlideTheme &theme)
                "anchor=\"%1\" "
                "rtlCol=\"0\">")
                .arg(anchor) +
-           (region.fit ? QStringLiteral("<a:normAutofit/>") : QString()) +
-           QStringLiteral("</a:bodyPr><a:lstStyle/>") + PowerPointShapes::paragraphXML(region, theme) +
-           QStringLiteral("</p:txBody></p:sp>");
+           autofitXML(region) + QStringLiteral("</a:bodyPr><a:lstStyle/>") +
+           PowerPointShapes::paragraphXML(region, theme) + QStringLiteral("</p:txBody></p:sp>");
 }
 
 /// What a run says of its text besides size and colour.

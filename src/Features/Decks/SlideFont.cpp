@@ -9,6 +9,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -88,21 +89,34 @@ QList<QTextLayout::FormatRange> formats(const QString &text)
     return ranges;
 }
 
-/// Names the face of a weight that the family has. Files of documents would otherwise embolden a face as
-/// heavy as asked for once more.
-void setFace(QFont &font, QFont::Weight weight)
+/// The name of the upright face with this weight; empty if the family has none.
+QString faceName(const QString &family, QFont::Weight weight)
 {
-    font.setWeight(weight);
-    if (weight <= QFont::Bold)
+    for (const QString &style : QFontDatabase::styles(family))
+        if (QFontDatabase::weight(family, style) == weight && !QFontDatabase::italic(family, style))
+            return style;
+    return {};
+}
+
+/// Asks for a heavy face by its name: files of documents would embolden one once more that was asked for by
+/// its weight.
+void setWeight(QFont &font, const SlideRegion &region)
+{
+    font.setWeight(fontWeight(region.weight));
+    if (font.weight() <= QFont::Bold)
         return;
-    const QString family = font.family();
-    for (const QString &style : QFontDatabase::styles(family)) {
-        if (QFontDatabase::weight(family, style) != weight || QFontDatabase::italic(family, style))
-            continue;
-        font.setStyleName(style);
-        font.setWeight(QFont::DemiBold);
+    static const auto names = [] {
+        std::array<std::array<QString, 2>, 4> names;
+        for (const auto &kind : enumCases<SlideTheme::FontKind>())
+            names[std::size_t(kind.value)] = {faceName(fontFamily(kind.value), QFont::ExtraBold),
+                                              faceName(fontFamily(kind.value), QFont::Black)};
+        return names;
+    }();
+    const QString &name = names.at(std::size_t(region.font)).at(font.weight() == QFont::Black);
+    if (name.isEmpty())
         return;
-    }
+    font.setStyleName(name);
+    font.setWeight(QFont::DemiBold);
 }
 } // namespace
 
@@ -113,7 +127,7 @@ QFont SlideFont::of(const SlideRegion &region)
     const double tracking = SlideStyle::tracking(region.tracking);
     QFont font(fontFamily(region.font));
     font.setPixelSize(qRound(region.size));
-    setFace(font, fontWeight(region.weight));
+    setWeight(font, region);
     // Hinted advances depend on the size on screen and would move line breaks.
     font.setHintingPreference(QFont::PreferNoHinting);
     // Coloured edges would differ from screen to file.

@@ -48,20 +48,22 @@ SlideText::SlideText(const SlideRegion &region, Extent extent)
 {
     if (m_isWhole && m_region.lines.isEmpty())
         m_region.lines.append(SlideRegion::Line());
-    if (layOut(1, m_isWhole))
-        return;
-    if (m_region.fit) {
-        int percent = smallestPercent;
-        for (int above = 100; percent + 1 < above;) {
-            const int middle = (percent + above) / 2;
-            (layOut(middle / 100.0, false) ? percent : above) = middle;
-        }
-        m_fits = layOut(percent / 100.0, m_isWhole);
-    } else {
-        m_fits = false;
-    }
+    m_fits = layOut(1, m_isWhole);
+    if (!m_fits && m_region.fit)
+        shrink();
+    m_paragraphs.erase(m_paragraphs.begin() + m_placedCount, m_paragraphs.end());
     if (!m_fits && !m_isWhole)
         endWithEllipsis();
+}
+
+void SlideText::shrink()
+{
+    int percent = smallestPercent;
+    for (int above = 100; percent + 1 < above;) {
+        const int middle = (percent + above) / 2;
+        (layOut(middle / 100.0, false) ? percent : above) = middle;
+    }
+    m_fits = layOut(percent / 100.0, m_isWhole);
 }
 
 double SlideText::lineHeight() const
@@ -82,31 +84,31 @@ double SlideText::blankIndent() const
     return marked == m_region.lines.end() ? 0 : markerIndent(m_region, marked->marker);
 }
 
-/// Gives false if it does not fit; then no more is laid out than shows that, unless it is to be whole.
+/// Gives false if it does not fit; then no more is laid out than shows that, unless it is to be whole. What
+/// has been shaped for another scale is kept.
 bool SlideText::layOut(double scale, bool isWhole)
 {
     m_scale = scale;
-    m_paragraphs.clear();
+    m_placedCount = 0;
     double height = 0;
     bool fits = true;
-    int first = 0;
-    for (const SlideRegion::Line &line : std::as_const(m_region.lines)) {
-        Paragraph paragraph = prepared(line, first);
-        first += int(line.text.size()) + 1;
-        fits = placeLines(paragraph, height, isWhole) && fits;
-        m_paragraphs.push_back(std::move(paragraph));
-        if (!fits && !isWhole)
-            break;
+    for (qsizetype i = 0; i < m_region.lines.size() && (fits || isWhole); ++i) {
+        if (std::size_t(i) == m_paragraphs.size())
+            m_paragraphs.push_back(prepared(i));
+        fits = placeLines(m_paragraphs[std::size_t(i)], height, isWhole) && fits;
+        ++m_placedCount;
     }
     anchor(height);
     return fits;
 }
 
-SlideText::Paragraph SlideText::prepared(const SlideRegion::Line &line, int first) const
+SlideText::Paragraph SlideText::prepared(qsizetype index) const
 {
+    const SlideRegion::Line &line = m_region.lines[index];
     Paragraph paragraph;
     paragraph.marker = line.marker;
-    paragraph.first = first;
+    if (index > 0)
+        paragraph.first = m_paragraphs.back().first + int(m_region.lines[index - 1].text.size()) + 1;
     paragraph.indent = line.marker.isEmpty() ? blankIndent() : markerIndent(m_region, line.marker);
     paragraph.shown =
         SlideStyle::shown(m_isWhole ? line.text : line.text.left(maxShownLength), m_region.uppercase);
@@ -118,6 +120,7 @@ SlideText::Paragraph SlideText::prepared(const SlideRegion::Line &line, int firs
 bool SlideText::placeLines(Paragraph &paragraph, double &height, bool isWhole)
 {
     paragraph.top = height;
+    paragraph.lineCount = 0;
     const double width = m_region.rect.width() / m_scale - paragraph.indent;
     bool fits = true;
     paragraph.layout->beginLayout();
@@ -155,7 +158,6 @@ void SlideText::endWithEllipsis()
         SlideFont::endedLine(last.shown.text.mid(line.textStart(), line.textLength()),
                              SlideFont::of(m_region), m_region.rect.width() / m_scale - last.indent);
     SlideFont::setText(*last.layout, before + ended, m_region);
-    last.lineCount = 0;
     double height = last.top;
     placeLines(last, height, true);
     anchor(height);

@@ -62,7 +62,8 @@ private:
     };
 
     bool layOut(double scale, bool isWhole);
-    Paragraph prepared(const SlideRegion::Line &line, int first) const;
+    void shrink();
+    Paragraph prepared(qsizetype index) const;
     bool placeLines(Paragraph &paragraph, double &height, bool isWhole);
     void endWithEllipsis();
     void anchor(double height);
@@ -79,6 +80,8 @@ private:
 
     SlideRegion m_region;
     std::vector<Paragraph> m_paragraphs;
+    /// How many of them the last layout has placed.
+    std::ptrdiff_t m_placedCount = 0;
     double m_scale = 1;
     double m_offset = 0;
     bool m_fits = true;

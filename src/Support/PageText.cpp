@@ -73,18 +73,33 @@ QString PageText::plainTextExport(const Page &page)
     return lines.join(u'\n');
 }
 
+PageText::Counts PageText::countsOf(QStringView text)
+{
+    Counts counts;
+    bool isInWord = false;
+    for (const QChar character : text) {
+        const bool isSpace = character.isSpace();
+        counts.words += !isSpace && !isInWord ? 1 : 0;
+        counts.characters += character.isLowSurrogate() ? 0 : 1;
+        isInWord = !isSpace;
+    }
+    return counts;
+}
+
+PageText::Counts PageText::countsOf(const QList<Block> &blocks)
+{
+    Counts sum;
+    for (const Block &block : blocks) {
+        const Counts counts = countsOf(block.text);
+        sum.words += counts.words;
+        sum.characters += counts.characters;
+    }
+    return sum;
+}
+
 qsizetype PageText::wordCount(const Page &page)
 {
-    qsizetype words = 0;
-    for (const Block &block : page.content) {
-        bool isInWord = false;
-        for (const QChar character : block.text) {
-            const bool isSpace = character.isSpace();
-            words += !isSpace && !isInWord ? 1 : 0;
-            isInWord = !isSpace;
-        }
-    }
-    return words;
+    return countsOf(page.content).words;
 }
 
 QString PageText::readingTimeLabel(qsizetype words)

@@ -9,6 +9,15 @@ namespace PageText
 QString markdownExport(const Page &page);
 /// Title and block texts, one a line, without empty ones.
 QString plainTextExport(const Page &page);
+struct Counts {
+    qsizetype words = 0;
+    /// Unicode characters, blanks included.
+    qsizetype characters = 0;
+
+    bool operator==(const Counts &) const = default;
+};
+Counts countsOf(QStringView text);
+Counts countsOf(const QList<Block> &blocks);
 /// Words in all blocks, code included; the title doesn't count.
 qsizetype wordCount(const Page &page);
 /// "2 min read", at 200 words a minute.

@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
 
-/// Drags a block to another place: a line shows where it would stand, and the page scrolls near its edges.
+/// Drags a block, or all that are selected, to another place: a line shows where it would stand, and the page scrolls near its edges.
 Rectangle {
     id: root
 
@@ -18,7 +18,8 @@ Rectangle {
     function move(row: BlockRow, sceneY: real) {
         if (root.row !== row) {
             root.row = row
-            row.part.focusAt(-1)
+            if (!editor.selection.includes(row.index))
+                row.part.focusAt(-1)
         }
         pointerY = list.mapFromItem(null, 0, sceneY).y
         aim()
@@ -36,6 +37,11 @@ Rectangle {
     }
 
     function drop() {
+        if (row && editor.selection.includes(row.index)) {
+            editor.selection.moveTo(target)
+            row = null
+            return
+        }
         const steps = row ? (target > row.index ? target - 1 : target) - row.index : 0
         if (steps !== 0)
             editor.moveBlock(row.blockID, steps)
@@ -49,16 +55,10 @@ Rectangle {
     width: list.columnWidth
     x: list.columnX
 
-    FrameAnimation {
-        readonly property real edge: 2 * Theme.space32
-        /// How far the pointer is within one of the edges; negative at the upper one.
-        readonly property real reach: Math.max(0, root.pointerY - root.list.height + edge) - Math.max(0, edge - root.pointerY)
-
-        running: root.visible && reach !== 0
-        onTriggered: {
-            const end = root.list.originY + root.list.contentHeight - root.list.height
-            root.list.contentY = Math.max(root.list.originY, Math.min(end, root.list.contentY + reach * frameTime * 12))
-            root.aim()
-        }
+    EdgeScroll {
+        dragging: root.visible
+        list: root.list
+        pointerY: root.pointerY
+        onScrolled: root.aim()
     }
 }

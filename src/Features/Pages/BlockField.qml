@@ -45,6 +45,13 @@ TextEdit {
         onEdited: text => content.setText(field.editor.setText(field.blockID, text, field.cursorPosition))
     }
 
+    FieldLinks {
+        caret: field.activeFocus ? field.cursorPosition : -1
+        color: Theme.accent
+        document: field.textDocument
+        text: field.storedText
+    }
+
     FontMetrics {
         id: metrics
         font: field.font

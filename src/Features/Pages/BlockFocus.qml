@@ -146,8 +146,13 @@ ScreenList {
             return
         // Rows that have grown must have moved the others before the view goes on.
         forceLayout()
-        const margin = Theme.space32
         const place = part.caretIn(contentItem)
+        // Without anything else on the screen the line that is written stays in its middle.
+        if (editor.isZen && caret.typing && (part.input?.selectedText ?? "") === "") {
+            contentY = Math.max(originY, Math.min(originY + contentHeight, place.y + (place.height + height) / 2) - height)
+            return
+        }
+        const margin = Theme.space32
         if (place.y - margin < contentY)
             contentY = Math.max(originY, place.y - margin)
         else if (place.y + place.height + margin > contentY + height)

@@ -3,7 +3,7 @@ import Orvel.Pages
 import Orvel.Session
 
 /// A list of blocks in which keys do what they mean for a block, before its fields get them.
-BlockFocus {
+BlockSelecting {
     id: root
 
     signal menuRequested(row: BlockRow)
@@ -17,9 +17,12 @@ BlockFocus {
         if (event.modifiers & (Qt.AltModifier | Qt.MetaModifier))
             event.accepted = false
         else if (event.matches(StandardKey.Paste))
-            event.accepted = paste(row)
+            event.accepted = paste(row, false)
+        else if (event.key === Qt.Key_V && control && shift)
+            event.accepted = paste(row, true)
         else
-            event.accepted = actOnBlock(row, event.key, control, shift)
+            event.accepted = selectByKey(row, event.key, control, shift)
+                    || actOnBlock(row, event.key, control, shift)
                     || (!row.part.hasOwnKeys && actOnText(row, event.key, control, shift))
     }
 
@@ -34,9 +37,17 @@ BlockFocus {
     }
 
     /// Pastes into the text; false for what the field does by itself.
-    function paste(row: BlockRow): bool {
+    /// @param plain whether the clipboard is taken as lines of text
+    function paste(row: BlockRow, plain: bool): bool {
         const field = row.part.input
-        return field?.activeFocus === true && editor.paste(row.blockID, field.selectionStart, field.selectionEnd)
+        if (field && !field.activeFocus)
+            return false
+        if (editor.paste(row.blockID, field?.selectionStart ?? 0, field?.selectionEnd ?? 0, plain))
+            return true
+        // The field knows no key for this.
+        if (plain)
+            field?.paste()
+        return plain
     }
 
     /// Does what a key means for any block; false for any other.

@@ -1,19 +1,22 @@
 import QtQuick
 import Orvel.DesignSystem
 
-/// What stands below the last block: the button for one more, and room to scroll the last block up.
+/// What stands below the last block: the button for one more, and room to scroll the last block
+/// up.
 Item {
     id: root
 
     required property int columnX
     required property int columnWidth
     property bool hasButton: true
+    /// Room to keep free below the blocks.
+    property real room: 0
     readonly property Item button: add
 
     signal addRequested()
     signal leftBackwards()
 
-    height: add.y + add.height + 2 * Theme.space48
+    height: Math.max(room, add.y + add.height + 2 * Theme.space48)
 
     OVPressable {
         id: add

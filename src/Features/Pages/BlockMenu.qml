@@ -2,7 +2,7 @@ import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
 
-/// What can be done with a block. One menu serves all rows.
+/// What can be done with a block, or with all that are selected. One menu serves all rows.
 OVMenu {
     id: root
 
@@ -10,16 +10,37 @@ OVMenu {
     /// The row whose menu it is.
     property BlockRow row: null
     property bool hadFocus: false
+    /// Whether it is the menu of the selected blocks.
+    property bool isOfSelection: false
+    readonly property PageSelection selection: editor.selection
+    /// The address that the caret is in; empty for none.
+    property string link: ""
 
     function openFor(row: BlockRow, from: Item) {
         root.row = row
+        isOfSelection = selection.includes(row.index)
         hadFocus = row.activeFocus
+        const input = row.part.input
+        link = input?.activeFocus ? editor.linkIn(input.text, input.cursorPosition) : ""
         const byKeys = from === row
         if (byKeys)
             openBeside(row, row.list.columnX, 0, Math.min(row.rowHeight, 2 * row.part.firstLineCenter))
         else
             openBeside(from, 0, 0, from.height)
         currentIndex = byKeys ? 0 : -1
+    }
+
+    /// Makes a selection of the block that the menu is of, if it is not of one.
+    function selectRow() {
+        if (!isOfSelection)
+            selection.select(row.blockID, row.blockID)
+    }
+
+    function move(direction: int) {
+        if (isOfSelection)
+            selection.move(direction)
+        else
+            editor.moveBlock(row?.blockID, direction)
     }
 
     OVMenu {
@@ -34,10 +55,15 @@ OVMenu {
 
                 autoExclusive: true
                 checkable: true
-                checked: root.row?.type === index
+                checked: !root.isOfSelection && root.row?.type === index
                 symbol: root.editor.typeSymbols[index]
                 text: root.editor.typeLabels[index]
-                onTriggered: root.editor.changeType(root.row?.blockID, index)
+                onTriggered: {
+                    if (root.isOfSelection)
+                        root.selection.changeType(index)
+                    else
+                        root.editor.changeType(root.row?.blockID, index)
+                }
             }
         }
     }
@@ -45,25 +71,60 @@ OVMenu {
     OVMenuSeparator { }
 
     OVMenuItem {
-        symbol: "plus.square.on.square"
-        text: qsTr("Duplicate")
-        onTriggered: root.editor.duplicateBlock(root.row?.blockID)
+        height: root.link !== "" ? implicitHeight : 0
+        symbol: "link"
+        text: qsTr("Open link")
+        visible: root.link !== ""
+        onTriggered: root.editor.openLink(root.link)
     }
 
     OVMenuItem {
-        enabled: root.row?.canMoveUp ?? false
+        symbol: "plus.square.on.square"
+        text: qsTr("Duplicate")
+        onTriggered: {
+            if (root.isOfSelection)
+                root.selection.duplicate()
+            else
+                root.editor.duplicateBlock(root.row?.blockID)
+        }
+    }
+
+    OVMenuItem {
+        shortcutText: root.isOfSelection ? qsTr("Ctrl X") : ""
+        symbol: "scissors"
+        text: qsTr("Cut")
+        onTriggered: {
+            root.selectRow()
+            root.selection.cut()
+        }
+    }
+
+    OVMenuItem {
+        shortcutText: root.isOfSelection ? qsTr("Ctrl C") : ""
+        symbol: "doc.on.doc"
+        text: qsTr("Copy")
+        onTriggered: {
+            root.selectRow()
+            root.selection.copy()
+        }
+    }
+
+    OVMenuSeparator { }
+
+    OVMenuItem {
+        enabled: root.isOfSelection ? root.selection.first > 0 : root.row?.canMoveUp ?? false
         shortcutText: qsTr("Ctrl Shift ↑")
         symbol: "arrow.up"
         text: qsTr("Move up")
-        onTriggered: root.editor.moveBlock(root.row?.blockID, -1)
+        onTriggered: root.move(-1)
     }
 
     OVMenuItem {
-        enabled: root.row?.canMoveDown ?? false
+        enabled: root.isOfSelection ? root.selection.last < root.editor.rows.rowCount() - 1 : root.row?.canMoveDown ?? false
         shortcutText: qsTr("Ctrl Shift ↓")
         symbol: "arrow.down"
         text: qsTr("Move down")
-        onTriggered: root.editor.moveBlock(root.row?.blockID, 1)
+        onTriggered: root.move(1)
     }
 
     OVMenuSeparator { }
@@ -73,6 +134,10 @@ OVMenu {
         symbol: "trash"
         text: qsTr("Delete")
         onTriggered: {
+            if (root.isOfSelection) {
+                root.selection.remove()
+                return
+            }
             // The menu has the focus, which shall come back to where the block was.
             if (root.hadFocus)
                 root.editor.blockFocused(root.row.blockID)

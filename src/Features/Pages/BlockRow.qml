@@ -31,6 +31,7 @@ ScreenListRow {
     property int caretPosition: 0
 
     readonly property BlockBody part: loader.item as BlockBody
+    readonly property bool isSelected: editor.selection.active && index >= editor.selection.first && index <= editor.selection.last
 
     /// An arrow key leaves the block upwards (-1) or downwards (1).
     signal departed(direction: int)
@@ -108,6 +109,30 @@ ScreenListRow {
         }
     }
     // qmllint enable unqualified
+
+    // Selected blocks that follow each other are one field of colour, rounded at its ends.
+    Item {
+        readonly property int overhang: Theme.space8
+
+        clip: true
+        height: parent.height
+        visible: row.isSelected
+        width: parent.width + 2 * overhang
+        x: -overhang
+
+        Rectangle {
+            readonly property int above: row.index === row.editor.selection.first ? 0 : radius
+            readonly property int below: row.index === row.editor.selection.last ? 0 : radius
+
+            // Fainter than behind a few words, since all of the blocks is to be read.
+            opacity: 0.6
+            color: Theme.selection
+            height: parent.height + above + below
+            radius: Theme.cornerField
+            width: parent.width
+            y: -above
+        }
+    }
 
     Loader {
         id: loader

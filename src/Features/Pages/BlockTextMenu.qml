@@ -7,12 +7,36 @@ OVTextMenu {
     id: root
 
     readonly property BlockField field: target as BlockField
+    /// The address that was clicked; empty for none.
+    property string link: ""
 
     function paste() {
-        field.editor.paste(field.blockID, field.selectionStart, field.selectionEnd)
+        field.editor.paste(field.blockID, field.selectionStart, field.selectionEnd, false)
     }
 
     storeBacked: true
     onRedoRequested: Orvel.undo.redo()
     onUndoRequested: Orvel.undo.undo()
+
+    OVMenuSeparator {
+        height: root.link !== "" ? implicitHeight : 0
+        visible: root.link !== ""
+    }
+
+    OVMenuItem {
+        height: root.link !== "" ? implicitHeight : 0
+        shortcutText: qsTr("Ctrl click")
+        symbol: "link"
+        text: qsTr("Open link")
+        visible: root.link !== ""
+        onTriggered: root.field.editor.openLink(root.link)
+    }
+
+    OVMenuItem {
+        height: root.link !== "" ? implicitHeight : 0
+        symbol: "doc.on.doc"
+        text: qsTr("Copy link")
+        visible: root.link !== ""
+        onTriggered: root.field.editor.copyLink(root.link)
+    }
 }

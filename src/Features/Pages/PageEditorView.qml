@@ -1,4 +1,5 @@
 import QtQuick
+import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
 
@@ -27,6 +28,11 @@ FocusScope {
         session: Orvel
         // The change of the list's place costs the focus.
         onIsZenChanged: Qt.callLater(list.restoreFocus)
+        onMessage: text => toast.show(text)
+    }
+
+    OVToast {
+        id: toast
     }
 
     FocusScope {
@@ -56,6 +62,8 @@ FocusScope {
         above: PageHeader {
             focus: true
             pageID: root.pageID
+            selectedText: list.selectedText
+            selection: editor.selection
             titleOnly: editor.isZen
             onLeaveDown: list.focusFirst()
             onZenRequested: editor.isZen = true

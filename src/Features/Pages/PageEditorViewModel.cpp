@@ -1,6 +1,5 @@
 #include "Features/Pages/PageEditorViewModel.h"
 
-#include "Foundation/LineText.h"
 #include "Models/CodeLanguage.h"
 
 #include <QClipboard>
@@ -9,7 +8,7 @@
 #include <utility>
 
 PageEditorViewModel::PageEditorViewModel(QObject *parent)
-    : ViewModel(parent), m_beforeNextKey([this] { flush(); })
+    : ViewModel(parent), m_selection(new PageSelection(this)), m_beforeNextKey([this] { flush(); })
 {
     follow<Page>();
 }
@@ -35,6 +34,8 @@ void PageEditorViewModel::blockFocused(const QUuid &blockID)
     if (m_focusedBlock == blockID)
         return;
     m_focusedBlock = blockID;
+    if (!blockID.isNull())
+        m_selection->clear();
     store().endTyping();
     m_dismissedText.reset();
     showSlashMenu();
@@ -49,29 +50,30 @@ void PageEditorViewModel::blockLeft(const QUuid &blockID)
 void PageEditorViewModel::insertBlock(const QUuid &after)
 {
     const Block fresh = freshBlock();
-    changeList(tr("Add Block"), [&](Page &page) { PageBlocks::insertAfter(page.content, after, fresh); });
+    changeBlocks(tr("Add Block"),
+                 [&](QList<Block> &blocks) { PageBlocks::insertAfter(blocks, after, fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::appendBlock()
 {
     const Block fresh = freshBlock();
-    changeList(tr("Add Block"), [&](Page &page) { page.content.append(fresh); });
+    changeBlocks(tr("Add Block"), [&](QList<Block> &blocks) { blocks.append(fresh); });
     requestFocus(fresh.id, 0);
 }
 
 void PageEditorViewModel::duplicateBlock(const QUuid &blockID)
 {
-    changeList(tr("Duplicate Block"),
-               [&](Page &page) { PageBlocks::duplicate(page.content, blockID, store().makeId()); });
+    changeBlocks(tr("Duplicate Block"),
+                 [&](QList<Block> &blocks) { PageBlocks::duplicate(blocks, blockID, store().makeId()); });
 }
 
 void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 {
     qsizetype index = -1;
-    changeList(tr("Delete Block"), [&](Page &page) {
-        index = PageBlocks::indexOf(page.content, blockID);
-        PageBlocks::remove(page.content, blockID, freshBlock());
+    changeBlocks(tr("Delete Block"), [&](QList<Block> &blocks) {
+        index = PageBlocks::indexOf(blocks, blockID);
+        PageBlocks::remove(blocks, blockID, freshBlock());
     });
     if (index < 0 || m_focusedBlock != blockID)
         return;
@@ -81,7 +83,7 @@ void PageEditorViewModel::deleteBlock(const QUuid &blockID)
 
 void PageEditorViewModel::moveBlock(const QUuid &blockID, int delta)
 {
-    changeList(tr("Move Block"), [&](Page &page) { PageBlocks::move(page.content, blockID, delta); });
+    changeBlocks(tr("Move Block"), [&](QList<Block> &blocks) { PageBlocks::move(blocks, blockID, delta); });
 }
 
 void PageEditorViewModel::changeType(const QUuid &blockID, int type)
@@ -109,40 +111,6 @@ void PageEditorViewModel::dismissSlash()
     if (const Block *const focused = block(m_focusedBlock))
         m_dismissedText = focused->text;
     showSlashMenu();
-}
-
-QString PageEditorViewModel::setText(const QUuid &blockID, const QString &text, int caret)
-{
-    const Block *const before = block(blockID);
-    if (!before)
-        return text;
-    const ShownParts::Part part = m_parts.of(*before);
-    PageBlocks::TextEdit edit = PageBlocks::editBetween(part.in(before->text), text);
-    if (edit.begin == edit.end && edit.inserted.isEmpty())
-        return text;
-    edit.begin += part.begin;
-    edit.end += part.begin;
-    const Place end = editText(*before, edit, caret < 0 ? -1 : part.begin + caret);
-    if (end.blockID != blockID)
-        requestFocus(end.blockID, end.position);
-    const Block *const after = block(blockID);
-    return after ? m_parts.of(*after).in(after->text) : text;
-}
-
-bool PageEditorViewModel::paste(const QUuid &blockID, int selectionStart, int selectionEnd)
-{
-    const Block *const target = block(blockID);
-    const QString pasted = LineText::withLineFeeds(QGuiApplication::clipboard()->text());
-    if (!target || pasted.isEmpty())
-        return false;
-    // The editor of code takes what it can lay out, which costs less than to show the text anew.
-    if (target->type == BlockType::code && pasted.size() <= ShownParts::maxTextLength)
-        return false;
-    const qsizetype begin = m_parts.of(*target).begin;
-    const Action action(store(), tr("Paste"));
-    const Place end = editText(*target, {begin + selectionStart, begin + selectionEnd, pasted}, -1);
-    requestFocus(end.blockID, end.position);
-    return true;
 }
 
 bool PageEditorViewModel::hasPart(const QUuid &blockID, int direction) const
@@ -216,6 +184,7 @@ void PageEditorViewModel::refresh(const ChangeSet &)
     if (const Block *const wanted = block(m_wantedFocus); wanted && m_wantedCaret >= 0)
         m_parts.show(*wanted, m_wantedCaret);
     showBlocks(shown->content);
+    m_selection->update();
     showSlashMenu();
     giveFocus();
 }
@@ -294,6 +263,18 @@ Block PageEditorViewModel::freshBlock(const QString &text) const
     return {.id = store().makeId(), .text = text};
 }
 
+const QList<Block> &PageEditorViewModel::blocks() const
+{
+    static const QList<Block> none;
+    const Page *const shown = page();
+    return shown ? shown->content : none;
+}
+
+std::function<QUuid()> PageEditorViewModel::idMaker() const
+{
+    return [&store = store()] { return store.makeId(); };
+}
+
 const Page *PageEditorViewModel::page() const
 {
     return session() ? store().pages().first(m_pageID) : nullptr;
@@ -306,8 +287,7 @@ const Block *PageEditorViewModel::block(const QUuid &blockID) const
     return index < 0 ? nullptr : &shown->content[index];
 }
 
-template <typename Edit>
-void PageEditorViewModel::changePage(const QString &name, Edit edit)
+void PageEditorViewModel::changePage(const QString &name, const std::function<void(Page &)> &edit)
 {
     const Action action(store(), name);
     store().change<Page>(m_pageID, [&](Page &page) {
@@ -316,53 +296,20 @@ void PageEditorViewModel::changePage(const QString &name, Edit edit)
     });
 }
 
-template <typename Edit>
-void PageEditorViewModel::changeList(const QString &name, Edit edit)
+void PageEditorViewModel::changeBlocks(const QString &name, const std::function<void(QList<Block> &)> &edit)
 {
-    changePage(name, edit);
+    changePage(name, [&](Page &page) { edit(page.content); });
     m_beforeNextKey.arm();
 }
 
-template <typename Edit>
-void PageEditorViewModel::changeBlock(const QString &name, const QUuid &blockID, Edit edit)
+void PageEditorViewModel::changeBlock(const QString &name, const QUuid &blockID,
+                                      const std::function<void(Block &)> &edit)
 {
     changePage(name, [&](Page &page) {
         const qsizetype index = PageBlocks::indexOf(page.content, blockID);
         if (index >= 0)
             edit(page.content[index]);
     });
-}
-
-PageEditorViewModel::Place PageEditorViewModel::editText(const Block before, const PageBlocks::TextEdit &edit,
-                                                         qsizetype caret)
-{
-    const ShownParts::Part part = m_parts.of(before);
-    const auto lines =
-        before.type == BlockType::code ? std::nullopt : PageBlocks::brokenLines(before.text, edit);
-    const QString text =
-        lines ? lines->first : QString(before.text).replace(edit.begin, edit.end - edit.begin, edit.inserted);
-    const auto write = [&](Block &block) {
-        block.text = text;
-        m_parts.keep(block, {part.begin, text.size() - (lines ? 0 : before.text.size() - part.end)});
-    };
-    if (!lines || lines->rest.isEmpty()) {
-        const Action action(store(), Typing{.text = {before.id, QStringLiteral("text")},
-                                            .before = before.text,
-                                            .after = text,
-                                            .caret = caret});
-        changeBlock({}, before.id, write);
-        return {before.id, std::min(edit.begin + edit.inserted.size(), text.size())};
-    }
-    Place end;
-    changeList(tr("Paste"), [&](Page &page) {
-        qsizetype index = PageBlocks::indexOf(page.content, before.id);
-        write(page.content[index]);
-        page.content.insert(index + 1, lines->rest.size(), Block());
-        for (const QString &line : lines->rest)
-            page.content[++index] = freshBlock(line);
-        end = {page.content[index].id, lines->caret};
-    });
-    return end;
 }
 
 PageEditorViewModel::Place PageEditorViewModel::changedPlace(const QList<Block> &before,

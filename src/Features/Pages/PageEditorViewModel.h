@@ -3,6 +3,8 @@
 #include "Features/Code/CodeRun.h"
 #include "Features/Pages/BeforeNextKey.h"
 #include "Features/Pages/BlockRow.h"
+#include "Features/Pages/BlockSplice.h"
+#include "Features/Pages/PageSelection.h"
 #include "Foundation/EnumChoices.h"
 #include "Foundation/KeyedListModel.h"
 #include "Session/ViewModel.h"
@@ -18,6 +20,7 @@ class PageEditorViewModel : public ViewModel
     Q_PROPERTY(QString title READ title NOTIFY titleChanged FINAL)
     /// `BlockRow`s.
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(PageSelection *selection READ selection CONSTANT FINAL)
     Q_PROPERTY(bool isZen MEMBER m_isZen NOTIFY isZenChanged FINAL)
     /// The types that the slash menu offers below the focused block; empty while it is closed.
     Q_PROPERTY(QList<int> slashTypes READ slashTypes NOTIFY slashTypesChanged FINAL)
@@ -37,6 +40,7 @@ public:
     void setPageID(const QUuid &pageID);
     const QString &title() const { return m_title; }
     QAbstractItemModel *rows() { return &m_rows; }
+    PageSelection *selection() const { return m_selection; }
     const QList<int> &slashTypes() const { return m_slashTypes; }
 
     static int maxCodeHeight() { return PageBlocks::maxCodeEditorHeight; }
@@ -71,9 +75,10 @@ public:
     /// become blocks of their own, the last of which gets the focus. Returns what the block shows then.
     /// @param caret where it stands in the text; -1 if that is not known
     Q_INVOKABLE QString setText(const QUuid &blockID, const QString &text, int caret = -1);
-    /// Puts the clipboard in the place of the selection; false if the field is to do that itself. The
-    /// positions count in what is shown.
-    Q_INVOKABLE bool paste(const QUuid &blockID, int selectionStart, int selectionEnd);
+    /// Puts the clipboard in the place of the selection, with the blocks that it names; false if the field is
+    /// to do that itself. The positions count in what is shown.
+    /// @param plain whether the clipboard is taken as lines of text
+    Q_INVOKABLE bool paste(const QUuid &blockID, int selectionStart, int selectionEnd, bool plain = false);
     /// Whether the text goes on before (-1) or after (1) what is shown of it.
     Q_INVOKABLE bool hasPart(const QUuid &blockID, int direction) const;
     /// Goes to the part before (-1) or after (1) the one that is shown; false if there is none.
@@ -90,11 +95,30 @@ public:
     Q_INVOKABLE void copyCode(const QUuid &blockID) const;
     Q_INVOKABLE void copyOutput(const QUuid &blockID);
 
+    /// The address at a place in a text; empty if there is none that may be opened.
+    Q_INVOKABLE QString linkIn(const QString &text, int position) const;
+    /// Opens an address of the web or of mail in the program that the desktop has for it; no other.
+    Q_INVOKABLE void openLink(const QString &link);
+    Q_INVOKABLE void copyLink(const QString &link) const;
+    /// Opens an address; false if there is no program for it.
+    void setLinkOpener(std::function<bool(const QUrl &)> opener) { m_openLink = std::move(opener); }
+
+    /// The blocks as they stand in the store; none once the page is gone.
+    const QList<Block> &blocks() const;
+    /// Changes the blocks of the page as one action, such that the next key already finds them so.
+    void changeBlocks(const QString &name, const std::function<void(QList<Block> &)> &edit);
+    std::function<QUuid()> idMaker() const;
+    /// Has the block focused once its row exists.
+    /// @param caret in the whole text; -1 leaves it where it is
+    void focusBlock(const QUuid &blockID, qsizetype caret) { requestFocus(blockID, caret); }
+
 signals:
     void pageIDChanged();
     void titleChanged();
     void isZenChanged();
     void slashTypesChanged();
+    /// A sentence on what could not be done.
+    void message(const QString &text);
     /// The block of this row shall have the focus; sent once the row exists.
     /// @param caret where the caret goes in what is shown of its text; -1 leaves it where it is
     void focusRequested(int row, int caret);
@@ -105,12 +129,9 @@ protected:
     bool reveal(const UndoPlace &place) override;
 
 private:
-    struct Place {
-        QUuid blockID;
-        qsizetype position = 0;
-    };
+    using Place = BlockSplice::Place;
 
-    void showBlocks(const QList<Block> &blocks);
+    void showBlocks(const QList<Block> &pasted);
     void dropRuns();
     void showSlashMenu();
     void requestFocus(const QUuid &blockID, qsizetype caret);
@@ -122,15 +143,14 @@ private:
     const Block *block(const QUuid &blockID) const;
     /// Changes the page, with `updatedDate` now.
     /// @param name how the Edit menu calls it; empty within an action
-    template <typename Edit>
-    void changePage(const QString &name, Edit edit);
-    /// The next key already finds the blocks as the edit leaves them.
-    template <typename Edit>
-    void changeList(const QString &name, Edit edit);
-    template <typename Edit>
-    void changeBlock(const QString &name, const QUuid &blockID, Edit edit);
+    void changePage(const QString &name, const std::function<void(Page &)> &edit);
+    void changeBlock(const QString &name, const QUuid &blockID, const std::function<void(Block &)> &edit);
     /// Changes the text of a block, and the part of it that is shown. Returns where the caret belongs then.
     Place editText(Block before, const PageBlocks::TextEdit &edit, qsizetype caret);
+    /// Makes of the block what the typed signs ask for.
+    void changeKind(const Block &block);
+    void pasteText(const Block &target, PageBlocks::TextEdit edit);
+    void pasteBlocks(const QUuid &blockID, PageBlocks::TextEdit edit, const QList<Block> &blocks);
     /// Where these blocks were changed to become others.
     static Place changedPlace(const QList<Block> &before, const QList<Block> &after);
 
@@ -143,6 +163,9 @@ private:
     ShownParts m_parts;
     KeyedListModel<BlockRow> m_rows;
     bool m_isZen = false;
+    PageSelection *m_selection;
+    ClipboardReader m_clipboard;
+    std::function<bool(const QUrl &)> m_openLink;
 
     QUuid m_focusedBlock;
     QList<int> m_slashTypes;

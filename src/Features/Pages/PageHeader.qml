@@ -9,6 +9,9 @@ FocusScope {
 
     required property var pageID
 
+    /// What is selected in the page, for its counts: blocks, or else a text.
+    property PageSelection selection: null
+    property string selectedText: ""
     /// Without everything but the title.
     property bool titleOnly: false
     readonly property alias isUnnamed: header.isUnnamed
@@ -32,6 +35,8 @@ FocusScope {
         id: header
 
         pageID: root.pageID
+        selectedText: root.selectedText
+        selection: root.selection
         session: Orvel
         onTitleCut: message => toast.show(message)
         onTitleRestored: caret => root.focusTitle(caret)

@@ -4,7 +4,8 @@
 #include "Session/PageActions.h"
 #include "Store/PageOperations.h"
 #include "Support/OVDate.h"
-#include "Support/PageText.h"
+
+#include <QLocale>
 
 #include <utility>
 
@@ -16,6 +17,9 @@ PageHeaderViewModel::PageHeaderViewModel(QObject *parent, std::chrono::milliseco
     m_countTimer.setSingleShot(true);
     m_countTimer.setInterval(countDelay);
     connect(&m_countTimer, &QTimer::timeout, this, &PageHeaderViewModel::count);
+    m_selectionTimer.setSingleShot(true);
+    m_selectionTimer.setInterval(countDelay);
+    connect(&m_selectionTimer, &QTimer::timeout, this, &PageHeaderViewModel::countSelected);
 }
 
 void PageHeaderViewModel::setPageID(const QUuid &pageID)
@@ -73,12 +77,12 @@ void PageHeaderViewModel::convert()
 
 QString PageHeaderViewModel::wordsText() const
 {
-    return tr("%1 words").arg(m_words);
+    return tr("%1 words").arg(m_counts.words);
 }
 
 QString PageHeaderViewModel::readingTimeText() const
 {
-    return PageText::readingTimeLabel(m_words);
+    return PageText::readingTimeLabel(m_counts.words);
 }
 
 QString PageHeaderViewModel::backText() const
@@ -143,7 +147,52 @@ void PageHeaderViewModel::count()
     const Page *const found = page();
     if (!found)
         return;
-    const qsizetype words = PageText::wordCount(*found);
-    if (std::exchange(m_words, words) != words)
+    const PageText::Counts counts = PageText::countsOf(found->content);
+    if (std::exchange(m_counts, counts) != counts)
         emit countsChanged();
+}
+
+QString PageHeaderViewModel::described(const PageText::Counts &counts)
+{
+    const QLocale english(QLocale::English);
+    return tr("%1 words, %2 characters")
+        .arg(english.toString(counts.words), english.toString(counts.characters));
+}
+
+QString PageHeaderViewModel::selectedWordsText() const
+{
+    if (m_selectedCounts.characters == 0)
+        return {};
+    return m_selectedCounts.words == 1 ? tr("1 word selected")
+                                       : tr("%1 words selected").arg(m_selectedCounts.words);
+}
+
+void PageHeaderViewModel::setSelection(PageSelection *selection)
+{
+    if (m_selection == selection)
+        return;
+    if (m_selection)
+        m_selection->disconnect(this);
+    m_selection = selection;
+    if (m_selection)
+        connect(m_selection, &PageSelection::changed, &m_selectionTimer, qOverload<>(&QTimer::start));
+    emit selectionChanged();
+}
+
+void PageHeaderViewModel::setSelectedText(const QString &text)
+{
+    if (m_selectedText == text)
+        return;
+    m_selectedText = text;
+    m_selectionTimer.start();
+    emit selectedTextChanged();
+}
+
+void PageHeaderViewModel::countSelected()
+{
+    const bool hasBlocks = m_selection && m_selection->isActive();
+    const PageText::Counts counts =
+        hasBlocks ? PageText::countsOf(m_selection->blocks()) : PageText::countsOf(m_selectedText);
+    if (std::exchange(m_selectedCounts, counts) != counts)
+        emit selectedCountsChanged();
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Features/Pages/PageSelection.h"
 #include "Session/ViewModel.h"
+#include "Support/PageText.h"
 
+#include <QPointer>
 #include <QTimer>
 
 /// What stands above the blocks of a page: its title, its icon and what is known about it.
@@ -23,8 +26,16 @@ class PageHeaderViewModel : public ViewModel
     Q_PROPERTY(QString backText READ backText NOTIFY kindChanged FINAL)
     Q_PROPERTY(QString convertText READ convertText NOTIFY kindChanged FINAL)
     Q_PROPERTY(QString editedText READ editedText NOTIFY editedTextChanged FINAL)
-    /// These two follow a while after the last change.
+    /// The counts follow a while after the last change.
     Q_PROPERTY(QString wordsText READ wordsText NOTIFY countsChanged FINAL)
+    /// "70 words, 412 characters".
+    Q_PROPERTY(QString countsText READ countsText NOTIFY countsChanged FINAL)
+    /// "12 words selected"; empty without a selection.
+    Q_PROPERTY(QString selectedWordsText READ selectedWordsText NOTIFY selectedCountsChanged FINAL)
+    Q_PROPERTY(QString selectedCountsText READ selectedCountsText NOTIFY selectedCountsChanged FINAL)
+    /// What is selected: blocks, or else a text.
+    Q_PROPERTY(PageSelection *selection READ selection WRITE setSelection NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(QString selectedText READ selectedText WRITE setSelectedText NOTIFY selectedTextChanged FINAL)
     Q_PROPERTY(QString readingTimeText READ readingTimeText NOTIFY countsChanged FINAL)
 
 public:
@@ -55,6 +66,13 @@ public:
     const QString &editedText() const { return m_editedText; }
     QString wordsText() const;
     QString readingTimeText() const;
+    QString countsText() const { return described(m_counts); }
+    QString selectedWordsText() const;
+    QString selectedCountsText() const { return described(m_selectedCounts); }
+    PageSelection *selection() const { return m_selection; }
+    void setSelection(PageSelection *selection);
+    const QString &selectedText() const { return m_selectedText; }
+    void setSelectedText(const QString &text);
 
     QString backText() const;
     /// Goes to where pages of this kind are listed.
@@ -74,6 +92,9 @@ signals:
     void kindChanged();
     void editedTextChanged();
     void countsChanged();
+    void selectedCountsChanged();
+    void selectionChanged();
+    void selectedTextChanged();
 
 protected:
     void refresh(const ChangeSet &changes) override;
@@ -92,10 +113,16 @@ private:
     Destination::Kind backPlace() const;
     void showFace(const Page &page);
     void count();
+    void countSelected();
+    static QString described(const PageText::Counts &counts);
 
     QUuid m_pageID;
     Face m_face;
     QString m_editedText;
     QTimer m_countTimer;
-    qsizetype m_words = 0;
+    QTimer m_selectionTimer;
+    PageText::Counts m_counts;
+    PageText::Counts m_selectedCounts;
+    QPointer<PageSelection> m_selection;
+    QString m_selectedText;
 };

@@ -28,7 +28,32 @@ Flow {
 
     Dot { }
 
-    Fact { text: root.header.wordsText }
+    Fact {
+        text: root.header.wordsText
+
+        HoverHandler { id: overWords }
+
+        OVToolTip {
+            shown: overWords.hovered
+            text: root.header.countsText
+        }
+    }
+
+    Dot { visible: selected.visible }
+
+    Fact {
+        id: selected
+        color: Theme.ovInk
+        text: root.header.selectedWordsText
+        visible: text !== ""
+
+        HoverHandler { id: overSelected }
+
+        OVToolTip {
+            shown: overSelected.hovered
+            text: root.header.selectedCountsText
+        }
+    }
 
     Dot { }
 

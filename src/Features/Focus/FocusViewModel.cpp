@@ -6,6 +6,7 @@ FocusViewModel::FocusViewModel(QObject *parent) : ViewModel(parent)
 {
     follow<TaskItem>();
     followSettings();
+    followDays();
 }
 
 FocusViewModel::~FocusViewModel()

@@ -4,6 +4,7 @@
 #include "Features/MenuBar/PanelPlacement.h"
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -11,13 +12,18 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// In a middle grey, which shows on light panels and on dark ones.
+/// A light hexagon with a dark rim: one of the two shows on any panel.
 QList<QImage> images()
 {
     OVIconProvider icons;
     QList<QImage> drawn;
-    for (const int size : {16, 22, 24, 32, 48})
-        drawn.append(icons.requestImage(u"circle.hexagongrid.fill/8C8C8C"_s, nullptr, {size, size}));
+    for (const int side : {16, 22, 24, 32, 48, 64}) {
+        const QSize size(side, side);
+        QImage image = icons.requestImage(u"circle.hexagongrid.fill/FFFDF7"_s, nullptr, size);
+        QPainter(&image).drawImage(QPoint(),
+                                   icons.requestImage(u"circle.hexagongrid/37352F"_s, nullptr, size));
+        drawn.append(image);
+    }
     return drawn;
 }
 } // namespace
@@ -76,12 +82,43 @@ void MenuBarController::makeItem()
         .id = u"com.orvel.workspace"_s,
         .title = u"Orvel"_s,
         .images = images(),
+        .menu = [this] { return menu(); },
         .service = u"org.kde.StatusNotifierItem-%1-1"_s.arg(QCoreApplication::applicationPid()),
         .bus = m_bus});
     connect(m_item.get(), &StatusItem::activated, this, &MenuBarController::toggleRequested);
     connect(m_item.get(), &StatusItem::shownChanged, this,
             [this] { m_session->focus()->setWatched(this, m_item->isShown()); });
     showRemainingTime();
+}
+
+QList<StatusMenu::Entry> MenuBarController::menu()
+{
+    const auto open = [this](const QString &place) {
+        return [this, place] {
+            m_session->ui()->select(place);
+            emit openRequested();
+        };
+    };
+    QList<StatusMenu::Entry> entries;
+    if (m_session->focus()->isRunning())
+        entries = {{focusText()}, {}};
+    return entries + QList<StatusMenu::Entry>{
+                         {tr("Open Orvel"), [this] { emit openRequested(); }},
+                         {tr("Quick add a task"), [this] { emit toggleRequested({}); }},
+                         {},
+                         {tr("Dashboard"), open(u"dashboard"_s)},
+                         {tr("Today"), open(u"today"_s)},
+                         {tr("Focus"), open(u"focus"_s)},
+                         {tr("Relax"), open(u"relax"_s)},
+                         {},
+                         {tr("Settings"), open(u"settings"_s)},
+                         {tr("Quit Orvel"), [this] { emit quitRequested(); }},
+                     };
+}
+
+QString MenuBarController::focusText() const
+{
+    return tr("Focus: %1").arg(m_session->focus()->timeText());
 }
 
 void MenuBarController::scheduleReassert()
@@ -93,9 +130,7 @@ void MenuBarController::scheduleReassert()
 void MenuBarController::showRemainingTime()
 {
     if (m_item)
-        m_item->setToolTip(m_session->focus()->isRunning()
-                               ? tr("Focus: %1").arg(m_session->focus()->timeText())
-                               : QString());
+        m_item->setToolTip(m_session->focus()->isRunning() ? focusText() : QString());
 }
 
 QPoint MenuBarController::place(const QPoint &icon, int width, int height) const

@@ -39,12 +39,17 @@ signals:
     void sessionChanged();
     /// The user has clicked the icon, at this place of the screen; null where the desktop does not tell.
     void toggleRequested(const QPoint &place);
+    /// The main window is to come to the front.
+    void openRequested();
+    void quitRequested();
     /// The panel is to close.
     void dismissRequested();
 
 private:
     void makeItem();
+    QList<StatusMenu::Entry> menu();
     void showRemainingTime();
+    QString focusText() const;
 
     OrvelSession *m_session = nullptr;
     std::function<QDBusConnection()> m_bus = &QDBusConnection::sessionBus;

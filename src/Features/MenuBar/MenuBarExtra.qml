@@ -48,6 +48,8 @@ Item {
 
         session: Orvel
         onDismissRequested: root.panel?.hide()
+        onOpenRequested: root.openMainWindow()
+        onQuitRequested: Qt.quit()
         onToggleRequested: place => root.toggle(place)
     }
 

@@ -10,7 +10,8 @@ namespace
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 } // namespace
 
-StatusItem::StatusItem(Options options, QObject *parent) : QObject(parent), m_options(std::move(options))
+StatusItem::StatusItem(Options options, QObject *parent)
+    : QObject(parent), m_options(std::move(options)), m_menu(m_options.menu)
 {
     qDBusRegisterMetaType<StatusPixmap>();
     qDBusRegisterMetaType<StatusPixmaps>();
@@ -43,9 +44,10 @@ void StatusItem::connectTo(const QDBusConnection &bus)
     m_bus = bus;
     if (!m_isWanted || !bus.isConnected())
         return;
-    m_bus->registerObject(QLatin1String(path), this,
-                          QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals |
-                              QDBusConnection::ExportScriptableProperties);
+    const auto exported = QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals |
+                          QDBusConnection::ExportScriptableProperties;
+    m_bus->registerObject(QLatin1String(path), this, exported);
+    m_bus->registerObject(QLatin1String(StatusMenu::path), &m_menu, exported);
     m_bus->registerService(m_options.service);
     m_watcher = std::make_unique<QDBusServiceWatcher>(QLatin1String(watcherService), *m_bus,
                                                       QDBusServiceWatcher::WatchForOwnerChange);
@@ -80,7 +82,7 @@ void StatusItem::hide()
         return;
     m_watcher.reset();
     m_bus->unregisterService(m_options.service);
-    m_bus->unregisterObject(QLatin1String(path));
+    m_bus->unregisterObject(QLatin1String(path), QDBusConnection::UnregisterTree);
     setRegistered(false);
 }
 

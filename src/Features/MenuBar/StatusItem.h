@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/MenuBar/StatusItemTypes.h"
+#include "Features/MenuBar/StatusMenu.h"
 
 #include <QDBusConnection>
 #include <QDBusObjectPath>
@@ -38,6 +39,8 @@ public:
         QString title;
         /// In the sizes that panels have.
         QList<QImage> images;
+        /// What a secondary click opens, and on desktops that know nothing else every click.
+        StatusMenu::Source menu;
         /// The name of the icon on the bus, which no other program has. A panel drops the icon once it is
         /// given up.
         QString service;
@@ -69,7 +72,7 @@ public:
     StatusPixmaps iconPixmap() const;
     StatusToolTip toolTip() const { return {{}, {}, m_options.title, m_toolTip}; }
     static bool isMenu() { return false; }
-    static QDBusObjectPath menu() { return QDBusObjectPath(QStringLiteral("/NO_DBUSMENU")); }
+    static QDBusObjectPath menu() { return QDBusObjectPath(QLatin1String(StatusMenu::path)); }
 
 public slots:
     Q_SCRIPTABLE void Activate(int x, int y) { emit activated({x, y}); }
@@ -89,6 +92,7 @@ private:
     void setRegistered(bool registered);
 
     Options m_options;
+    StatusMenu m_menu;
     QString m_toolTip;
     bool m_isWanted = false;
     bool m_isRegistered = false;

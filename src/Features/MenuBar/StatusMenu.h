@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Features/MenuBar/StatusMenuTypes.h"
+
+#include <QObject>
+
+/// The plain menu of a status item, by the desktop's menu protocol: for panels that show nothing but menus,
+/// and for the secondary click on all others. It is one list without submenus.
+class StatusMenu : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
+    // The names of the protocol.
+    Q_PROPERTY(uint Version READ version SCRIPTABLE true)
+    Q_PROPERTY(QString TextDirection READ textDirection SCRIPTABLE true)
+    Q_PROPERTY(QString Status READ status SCRIPTABLE true)
+    Q_PROPERTY(QStringList IconThemePath READ iconThemePath SCRIPTABLE true)
+
+public:
+    struct Entry {
+        /// Empty for a line between groups.
+        QString label;
+        /// Without one the entry only tells something.
+        std::function<void()> action = {};
+    };
+    /// Called each time before the menu is shown.
+    using Source = std::function<QList<Entry>()>;
+
+    static constexpr char path[] = "/StatusNotifierItem/Menu";
+
+    explicit StatusMenu(Source entries, QObject *parent = nullptr);
+
+    static uint version() { return 3; }
+    static QString textDirection();
+    static QString status() { return QStringLiteral("normal"); }
+    static QStringList iconThemePath() { return {}; }
+
+public slots:
+    /// @param parent 0 for the whole menu
+    Q_SCRIPTABLE uint GetLayout(int parent, int depth, const QStringList &names, StatusMenuLayout &layout);
+    /// @param ids none for all
+    Q_SCRIPTABLE QList<StatusMenuProperties> GetGroupProperties(const QList<int> &ids,
+                                                                const QStringList &names);
+    Q_SCRIPTABLE QDBusVariant GetProperty(int id, const QString &name);
+    Q_SCRIPTABLE void Event(int id, const QString &event, const QDBusVariant &data, uint timestamp);
+    /// @return the ids that are not in the menu
+    Q_SCRIPTABLE QList<int> EventGroup(const QList<StatusMenuEvent> &events);
+    /// @return whether the menu has to be asked for anew
+    Q_SCRIPTABLE bool AboutToShow(int id);
+    Q_SCRIPTABLE QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &unknown);
+
+signals:
+    Q_SCRIPTABLE void LayoutUpdated(uint revision, int parent);
+
+private:
+    bool has(int id) const { return id >= 0 && id <= m_entries.size(); }
+    QVariantMap properties(int id) const;
+    /// Whether it has changed what the menu shows.
+    bool update();
+
+    Source m_source;
+    /// Their ids begin at 1; 0 is the menu.
+    QList<Entry> m_entries;
+    uint m_revision = 1;
+};

@@ -1,6 +1,7 @@
 #include "Features/MenuBar/MenuBarController.h"
 
 #include "DesignSystem/OVIconProvider.h"
+#include "DesignSystem/OrvelMark.h"
 #include "Features/MenuBar/PanelPlacement.h"
 
 #include <QGuiApplication>
@@ -12,16 +13,22 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// A light hexagon with a dark rim: one of the two shows on any panel.
+/// The program's mark on a light hexagon with a dark rim, which shows on light panels and on dark ones.
 QList<QImage> images()
 {
+    const QString paper = u"circle.hexagongrid.fill/FFFDF7"_s;
+    const QString rim = u"circle.hexagongrid/37352F"_s;
     OVIconProvider icons;
     QList<QImage> drawn;
     for (const int side : {16, 22, 24, 32, 48, 64}) {
         const QSize size(side, side);
-        QImage image = icons.requestImage(u"circle.hexagongrid.fill/FFFDF7"_s, nullptr, size);
-        QPainter(&image).drawImage(QPoint(),
-                                   icons.requestImage(u"circle.hexagongrid/37352F"_s, nullptr, size));
+        QImage image = icons.requestImage(paper, nullptr, size);
+        QPainter painter(&image);
+        painter.drawImage(QPoint(), icons.requestImage(rim, nullptr, size));
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(side * 0.34, side * 0.32);
+        painter.strokePath(OrvelMark::path(QSizeF(size) * 0.34),
+                           QPen(QColor(0x37352F), side * 0.08, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         drawn.append(image);
     }
     return drawn;

@@ -50,6 +50,38 @@ public:
         bus.asyncCall(message);
     }
 
+    /// Calls the menu, as a panel does that shows the entries by itself.
+    template <typename... Argument>
+    QDBusMessage menu(const QString &method, const Argument &...arguments) const
+    {
+        QDBusMessage message = QDBusMessage::createMethodCall(items.first(), QLatin1String(StatusMenu::path),
+                                                              u"com.canonical.dbusmenu"_s, method);
+        message.setArguments({QVariant::fromValue(arguments)...});
+        const QDBusPendingCallWatcher answer(bus.asyncCall(message));
+        [&] { QTRY_VERIFY(answer.isFinished()); }();
+        return answer.reply();
+    }
+    /// The whole menu: ids by label, with an asterisk before those that can't be chosen.
+    QList<std::pair<QString, int>> entries() const
+    {
+        const QDBusMessage answer = menu(u"GetLayout"_s, 0, -1, QStringList());
+        QList<std::pair<QString, int>> entries;
+        const auto layout = qdbus_cast<StatusMenuLayout>(answer.arguments().value(1));
+        for (const QVariant &child : layout.children) {
+            const auto entry = child.value<StatusMenuLayout>();
+            const QString label = entry.properties.value(u"label"_s).toString();
+            entries.append(
+                {entry.properties.value(u"enabled"_s, true).toBool() ? label : u'*' + label, entry.id});
+        }
+        return entries;
+    }
+    void choose(const QString &label) const
+    {
+        for (const auto &[name, id] : entries())
+            if (name == label)
+                menu(u"Event"_s, id, u"clicked"_s, QDBusVariant(0), 0u);
+    }
+
     QDBusConnection bus;
     QStringList items;
 
@@ -79,6 +111,8 @@ private slots:
     void thePreferenceTakesTheIconAway();
     void clicksTellTheirPlace();
     void theToolTipShowsARunningSession();
+    void thePlainMenuLeadsEverywhere();
+    void thePlainMenuTellsTheTime();
     void withoutABusNothingHappens();
     void thePanelStandsByTheIcon_data();
     void thePanelStandsByTheIcon();
@@ -210,6 +244,69 @@ void StatusItemTest::theToolTipShowsARunningSession()
     QTRY_VERIFY(text().startsWith(u"Focus: 2"_s));
     m_session->focus()->toggleRunning();
     QTRY_COMPARE(text(), QString());
+}
+
+void StatusItemTest::thePlainMenuLeadsEverywhere()
+{
+    FakePanel panel(m_address);
+    start();
+    QTRY_COMPARE(panel.items.size(), 1);
+    const QDBusPendingCallWatcher answer(panel.properties());
+    QTRY_VERIFY(answer.isFinished());
+    QCOMPARE(
+        qdbus_cast<QDBusObjectPath>(QDBusPendingReply<QVariantMap>(answer).value().value(u"Menu"_s)).path(),
+        QLatin1String(StatusMenu::path));
+
+    QSignalSpy opened(m_controller.get(), &MenuBarController::openRequested);
+    for (const auto &[label, place] : {std::pair(u"Dashboard"_s, u"dashboard"_s),
+                                       {u"Focus"_s, u"focus"_s},
+                                       {u"Settings"_s, u"settings"_s}}) {
+        panel.choose(label);
+        QCOMPARE(m_workspace->selection(), place);
+    }
+    panel.choose(u"Open Orvel"_s);
+    QCOMPARE(opened.count(), 4);
+    QSignalSpy toggled(m_controller.get(), &MenuBarController::toggleRequested);
+    panel.choose(u"Quick add a task"_s);
+    QCOMPARE(toggled.count(), 1);
+    QSignalSpy quit(m_controller.get(), &MenuBarController::quitRequested);
+    panel.choose(u"Quit Orvel"_s);
+    QCOMPARE(quit.count(), 1);
+
+    // Neither a pointer passing over an entry nor an id that is not there does anything.
+    panel.menu(u"Event"_s, panel.entries().last().second, u"hovered"_s, QDBusVariant(0), 0u);
+    panel.menu(u"Event"_s, 99, u"clicked"_s, QDBusVariant(0), 0u);
+    panel.menu(u"Event"_s, -1, u"clicked"_s, QDBusVariant(0), 0u);
+    QCOMPARE(quit.count(), 1);
+    const QList<StatusMenuEvent> events{{99, u"clicked"_s, QDBusVariant(0), 0},
+                                        {panel.entries().last().second, u"clicked"_s, QDBusVariant(0), 0}};
+    QCOMPARE(qdbus_cast<QList<int>>(panel.menu(u"EventGroup"_s, events).arguments().value(0)),
+             QList<int>{99});
+    QCOMPARE(quit.count(), 2);
+}
+
+void StatusItemTest::thePlainMenuTellsTheTime()
+{
+    FakePanel panel(m_address);
+    start();
+    QTRY_COMPARE(panel.items.size(), 1);
+    const auto isOutdated = [&panel] {
+        return panel.menu(u"AboutToShow"_s, 0).arguments().value(0).toBool();
+    };
+    const qsizetype count = panel.entries().size();
+    QVERIFY(!isOutdated());
+    m_session->focus()->open(this);
+    m_session->focus()->toggleRunning();
+    QVERIFY(isOutdated());
+    QVERIFY(panel.entries().first().first.startsWith(u"*Focus: 2"_s));
+    QCOMPARE(panel.entries().size(), count + 2);
+    m_session->focus()->toggleRunning();
+    QVERIFY(isOutdated());
+    QCOMPARE(panel.entries().size(), count);
+    const QDBusMessage group = panel.menu(u"GetGroupProperties"_s, QList<int>{1, 99}, QStringList());
+    const auto known = qdbus_cast<QList<StatusMenuProperties>>(group.arguments().value(0));
+    QCOMPARE(known.size(), 1);
+    QCOMPARE(known.first().properties.value(u"label"_s).toString(), u"Open Orvel"_s);
 }
 
 void StatusItemTest::withoutABusNothingHappens()

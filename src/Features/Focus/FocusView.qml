@@ -8,23 +8,31 @@ import Orvel.Session
 FocusScope {
     id: root
 
+    /// Its keys work at once, also for a user who came by the sidebar.
+    readonly property bool wantsKeyboard: true
     readonly property bool inSight: visible && Window.visibility !== Window.Hidden && Window.visibility !== Window.Minimized
+
+    readonly property FocusViewModel viewModel: FocusViewModel {
+        active: root.visible
+        session: Orvel
+        watched: root.inSight
+    }
 
     /// Does what the key stands for; false for any other key.
     function act(key: int): bool {
-        if (key >= Qt.Key_1 && key < Qt.Key_1 + focusTimer.presets.length) {
-            focusTimer.choosePreset(key - Qt.Key_1)
+        if (key >= Qt.Key_1 && key < Qt.Key_1 + root.viewModel.presets.length) {
+            root.viewModel.choosePreset(key - Qt.Key_1)
             return true
         }
         switch (key) {
         case Qt.Key_Space:
-            focusTimer.toggleRunning()
+            root.viewModel.toggleRunning()
             return true
         case Qt.Key_R:
-            focusTimer.reset()
+            root.viewModel.reset()
             return true
         case Qt.Key_L:
-            focusTimer.logSession()
+            root.viewModel.logSession()
             return true
         }
         return false
@@ -33,13 +41,6 @@ FocusScope {
     Keys.onPressed: event => {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) && !event.isAutoRepeat
         event.accepted = plain && act(event.key)
-    }
-
-    FocusViewModel {
-        id: focusTimer
-        active: root.visible
-        session: Orvel
-        watched: root.inSight
     }
 
     ScreenScaffold {
@@ -59,12 +60,12 @@ FocusScope {
             Layout.fillWidth: true
             focus: true
             inSight: root.inSight
-            viewModel: focusTimer
+            viewModel: root.viewModel
         }
 
         FocusTaskPicker {
             Layout.fillWidth: true
-            viewModel: focusTimer
+            viewModel: root.viewModel
         }
 
         RowLayout {
@@ -77,9 +78,9 @@ FocusScope {
                 Layout.preferredWidth: 1
             }
 
-            Figure { label: qsTr("Sessions today"); symbol: "flame"; value: focusTimer.sessionsText }
-            Figure { label: qsTr("Minutes focused"); symbol: "clock"; value: focusTimer.minutesText }
-            Figure { label: qsTr("Default length"); symbol: "timer"; value: focusTimer.defaultText }
+            Figure { label: qsTr("Sessions today"); symbol: "flame"; value: root.viewModel.sessionsText }
+            Figure { label: qsTr("Minutes focused"); symbol: "clock"; value: root.viewModel.minutesText }
+            Figure { label: qsTr("Default length"); symbol: "timer"; value: root.viewModel.defaultText }
         }
     }
 }

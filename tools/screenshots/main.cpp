@@ -6,6 +6,7 @@
 #include "DesignSystem/ThemePresets.h"
 #include "SampleMonth.h"
 #include "SamplePages.h"
+#include "SamplePractice.h"
 #include "SampleWorkspace.h"
 #include "ScratchWorkspace.h"
 #include "Store/PageOperations.h"
@@ -21,6 +22,8 @@
 #include <QTranslator>
 
 #include <functional>
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -404,6 +407,61 @@ QList<Picture> modulePictures()
     return pictures;
 }
 
+/// A screen beside a sidebar's width, as `view`, after a script has done something in it.
+QByteArray screenPage(const QByteArray &module, const QByteArray &view, const QByteArray &script)
+{
+    return "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel." + module +
+           "\nItem { OVBackground { anchors.fill: parent }\n" + view +
+           " { id: view; anchors.fill: parent; anchors.leftMargin: Theme.sidebarWidth; focus: true }\n"
+           "Timer { id: later; interval: 300; onTriggered: { view.viewModel.toggleRunning(); "
+           "if (resumed) view.viewModel.toggleRunning() } "
+           "property bool resumed: true }\n"
+           "Timer { interval: 20; running: true; onTriggered: { " +
+           script + " } } }";
+}
+
+QList<Picture> practicePictures()
+{
+    const Content none = [](WorkspaceStore &, UIState &) {};
+    const auto with = [](void (*fill)(WorkspaceStore &)) {
+        return [fill](WorkspaceStore &store, UIState &) { fill(store); };
+    };
+    const QByteArray panel =
+        "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.MenuBar\n"
+        "Rectangle { color: \"#808080\"; MenuBarPanel { anchors.centerIn: parent; focus: true; "
+        "width: implicitWidth; Component.onCompleted: begin() } }";
+    const QByteArray start = "view.viewModel.linkTask(0); view.viewModel.toggleRunning(); later.start()";
+    const QByteArray pause = "view.viewModel.toggleRunning(); later.resumed = false; later.start()";
+    const QByteArray habits = screenPage("Habits", "HabitsView", {});
+    const QByteArray insights = screenPage("Insights", "InsightsView", {});
+    const QSize tall(1240, 1900);
+    const auto sample = with(SampleMonth::fill);
+    QList<Picture> pictures;
+    for (const auto &[lookName, look] : looks() + QList{std::pair(u"small-huge"_s, both(light, huge))}) {
+        const bool isSmall = lookName == u"small-huge";
+        const auto add = [&, &lookName = lookName, &look = look](const QString &name, const QByteArray &page,
+                                                                 QSize size, const Content &content) {
+            pictures.append(
+                {u"practice-"_s + name + u'-' + lookName, page, isSmall ? smallSize : size, content, look});
+        };
+        add(u"focus-running"_s, screenPage("Focus", "FocusView", start), windowSize, sample);
+        add(u"focus-paused"_s, screenPage("Focus", "FocusView", pause), windowSize, none);
+        add(u"habits-none"_s, habits, windowSize, none);
+        add(u"habits-three"_s, habits, windowSize, with(SamplePractice::threeHabits));
+        add(u"habits-forty"_s, habits, windowSize, with(SamplePractice::fortyHabits));
+        add(u"habits-composer"_s, screenPage("Habits", "HabitsView", "view.compose()"), windowSize,
+            with(SamplePractice::threeHabits));
+        add(u"insights-ordinary"_s, insights, {1240, 1200}, with(SamplePractice::ordinary));
+        add(u"insights-single"_s, insights, {1240, 1200}, with(SamplePractice::single));
+        add(u"panel"_s, panel, {420, 720}, sample);
+        add(u"panel-nothing-due"_s, panel, {420, 720}, none);
+    }
+    pictures.append({u"practice-insights-crowded"_s, insights, tall, with(SamplePractice::crowded), light});
+    pictures.append(
+        {u"practice-insights-huge-values"_s, insights, {1240, 1200}, with(SamplePractice::huge), light});
+    return pictures;
+}
+
 void type(QWindow &window, const QString &text)
 {
     for (const QChar letter : text) {
@@ -489,7 +547,7 @@ int main(int argc, char *argv[])
     }
     for (const Picture &picture : galleryPictures() + codePictures() + modulePictures() + notesPictures() +
                                       onboardingPictures() + pagePictures() + palettePictures() +
-                                      shellPictures() + tasksPictures()) {
+                                      practicePictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

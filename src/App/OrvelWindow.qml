@@ -68,7 +68,7 @@ Window {
     }
 
     Loader {
-        active: rootView.isDrawn
+        active: rootView.isDrawn && !rootView.starting
         source: "../MenuBar/MenuBarExtra.qml"
     }
 }

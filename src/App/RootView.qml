@@ -20,6 +20,11 @@ FocusScope {
     /// Whether a layer is still on its way.
     readonly property bool loading: workspace.loading || onboarding.loading
 
+    function continueAfterFirstFrame() {
+        isDrawn = true;
+        Orvel.updates.checkRegularly(root);
+    }
+
     focus: true
 
     // From here on the choice of motion has no say in it.
@@ -29,14 +34,15 @@ FocusScope {
         enabled: !root.isDrawn
         target: root.Window.window
 
+        // In a turn of its own, so that the first frame is out before anything else is made.
         function onFrameSwapped() {
-            root.isDrawn = true;
-            Orvel.updates.checkRegularly(root);
+            Qt.callLater(root.continueAfterFirstFrame);
         }
     }
 
     OVBackground {
         anchors.fill: parent
+        plain: !root.isDrawn
         // The intro stands on a background of its own.
         visible: !root.showIntro
     }

@@ -51,17 +51,13 @@ std::expected<SingleInstance::Role, QString> SingleInstance::start(const QByteAr
     // The other start may be on its way up, not listening yet, or on its way out, about to release the lock.
     do {
         const FileLock::State state = m_lock.acquire();
-        if (state == FileLock::State::held) {
-            listen();
+        if (state == FileLock::State::held)
             return Role::writer;
-        }
         if (ask(activationToken, deadline.remainingTimeAsDuration() / 1ms * 1ms))
             return Role::visitor;
         // Where no lock can be made nothing can be written either, and only an answer proves another start.
-        if (state == FileLock::State::impossible) {
-            listen();
+        if (state == FileLock::State::impossible)
             return Role::writer;
-        }
         QThread::msleep(20);
     } while (!deadline.hasExpired());
     return std::unexpected(
@@ -77,6 +73,8 @@ std::expected<void, QString> SingleInstance::checkLock()
 
 void SingleInstance::listen()
 {
+    if (m_server.isListening())
+        return;
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     // A killed process leaves its socket behind; the process that holds the lock may clear it away.
     QLocalServer::removeServer(m_options.socketPath);

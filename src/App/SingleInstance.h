@@ -47,12 +47,14 @@ public:
     /// @param activationToken the desktop's permission to come to the front, handed to the first start
     std::expected<Role, QString> start(const QByteArray &activationToken = {});
 
+    /// Hears later starts from now on; for the writer alone. One that comes before waits as long as it has patience.
+    void listen();
+
 signals:
     /// Another start wishes the window to come to the front.
     void raiseRequested(const QByteArray &activationToken);
 
 private:
-    void listen();
     void greet();
     bool ask(const QByteArray &activationToken, std::chrono::milliseconds patience) const;
 

@@ -18,8 +18,12 @@
 #include <QQuickWindow>
 #include <QStandardPaths>
 #include <QThread>
+#include <QTimer>
 
 #include <cstdio>
+#include <functional>
+
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -29,16 +33,25 @@ Q_LOGGING_CATEGORY(startLog, "orvel.start", QtWarningMsg)
 
 constexpr char activationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
 
+/// How long a window that is shown nowhere, as on a display that is off, holds up what waits for its first
+/// frame.
+constexpr auto longestWait = 2s;
+
+/// Calls `task` once the first frame is on the screen.
+void afterFirstFrame(QQuickWindow &window, const std::function<void()> &task)
+{
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, task,
+                     Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
 void watchStart(QQuickWindow &window)
 {
     QObject::connect(
         &window, &QQuickWindow::frameSwapped, &window, [] { qCInfo(startLog, "first frame"); },
         Qt::ConnectionType(Qt::DirectConnection | Qt::SingleShotConnection));
     // The plugin that reads the icon takes longer than the window's own first frame.
-    QObject::connect(
-        &window, &QQuickWindow::frameSwapped, &window,
-        [] { QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/orvel/icon.svg"))); },
-        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    afterFirstFrame(window,
+                    [] { QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/orvel/icon.svg"))); });
     auto *const untilShown = new QObject(&window);
     QObject::connect(&window, &QQuickWindow::frameSwapped, untilShown, [&window, untilShown] {
         if (window.property("starting").toBool())
@@ -132,6 +145,8 @@ int main(int argc, char *argv[])
 
     auto *const window = qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     watchStart(*window);
+    afterFirstFrame(*window, [&instance] { instance.listen(); });
+    QTimer::singleShot(longestWait, &instance, &SingleInstance::listen);
     QObject::connect(&instance, &SingleInstance::raiseRequested, window,
                      [window](const QByteArray &activationToken) { bringToFront(*window, activationToken); });
     QObject::connect(&notifications, &DesktopNotifications::activated, window,

@@ -7,6 +7,8 @@ import Orvel.DesignSystem
 Rectangle {
     id: root
 
+    /// Leaves the pictures on the gradient out, which take longer to draw than all the rest of a first frame.
+    property bool plain: false
     readonly property list<color> colors: Theme.canvasColors
     readonly property bool hasGradient: colors.length > 1
     readonly property bool drifting: hasGradient && Theme.animatedBackground && Theme.motionEnabled && visible
@@ -32,7 +34,7 @@ Rectangle {
     }
 
     Repeater {
-        model: root.hasGradient && Theme.animatedBackground ? 2 : 0
+        model: root.hasGradient && !root.plain && Theme.animatedBackground ? 2 : 0
 
         Image {
             required property int index
@@ -52,8 +54,8 @@ Rectangle {
     Image {
         anchors.fill: parent
         fillMode: Image.Tile
-        source: "image://orvel-glows/grain"
-        visible: root.hasGradient
+        source: visible ? "image://orvel-glows/grain" : ""
+        visible: root.hasGradient && !root.plain
     }
 
     Timer {

@@ -41,6 +41,7 @@ FocusScope {
 
     OVBackground {
         anchors.fill: parent
+        plain: root.outlineProgress === 0
     }
 
     Image {

@@ -31,6 +31,7 @@ int main(int argc, char *argv[])
         say("visitor");
         return EXIT_SUCCESS;
     }
+    instance.listen();
     say("writer");
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &QCoreApplication::quit);

@@ -28,14 +28,21 @@ OVMenuBar {
 
             required property var commands
 
-            onAboutToShow: bar.commands.prepare(bar.keys.origin)
-
-            Component.onCompleted: {
+            // Their entries are made when they are first opened: most starts see none of them.
+            function fill() {
+                if (count > 0)
+                    return
                 for (const command of commands) {
                     if (command.startsGroup)
                         addItem(separatorComponent.createObject(contentItem))
                     addItem(itemComponent.createObject(contentItem, { "command": command }))
                 }
+                measure()
+            }
+
+            onAboutToShow: {
+                bar.commands.prepare(bar.keys.origin)
+                fill()
             }
         }
     }

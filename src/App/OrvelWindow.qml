@@ -68,7 +68,7 @@ Window {
     }
 
     Loader {
-        active: rootView.isDrawn && !rootView.starting
+        active: rootView.isSettled
         source: "../MenuBar/MenuBarExtra.qml"
     }
 }

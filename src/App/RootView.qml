@@ -14,15 +14,21 @@ FocusScope {
     property bool showIntro: Theme.motionEnabled
     /// Whether the first frame is drawn. What it does not show is made after it.
     property bool isDrawn: false
+    /// Whether a frame with the workspace, or what comes before it, is drawn. What opens over them is made after it.
+    property bool isSettled: false
     /// The intro runs on while the layer below it is built. Later a layer is there at once, to take the place of the
     /// other one.
     property bool starting: true
     /// Whether a layer is still on its way.
     readonly property bool loading: workspace.loading || onboarding.loading
 
-    function continueAfterFirstFrame() {
-        isDrawn = true;
-        Orvel.updates.checkRegularly(root);
+    function followFrame() {
+        if (!isDrawn) {
+            isDrawn = true;
+            Orvel.updates.checkRegularly(root);
+        } else {
+            isSettled = !starting;
+        }
     }
 
     focus: true
@@ -31,12 +37,12 @@ FocusScope {
     Component.onCompleted: showIntro = showIntro
 
     Connections {
-        enabled: !root.isDrawn
+        enabled: !root.isSettled
         target: root.Window.window
 
-        // In a turn of its own, so that the first frame is out before anything else is made.
+        // In a turn of its own, so that the frame is out before anything else is made.
         function onFrameSwapped() {
-            Qt.callLater(root.continueAfterFirstFrame);
+            Qt.callLater(root.followFrame);
         }
     }
 
@@ -54,9 +60,16 @@ FocusScope {
         asynchronous: root.starting
         held: !root.isDrawn
         page: "WorkspaceLayer.qml"
-        pageProperties: ({ "commands": root.commands })
+        pageProperties: ({ "commands": root.commands, "isSettled": root.isSettled })
         shown: Orvel.settings.hasCompletedOnboarding
         onLoaded: root.starting = false
+    }
+
+    Binding {
+        property: "isSettled"
+        target: workspace.item
+        value: root.isSettled
+        when: workspace.item !== null
     }
 
     FadingLayer {

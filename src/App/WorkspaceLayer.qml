@@ -6,6 +6,8 @@ FocusScope {
     id: root
 
     required property OrvelCommands commands
+    /// Whether there is time for what is not seen yet.
+    property bool isSettled: true
 
     focus: true
 
@@ -20,5 +22,6 @@ FocusScope {
     WorkspaceView {
         anchors { left: parent.left; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
         focus: true
+        isSettled: root.isSettled
     }
 }

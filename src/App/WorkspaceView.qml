@@ -6,6 +6,11 @@ import Orvel.Shell
 /// Everything in the window once the onboarding is done: the shell around the screens, and over it presentations, the
 /// palette and the sheet of shortcuts.
 FocusScope {
+    id: root
+
+    /// Whether there is time for what is not seen yet.
+    property bool isSettled: true
+
     AppShellView {
         id: shell
 
@@ -21,11 +26,13 @@ FocusScope {
 
     // Made ahead, so that they open with the next frame.
     Loader {
+        active: root.isSettled
         asynchronous: true
         source: "../Decks/DeckPresenterLayer.qml"
     }
 
     Loader {
+        active: root.isSettled
         asynchronous: true
         source: "../Palette/CommandPalette.qml"
     }

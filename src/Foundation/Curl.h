@@ -5,8 +5,7 @@
 #include <curl/curl.h>
 #include <expected>
 
-/// The functions of libcurl that this program calls. The library is loaded at the first use and not with the
-/// program: it brings some thirty other libraries along, which no start should wait for.
+/// The functions of libcurl that this program calls. It brings some thirty other libraries along.
 struct Curl {
     decltype(&::curl_global_init) globalInit;
     decltype(&::curl_easy_init) easyInit;

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Session
@@ -10,6 +12,7 @@ OVPressable {
     required property NavigationViewModel navigation
     /// Only the icon, for bars that have little room.
     property bool compact: false
+    property OVMenu menu: null
 
     implicitHeight: tile.implicitHeight + 2 * Theme.space8
     implicitWidth: compact ? tile.implicitWidth + 2 * Theme.space8
@@ -21,7 +24,12 @@ OVPressable {
     toolTip: compact ? text : ""
     Accessible.name: qsTr("Workspace menu, %1").arg(text)
     OVAccessible.role: Accessible.ButtonMenu
-    onClicked: menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
+    onClicked: {
+        // Made when it is first asked for, as the start shows no menu.
+        if (!menu)
+            menu = menuComponent.createObject(root) as OVMenu
+        menu.openBeside(root, 0, -Theme.space4, height + Theme.space4)
+    }
 
     contentItem: Item {
         WorkspaceTile {
@@ -56,37 +64,39 @@ OVPressable {
         }
     }
 
-    OVMenu {
-        id: menu
+    Component {
+        id: menuComponent
 
-        OVMenuItem {
-            shortcutText: root.navigation.keys("newPage")
-            symbol: "doc.badge.plus"
-            text: qsTr("New page")
-            onTriggered: root.navigation.newPage()
-        }
+        OVMenu {
+            OVMenuItem {
+                shortcutText: root.navigation.keys("newPage")
+                symbol: "doc.badge.plus"
+                text: qsTr("New page")
+                onTriggered: root.navigation.newPage()
+            }
 
-        OVMenuItem {
-            shortcutText: root.navigation.keys("newNote")
-            symbol: "note.text.badge.plus"
-            text: qsTr("New note")
-            onTriggered: root.navigation.newNote()
-        }
+            OVMenuItem {
+                shortcutText: root.navigation.keys("newNote")
+                symbol: "note.text.badge.plus"
+                text: qsTr("New note")
+                onTriggered: root.navigation.newNote()
+            }
 
-        OVMenuSeparator { }
+            OVMenuSeparator { }
 
-        OVMenuItem {
-            shortcutText: root.navigation.keys("settings")
-            symbol: "gearshape"
-            text: qsTr("Workspace settings")
-            onTriggered: Orvel.ui.select("settings")
-        }
+            OVMenuItem {
+                shortcutText: root.navigation.keys("settings")
+                symbol: "gearshape"
+                text: qsTr("Workspace settings")
+                onTriggered: Orvel.ui.select("settings")
+            }
 
-        OVMenuItem {
-            shortcutText: root.navigation.keys("shortcuts")
-            symbol: "keyboard"
-            text: qsTr("Keyboard shortcuts")
-            onTriggered: Orvel.ui.isShortcutsPresented = true
+            OVMenuItem {
+                shortcutText: root.navigation.keys("shortcuts")
+                symbol: "keyboard"
+                text: qsTr("Keyboard shortcuts")
+                onTriggered: Orvel.ui.isShortcutsPresented = true
+            }
         }
     }
 }

@@ -13,6 +13,7 @@ FocusScope {
     required property NavigationViewModel navigation
     required property SidebarViewModel sidebar
     property alias list: list
+    property SidebarMenus menus: null
     readonly property ListFocus keys: ListFocus {
         stopsAt: row => root.sidebar.isStop(row)
         view: list
@@ -53,19 +54,28 @@ FocusScope {
             list.contentY = Math.min(lowest, item.y + item.height + margin - list.height)
     }
 
-    function openMenu() {
+    /// Opens the menu of an entry that has one, at a point of an item. The menus are made when one is first asked for.
+    function openMenu(entry: SidebarEntry, from: Item, x: real, y: real) {
+        if (!menus)
+            menus = menusComponent.createObject(root) as SidebarMenus
+        menus.open(entry, from, x, y)
+    }
+
+    function openCurrentMenu() {
         const entry = list.currentItem as SidebarEntry
         if (entry)
-            menus.open(entry, entry, Theme.space24, entry.height)
+            openMenu(entry, entry, Theme.space24, entry.height)
     }
 
     // Wider than the list, so that the ring around a row is whole.
     clip: true
 
-    SidebarMenus {
-        id: menus
+    Component {
+        id: menusComponent
 
-        sidebar: root.sidebar
+        SidebarMenus {
+            sidebar: root.sidebar
+        }
     }
 
     Connections {
@@ -110,10 +120,10 @@ FocusScope {
             case Qt.Key_Left: return root.go(root.sidebar.moveOut(currentIndex))
             case Qt.Key_F2: return root.sidebar.beginRename(currentIndex)
             case Qt.Key_Delete: return root.sidebar.remove(currentIndex)
-            case Qt.Key_Menu: return root.openMenu()
+            case Qt.Key_Menu: return root.openCurrentMenu()
             case Qt.Key_F10:
                 if (event.modifiers & Qt.ShiftModifier)
-                    return root.openMenu()
+                    return root.openCurrentMenu()
             }
             event.accepted = root.keys.press(event.key)
             root.sidebar.currentRow = currentIndex
@@ -191,7 +201,7 @@ FocusScope {
                 navigation: root.navigation
                 sidebar: root.sidebar
                 width: list.width
-                onMenuRequested: (from, x, y) => menus.open(this, from, x, y)
+                onMenuRequested: (from, x, y) => root.openMenu(this, from, x, y)
                 onPressed: root.press(index)
                 onRingShown: root.reveal(index)
             }

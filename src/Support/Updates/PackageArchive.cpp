@@ -1,5 +1,6 @@
 #include "Support/Updates/PackageArchive.h"
 
+#include "Foundation/LazyLibrary.h"
 #include "Support/Updates/AppBundle.h"
 
 #include <QDir>
@@ -19,8 +20,59 @@ using namespace Qt::StringLiterals;
 namespace
 {
 using Result = std::expected<void, QString>;
+
+/// The functions of libarchive that are called here.
+struct Archive {
+    decltype(&::archive_entry_filetype) entryFiletype;
+    decltype(&::archive_entry_hardlink) entryHardlink;
+    decltype(&::archive_entry_pathname) entryPathname;
+    decltype(&::archive_entry_perm) entryPerm;
+    decltype(&::archive_entry_symlink) entrySymlink;
+    decltype(&::archive_error_string) errorString;
+    decltype(&::archive_read_data) readData;
+    decltype(&::archive_read_free) readFree;
+    decltype(&::archive_read_new) readNew;
+    decltype(&::archive_read_next_header) readNextHeader;
+    decltype(&::archive_read_open_filename) readOpenFilename;
+    decltype(&::archive_read_support_format_zip_seekable) readSupportFormatZipSeekable;
+};
+
+std::expected<Archive, QString> load()
+{
+    // The number in the library's name, which its header does not tell.
+    LazyLibrary library(u"archive"_s, 13);
+    Archive functions = {};
+    library.resolve(functions.entryFiletype, "archive_entry_filetype");
+    library.resolve(functions.entryHardlink, "archive_entry_hardlink");
+    library.resolve(functions.entryPathname, "archive_entry_pathname");
+    library.resolve(functions.entryPerm, "archive_entry_perm");
+    library.resolve(functions.entrySymlink, "archive_entry_symlink");
+    library.resolve(functions.errorString, "archive_error_string");
+    library.resolve(functions.readData, "archive_read_data");
+    library.resolve(functions.readFree, "archive_read_free");
+    library.resolve(functions.readNew, "archive_read_new");
+    library.resolve(functions.readNextHeader, "archive_read_next_header");
+    library.resolve(functions.readOpenFilename, "archive_read_open_filename");
+    library.resolve(functions.readSupportFormatZipSeekable, "archive_read_support_format_zip_seekable");
+    if (const auto state = library.state(); !state)
+        return std::unexpected(state.error());
+    return functions;
+}
+
+const std::expected<Archive, QString> &loaded()
+{
+    static const std::expected<Archive, QString> archive = load();
+    return archive;
+}
+
+/// Only once `loaded` has succeeded.
+const Archive &library()
+{
+    return *loaded();
+}
+
 using Reader =
-    std::unique_ptr<struct archive, decltype([](struct archive *each) { archive_read_free(each); })>;
+    std::unique_ptr<struct archive, decltype([](struct archive *each) { library().readFree(each); })>;
 
 /// So that a tiny archive of much the same bytes is not taken for a bomb.
 constexpr qint64 bytesBeforeRatioCounts = 1 << 20;
@@ -79,14 +131,16 @@ public:
 
     Result run(const QString &archive)
     {
-        m_reader.reset(archive_read_new());
-        archive_read_support_format_zip_seekable(m_reader.get());
-        if (archive_read_open_filename(m_reader.get(), QFile::encodeName(archive).constData(), 1 << 16) !=
+        if (!loaded())
+            return refusal(loaded().error());
+        m_reader.reset(library().readNew());
+        library().readSupportFormatZipSeekable(m_reader.get());
+        if (library().readOpenFilename(m_reader.get(), QFile::encodeName(archive).constData(), 1 << 16) !=
             ARCHIVE_OK)
             return readingFailed();
         for (;;) {
             archive_entry *entry = nullptr;
-            const int status = archive_read_next_header(m_reader.get(), &entry);
+            const int status = library().readNextHeader(m_reader.get(), &entry);
             if (status == ARCHIVE_EOF)
                 return {};
             if (status != ARCHIVE_OK)
@@ -99,13 +153,13 @@ public:
 private:
     Result readingFailed() const
     {
-        const char *const reason = archive_error_string(m_reader.get());
+        const char *const reason = library().errorString(m_reader.get());
         return refusal(reason ? QString::fromUtf8(reason) : u"The archive can't be read."_s);
     }
 
     Result take(archive_entry *entry)
     {
-        const char *const name = archive_entry_pathname(entry);
+        const char *const name = library().entryPathname(entry);
         const QStringList parts = partsOf(name);
         if (parts.isEmpty())
             return refusal(u"A name leads outside: %1"_s.arg(QString::fromUtf8(name)));
@@ -116,9 +170,9 @@ private:
             return refusal(u"A name occurs twice: %1"_s.arg(path));
         m_seen.insert(path);
 
-        const auto type = archive_entry_filetype(entry);
-        if ((type != AE_IFREG && type != AE_IFDIR) || archive_entry_symlink(entry) ||
-            archive_entry_hardlink(entry))
+        const auto type = library().entryFiletype(entry);
+        if ((type != AE_IFREG && type != AE_IFDIR) || library().entrySymlink(entry) ||
+            library().entryHardlink(entry))
             return refusal(u"Neither file nor folder: %1"_s.arg(path));
         if (parts.first() != AppBundle::name)
             return {};
@@ -126,7 +180,7 @@ private:
             return refusal(u"The folder can't be made: %1"_s.arg(path));
         if (type == AE_IFDIR)
             return {};
-        return writeFile(m_folder.filePath(path), archive_entry_perm(entry) & 0100);
+        return writeFile(m_folder.filePath(path), library().entryPerm(entry) & 0100);
     }
 
     bool makeFolder(const QStringList &parts) const
@@ -141,7 +195,7 @@ private:
         if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
             return refusal(file.errorString());
         for (;;) {
-            const la_ssize_t count = archive_read_data(m_reader.get(), m_buffer.data(), m_buffer.size());
+            const la_ssize_t count = library().readData(m_reader.get(), m_buffer.data(), m_buffer.size());
             if (count < 0)
                 return readingFailed();
             if (count == 0)

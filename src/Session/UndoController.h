@@ -57,6 +57,8 @@ public:
 
     const QString &message() const { return m_message; }
     bool messageOffersUndo() const { return m_messageOffersUndo; }
+    /// Tells how something went that is no step, such as saving a copy; a later message takes its place.
+    void tell(const QString &text) { setMessage(text, false); }
     Q_INVOKABLE void dismissMessage() { setMessage({}, false); }
 
     /// The place of the step that was undone or redone last, until its screen has shown it.

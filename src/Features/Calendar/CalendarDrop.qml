@@ -20,7 +20,6 @@ DropArea {
     CalendarInterchange {
         id: files
         session: Orvel
-        onMessage: text => toast.show(text)
         onOpened: (sheet.load() as OVSheet).open()
     }
 
@@ -47,9 +46,5 @@ DropArea {
         sourceComponent: CalendarImportSheet {
             interchange: files
         }
-    }
-
-    OVToast {
-        id: toast
     }
 }

@@ -6,12 +6,13 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QStandardPaths>
+#include <QThreadPool>
 
 CalendarInterchange::CalendarInterchange(QObject *parent) : ViewModel(parent)
 {
     follow<CalendarEvent>();
-    m_background.setMaxThreadCount(1);
     auto *const files = new FilePortal(QDBusConnection::sessionBus(), this);
     auto *const places =
         new SaveFileDialog(QDBusConnection::sessionBus(),
@@ -26,7 +27,7 @@ CalendarInterchange::CalendarInterchange(QObject *parent) : ViewModel(parent)
 
 CalendarInterchange::~CalendarInterchange()
 {
-    m_background.waitForDone();
+    m_reading.request_stop();
 }
 
 void CalendarInterchange::chooseFile()
@@ -35,32 +36,36 @@ void CalendarInterchange::chooseFile()
         if (path)
             open({QUrl::fromLocalFile(*path)});
         else if (path.error() == FilePortal::NoFile::noPortal)
-            emit message(
-                tr("This desktop has no dialog to choose a file. Drop the file on the calendar instead."));
+            tell(tr("This desktop has no dialog to choose a file. Drop the file on the calendar instead."));
     });
 }
 
 void CalendarInterchange::open(const QList<QUrl> &files)
 {
     if (files.size() != 1 || !files.first().isLocalFile()) {
-        emit message(tr("Drop one calendar file at a time."));
+        tell(tr("Drop one calendar file at a time."));
         return;
     }
+    m_reading.request_stop();
+    m_reading = std::stop_source();
     const QString path = files.first().toLocalFile();
-    const ICalendarReader::Options options{.zone = clock().timeZone(), .now = clock().now()};
-    m_background.start([this, path, options, count = ++m_count] {
-        QMetaObject::invokeMethod(this,
-                                  [this, path, count, contents = ICalendarReader::readFile(path, options)] {
-                                      if (count == m_count)
-                                          take(QFileInfo(path).fileName(), contents);
-                                  });
+    const ICalendarReader::Options options{
+        .zone = clock().timeZone(), .now = clock().now(), .stop = m_reading.get_token()};
+    QThreadPool::globalInstance()->start([path, options, self = QPointer(this)] {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [self, path, stop = options.stop, contents = ICalendarReader::readFile(path, options)] {
+                if (self && !stop.stop_requested())
+                    self->take(QFileInfo(path).fileName(), contents);
+            },
+            Qt::QueuedConnection);
     });
 }
 
 void CalendarInterchange::take(const QString &fileName, Contents contents)
 {
     if (!contents) {
-        emit message(contents.error());
+        tell(contents.error());
         return;
     }
     m_fileName = fileName;
@@ -100,15 +105,25 @@ void CalendarInterchange::saveTo(const SaveFileDialog::Answer &place)
         return AtomicFile::write(path, ICalendarWriter::write(events, tasks, zone, now),
                                  AtomicFile::Access::umask);
     };
-    m_background.start([this, place, write] {
-        QMetaObject::invokeMethod(this, [this, place, written = write()] {
-            const QFileInfo file(place.path);
-            if (!written)
-                emit message(tr("The calendar could not be saved: %1").arg(written.error()));
-            else if (place.wasAsked)
-                emit message(tr("Saved as “%1”.").arg(file.fileName()));
-            else
-                emit message(tr("Saved in “%1” as “%2”.").arg(file.dir().dirName(), file.fileName()));
-        });
+    // The user may leave the calendar meanwhile, and is told all the same.
+    QThreadPool::globalInstance()->start([place, write, session = QPointer(session())] {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [place, session, written = write()] {
+                if (session)
+                    session->undo()->tell(savedText(place, written));
+            },
+            Qt::QueuedConnection);
     });
+}
+
+QString CalendarInterchange::savedText(const SaveFileDialog::Answer &place,
+                                       const std::expected<void, QString> &written)
+{
+    const QFileInfo file(place.path);
+    if (!written)
+        return tr("The calendar could not be saved: %1").arg(written.error());
+    if (place.wasAsked)
+        return tr("Saved as “%1”.").arg(file.fileName());
+    return tr("Saved in “%1” as “%2”.").arg(file.dir().dirName(), file.fileName());
 }

@@ -4,8 +4,9 @@
 #include "Session/SaveFileDialog.h"
 #include "Session/ViewModel.h"
 
-#include <QThreadPool>
 #include <QUrl>
+
+#include <stop_token>
 
 /// Events from calendar files and into them. A file that was read is shown before anything of it is added.
 class CalendarInterchange : public ViewModel
@@ -43,7 +44,7 @@ public:
 
     /// Lets the user choose a file and reads it.
     Q_INVOKABLE void chooseFile();
-    /// Reads the one file of these; `opened` or `message` follows.
+    /// Reads the one file of these; `opened` follows, or a message of the window that says why not.
     Q_INVOKABLE void open(const QList<QUrl> &files);
     /// Adds the new events in one step.
     Q_INVOKABLE void addEvents();
@@ -54,8 +55,6 @@ signals:
     /// A file was read and can be looked at.
     void opened();
     void previewChanged();
-    /// A sentence on how it went.
-    void message(const QString &text);
 
 protected:
     void refresh(const ChangeSet &changes) override;
@@ -64,7 +63,10 @@ private:
     using Contents = std::expected<ICalendarContents, QString>;
 
     void take(const QString &fileName, Contents contents);
+    void tell(const QString &text) const { session()->undo()->tell(text); }
     void saveTo(const SaveFileDialog::Answer &place);
+    static QString savedText(const SaveFileDialog::Answer &place,
+                             const std::expected<void, QString> &written);
     bool isKnown(const CalendarEvent &event) const
     {
         return store().list<CalendarEvent>().first(event.id) != nullptr;
@@ -74,7 +76,6 @@ private:
     QString m_fileName;
     ICalendarContents m_contents;
     int m_knownCount = 0;
-    /// Counts what was begun, so that only the last of it is shown.
-    int m_count = 0;
-    QThreadPool m_background;
+    /// Ends the reading of a file that nobody waits for any more.
+    std::stop_source m_reading;
 };

@@ -3,6 +3,8 @@
 #include "Foundation/LineText.h"
 #include "Support/OVDate.h"
 
+#include <array>
+
 using namespace ICalendarFormat;
 
 namespace
@@ -10,34 +12,10 @@ namespace
 constexpr int maxDays = 366;
 /// Characters of all events together.
 constexpr qsizetype maxTextLength = 8 * 1024 * 1024;
-/// An event that repeats within the hour fills thousands of days with itself.
-constexpr auto mostOften = ICAL_DAILY_RECURRENCE;
-
-QString textOf(icalcomponent *component, icalproperty_kind kind)
-{
-    icalproperty *const property = icalcomponent_get_first_property(component, kind);
-    const char *const text = property ? icalproperty_get_value_as_string(property) : nullptr;
-    if (!text)
-        return {};
-    const icalvalue *const value = icalproperty_get_value(property);
-    const char *const plain = icalvalue_isa(value) == ICAL_TEXT_VALUE ? icalvalue_get_text(value) : text;
-    return QString::fromUtf8(plain);
-}
 
 qsizetype count(icalcomponent *component, icalproperty_kind kind)
 {
     return icalcomponent_count_properties(component, kind);
-}
-
-icalproperty *first(icalcomponent *component, icalproperty_kind kind)
-{
-    return icalcomponent_get_first_property(component, kind);
-}
-
-/// The date and time as they are written.
-QString keyOf(const icaltimetype &time)
-{
-    return QString::fromLatin1(icaltime_as_ical_string(time));
 }
 
 QUuid idOf(const QString &uid)
@@ -46,16 +24,37 @@ QUuid idOf(const QString &uid)
     return QUuid::createUuidV5(space, uid);
 }
 
-EventKind kindOf(icalcomponent *component)
+QStringList categoriesOf(icalcomponent *component)
 {
+    QStringList categories;
     for (icalproperty *property = first(component, ICAL_CATEGORIES_PROPERTY); property;
          property = icalcomponent_get_next_property(component, ICAL_CATEGORIES_PROPERTY)) {
         const QString names = QString::fromUtf8(icalproperty_get_categories(property));
         for (const QString &name : names.split(u','))
-            if (const auto kind = enumFromRaw<EventKind>(name.trimmed().toLower()))
-                return *kind;
+            categories.append(name.trimmed().toLower());
     }
+    return categories;
+}
+
+EventKind kindOf(icalcomponent *component)
+{
+    for (const QString &category : categoriesOf(component))
+        if (const auto kind = enumFromRaw<EventKind>(category))
+            return *kind;
     return EventKind::event;
+}
+
+/// Whether it says more of itself than an event of this program can hold.
+bool hasDetails(icalcomponent *component)
+{
+    constexpr std::array kinds{ICAL_ORGANIZER_PROPERTY, ICAL_COMMENT_PROPERTY,   ICAL_CONTACT_PROPERTY,
+                               ICAL_GEO_PROPERTY,       ICAL_RESOURCES_PROPERTY, ICAL_COLOR_PROPERTY,
+                               ICAL_CONFERENCE_PROPERTY};
+    const QStringList categories = categoriesOf(component);
+    return std::ranges::any_of(kinds, [&](auto kind) { return count(component, kind) > 0; }) ||
+           std::ranges::any_of(categories, [](const QString &category) {
+               return !category.isEmpty() && !enumFromRaw<EventKind>(category);
+           });
 }
 
 QString notesOf(icalcomponent *component)
@@ -84,11 +83,12 @@ std::optional<Timestamp> keptMoment(icalcomponent *component)
 }
 } // namespace
 
-ICalendarEvents::ICalendarEvents(const ICalendarReader::Options &options, const QDeadlineTimer &deadline)
+ICalendarEvents::ICalendarEvents(const ICalendarReader::Options &options, const ReadingLimit &limit)
     : m_options(options),
-      m_deadline(deadline),
+      m_limit(limit),
       m_first(OVDate::day(options.now, options.zone).addYears(-2)),
-      m_last(OVDate::day(options.now, options.zone).addYears(2))
+      m_last(OVDate::day(options.now, options.zone).addYears(2)),
+      m_series({m_first, m_last, options.zone}, m_zones, limit)
 {
 }
 
@@ -101,29 +101,23 @@ bool ICalendarEvents::add(icalcomponent *calendar)
                 return false;
         return true;
     };
-    each([this](icalcomponent *component) {
-        noteReplaced(component);
-        return true;
+    m_zones.setCalendar(calendar);
+    const bool isNoted = each([this](icalcomponent *component) {
+        m_series.noteReplaced(component);
+        return !m_limit.isReached();
     });
-    return each([this](icalcomponent *component) {
-        const auto kind = icalcomponent_isa(component);
-        if (kind == ICAL_VEVENT_COMPONENT)
-            return addEvent(component);
-        losses.otherKinds += kind == ICAL_VTODO_COMPONENT || kind == ICAL_VJOURNAL_COMPONENT ? 1 : 0;
-        return true;
-    });
-}
-
-void ICalendarEvents::noteReplaced(icalcomponent *component)
-{
-    if (icalproperty *const replaced = first(component, ICAL_RECURRENCEID_PROPERTY))
-        m_replaced.insert(textOf(component, ICAL_UID_PROPERTY) + u'/' +
-                          keyOf(icalproperty_get_recurrenceid(replaced)));
+    return isNoted && each([this](icalcomponent *component) {
+               const auto kind = icalcomponent_isa(component);
+               if (kind == ICAL_VEVENT_COMPONENT)
+                   return addEvent(component);
+               losses.otherKinds += kind == ICAL_VTODO_COMPONENT || kind == ICAL_VJOURNAL_COMPONENT ? 1 : 0;
+               return true;
+           });
 }
 
 bool ICalendarEvents::addEvent(icalcomponent *component)
 {
-    if (m_deadline.hasExpired())
+    if (m_limit.isReached())
         return false;
     if (icalcomponent_get_status(component) == ICAL_STATUS_CANCELLED) {
         ++losses.cancelled;
@@ -147,10 +141,13 @@ std::optional<ICalendarEvents::Source> ICalendarEvents::read(icalcomponent *comp
     icalproperty *const start = first(component, ICAL_DTSTART_PROPERTY);
     if (!start)
         return std::nullopt;
-    Source source{.component = component, .start = icalproperty_get_dtstart(start)};
+    Source source;
+    source.component = component;
+    source.start = icalproperty_get_dtstart(start);
     if (!isReadable(source.start))
         return std::nullopt;
-    source.zone = zoneOf(start, source.start);
+    source.zone = m_zones.of(start, source.start);
+    losses.unknownZones += ICalendarZones::isNamed(start, source.start) && !source.zone.isValid() ? 1 : 0;
     CalendarEvent &event = source.event;
     event.title = LineText::singleLine(textOf(component, ICAL_SUMMARY_PROPERTY)).trimmed();
     if (event.title.isEmpty())
@@ -192,111 +189,44 @@ void ICalendarEvents::countLosses(const Source &source)
     losses.alarms += icalcomponent_count_components(component, ICAL_VALARM_COMPONENT);
     losses.guests += count(component, ICAL_ATTENDEE_PROPERTY);
     losses.attachments += count(component, ICAL_ATTACH_PROPERTY);
+    losses.details += hasDetails(component) ? 1 : 0;
+    icalproperty *const replaced = first(component, ICAL_RECURRENCEID_PROPERTY);
+    losses.changedRests +=
+        replaced && icalproperty_get_first_parameter(replaced, ICAL_RANGE_PARAMETER) ? 1 : 0;
     losses.severalDays += source.days > 1 ? 1 : 0;
 }
 
 bool ICalendarEvents::addSeries(const Source &source)
 {
     ++series;
-    QList<icaltimetype> starts{source.start};
-    for (icalproperty *rule = first(source.component, ICAL_RRULE_PROPERTY); rule;
-         rule = icalcomponent_get_next_property(source.component, ICAL_RRULE_PROPERTY)) {
-        const auto repeats = repeated(source, rule);
-        if (!repeats)
-            return false;
-        starts.append(*repeats);
-        if (starts.size() > ICalendarReader::maxEvents)
-            return false;
-    }
-    for (icalproperty *date = first(source.component, ICAL_RDATE_PROPERTY); date;
-         date = icalcomponent_get_next_property(source.component, ICAL_RDATE_PROPERTY)) {
-        const icaldatetimeperiodtype more = icalproperty_get_rdate(date);
-        const icaltimetype start = icaltime_is_null_time(more.time) ? more.period.start : more.time;
-        if (isReadable(start))
-            starts.append(inZoneOf(source, start));
-    }
-    QSet<QString> done = exceptions(source);
+    const auto starts = m_series.startsOf(source);
+    if (!starts)
+        return false;
     const qsizetype before = events.size();
-    for (const icaltimetype &start : std::as_const(starts)) {
-        if (m_deadline.hasExpired())
-            return false;
-        const QString key = keyOf(start);
+    bool isLongAgo = false;
+    bool isFarAway = false;
+    for (const icaltimetype &start : *starts) {
         const QDate day = written(start, m_options.zone).date();
-        if (day < m_first || day > m_last || done.contains(key) || done.contains(key.first(8)) ||
-            m_replaced.contains(source.uid + u'/' + key))
-            continue;
-        done.insert(key);
-        if (!addOn(source, start, u'/' + key))
+        isLongAgo = isLongAgo || day < m_first;
+        isFarAway = isFarAway || day > m_last;
+        if (day >= m_first && day <= m_last && !addOn(source, start, u'/' + keyOf(start)))
             return false;
     }
+    losses.longAgo += isLongAgo ? 1 : 0;
+    losses.farAway += isFarAway ? 1 : 0;
     occurrences += events.size() - before;
     return true;
-}
-
-std::optional<QList<icaltimetype>> ICalendarEvents::repeated(const Source &source, icalproperty *property)
-{
-    if (m_deadline.hasExpired())
-        return std::nullopt;
-    QList<icaltimetype> starts;
-    icalrecurrencetype rule = icalproperty_get_rrule(property);
-    if (rule.freq < mostOften || rule.freq > ICAL_YEARLY_RECURRENCE) {
-        ++losses.tooOften;
-        return starts;
-    }
-    if (!icaltime_is_null_time(rule.until))
-        rule.until = inZoneOf(source, rule.until);
-    const Repetition repetition(icalrecur_iterator_new(rule, source.start));
-    if (!repetition) {
-        ++losses.tooOften;
-        return starts;
-    }
-    const icaltimetype from = dateOf(m_first);
-    if (rule.count == 0 && icaltime_compare_date_only(source.start, from) < 0) {
-        icaltimetype jump = source.start;
-        jump.year = from.year;
-        jump.month = from.month;
-        jump.day = from.day;
-        icalrecur_iterator_set_start(repetition.get(), jump);
-    }
-    const icaltimetype end = dateOf(m_last);
-    for (;;) {
-        if (m_deadline.hasExpired() || starts.size() > ICalendarReader::maxEvents)
-            return std::nullopt;
-        const icaltimetype next = icalrecur_iterator_next(repetition.get());
-        if (icaltime_is_null_time(next))
-            return starts;
-        if (icaltime_compare_date_only(next, end) > 0) {
-            ++losses.farAway;
-            return starts;
-        }
-        if (icaltime_compare_date_only(next, from) >= 0)
-            starts.append(next);
-    }
-}
-
-QSet<QString> ICalendarEvents::exceptions(const Source &source)
-{
-    QSet<QString> keys;
-    for (icalproperty *date = first(source.component, ICAL_EXDATE_PROPERTY); date;
-         date = icalcomponent_get_next_property(source.component, ICAL_EXDATE_PROPERTY)) {
-        const icaltimetype time = icalproperty_get_exdate(date);
-        if (isReadable(time))
-            keys.insert(keyOf(inZoneOf(source, time)));
-    }
-    return keys;
 }
 
 bool ICalendarEvents::addOn(const Source &source, const icaltimetype &start, const QString &key)
 {
     const bool isDate = start.is_date;
-    QDateTime moment = written(start, source.zone.isValid() ? source.zone : m_options.zone);
-    if (!isDate)
-        moment = moment.toTimeZone(m_options.zone);
+    const QDateTime moment = source.zone.moment(start, m_options.zone);
     for (int i = 0; i < source.days; ++i) {
         // Each day gets a copy of the texts: a small file must not become a huge workspace.
         m_textLength += source.event.title.size() + source.event.notes.size();
         hasTooMuchText = m_textLength > maxTextLength;
-        if (events.size() >= ICalendarReader::maxEvents || hasTooMuchText || m_deadline.hasExpired())
+        if (events.size() >= ICalendarReader::maxEvents || hasTooMuchText || m_limit.isReached())
             return false;
         CalendarEvent event = source.event;
         const QUuid own = key.isEmpty() && i == 0 ? QUuid::fromString(source.uid) : QUuid();
@@ -315,44 +245,4 @@ bool ICalendarEvents::addOn(const Source &source, const icaltimetype &start, con
         events.append(std::move(event));
     }
     return true;
-}
-
-QTimeZone ICalendarEvents::zoneOf(icalproperty *property, const icaltimetype &time)
-{
-    if (time.is_date)
-        return {};
-    if (icaltime_is_utc(time))
-        return QTimeZone::utc();
-    const icalparameter *const parameter = icalproperty_get_first_parameter(property, ICAL_TZID_PARAMETER);
-    if (!parameter)
-        return {};
-    const QByteArray id = icalparameter_get_tzid(parameter);
-    auto found = m_zones.find(id);
-    if (found == m_zones.end()) {
-        // Some programs put words of their own before the name. Any word makes a time zone by itself.
-        const QList<QByteArray> parts = id.split('/');
-        const QByteArray last =
-            parts.size() > 2 ? parts.at(parts.size() - 2) + '/' + parts.last() : QByteArray();
-        QTimeZone zone;
-        for (const QByteArray &name : {id, QTimeZone::windowsIdToDefaultIanaId(id), last})
-            if (!zone.isValid() && QTimeZone::isTimeZoneIdAvailable(name))
-                zone = QTimeZone(name);
-        found = m_zones.insert(id, zone);
-    }
-    if (!found->isValid())
-        ++losses.unknownZones;
-    return *found;
-}
-
-/// The time as it is written in the zone of the event, if it is told in UTC.
-icaltimetype ICalendarEvents::inZoneOf(const Source &source, const icaltimetype &time) const
-{
-    if (time.is_date || !icaltime_is_utc(time) || icaltime_is_utc(source.start) || !isReadable(time))
-        return time;
-    const QTimeZone zone = source.zone.isValid() ? source.zone : m_options.zone;
-    icaltimetype there =
-        utcOf(QDateTime(written(time, QTimeZone::utc()).toTimeZone(zone).date(),
-                        written(time, QTimeZone::utc()).toTimeZone(zone).time(), QTimeZone::utc()));
-    there.zone = nullptr;
-    return there;
 }

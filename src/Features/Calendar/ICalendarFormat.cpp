@@ -35,3 +35,24 @@ bool ICalendarFormat::isReadable(const icaltimetype &time)
     return time.year >= 1 && time.year <= 9999 && QDate::isValid(time.year, time.month, time.day) &&
            (time.is_date || QTime::isValid(time.hour, time.minute, 0));
 }
+
+QString ICalendarFormat::keyOf(const icaltimetype &time)
+{
+    return QString::fromLatin1(icaltime_as_ical_string(time));
+}
+
+icalproperty *ICalendarFormat::first(icalcomponent *component, icalproperty_kind kind)
+{
+    return icalcomponent_get_first_property(component, kind);
+}
+
+QString ICalendarFormat::textOf(icalcomponent *component, icalproperty_kind kind)
+{
+    icalproperty *const property = first(component, kind);
+    const char *const text = property ? icalproperty_get_value_as_string(property) : nullptr;
+    if (!text)
+        return {};
+    const icalvalue *const value = icalproperty_get_value(property);
+    const char *const plain = icalvalue_isa(value) == ICAL_TEXT_VALUE ? icalvalue_get_text(value) : text;
+    return QString::fromUtf8(plain);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QTimeZone>
 
 #include <libical/ical.h>
@@ -27,4 +28,9 @@ icaltimetype utcOf(const QDateTime &moment);
 /// The date and time as they are written, whatever the time zone; invalid for no date.
 QDateTime written(const icaltimetype &time, const QTimeZone &zone);
 bool isReadable(const icaltimetype &time);
+/// The date and time as they are written.
+QString keyOf(const icaltimetype &time);
+icalproperty *first(icalcomponent *component, icalproperty_kind kind);
+/// The text of the first property of this kind; empty for none.
+QString textOf(icalcomponent *component, icalproperty_kind kind);
 } // namespace ICalendarFormat

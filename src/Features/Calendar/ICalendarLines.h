@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Features/Calendar/ICalendarFormat.h"
+#include "Features/Calendar/ReadingLimit.h"
 
 #include <QByteArray>
-#include <QDeadlineTimer>
 
 #include <expected>
 
@@ -19,5 +19,5 @@ struct Calendars {
     qsizetype longLines = 0;
 };
 
-std::expected<Calendars, Failure> parse(const QByteArray &bytes, const QDeadlineTimer &deadline);
+std::expected<Calendars, Failure> parse(const QByteArray &bytes, const ReadingLimit &limit);
 } // namespace ICalendarLines

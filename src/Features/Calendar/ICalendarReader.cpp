@@ -30,9 +30,10 @@ QString sentence(ICalendarLines::Failure failure)
     return {};
 }
 
-QStringList sentences(const ICalendarEvents::Losses &losses, qsizetype longLines)
+QStringList sentences(const ICalendarEvents &events, qsizetype longLines)
 {
     QStringList sentences;
+    const ICalendarEvents::Losses &losses = events.losses;
     const auto tell = [&sentences](qsizetype count, const QString &text) {
         if (count > 0)
             sentences.append(text.arg(count));
@@ -42,8 +43,11 @@ QStringList sentences(const ICalendarEvents::Losses &losses, qsizetype longLines
     tell(losses.alarms, Texts::tr("Alarms are not kept (%1)"));
     tell(losses.guests, Texts::tr("Guests are not kept (%1)"));
     tell(losses.attachments + longLines, Texts::tr("Attachments and very long texts are not kept (%1)"));
+    tell(losses.details, Texts::tr("Categories, organizers and other details are not kept (%1)"));
+    tell(losses.longAgo, Texts::tr("Repeating events begin two years before today (%1)"));
     tell(losses.farAway, Texts::tr("Repeating events go on for two years from today (%1)"));
-    tell(losses.tooOften,
+    tell(losses.changedRests, Texts::tr("Changes to the rest of a series are made to one day only (%1)"));
+    tell(events.oddRules(),
          Texts::tr("Events that repeat within a day, or by a damaged rule, stand once (%1)"));
     tell(losses.unknownZones, Texts::tr("Times in an unknown time zone stay as they are written (%1)"));
     tell(losses.cancelled, Texts::tr("Cancelled events are left out (%1)"));
@@ -52,14 +56,29 @@ QStringList sentences(const ICalendarEvents::Losses &losses, qsizetype longLines
     return sentences;
 }
 
+bool isUtf8(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(bytes);
+    return !decoder.hasError();
+}
+
+/// The lines as they were before they were folded, which some programs do within a letter.
+QByteArray unfolded(QByteArray bytes)
+{
+    for (const char *end : {"\r\n ", "\r\n\t", "\n ", "\n\t"})
+        bytes.replace(end, "");
+    return bytes;
+}
+
 /// The bytes as UTF-8; old programs write in Latin-1.
 QByteArray asUtf8(QByteArray bytes)
 {
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString text = decoder(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes).toUtf8() : bytes;
+    if (isUtf8(bytes) || isUtf8(unfolded(bytes)))
+        return bytes;
+    return QString::fromLatin1(bytes).toUtf8();
 }
 } // namespace
 
@@ -78,13 +97,13 @@ std::expected<ICalendarContents, QString> ICalendarReader::readFile(const QStrin
 
 std::expected<ICalendarContents, QString> ICalendarReader::read(QByteArray bytes, const Options &options)
 {
-    const QDeadlineTimer deadline(options.maxTime);
+    const ReadingLimit limit(options.maxWork, options.stop);
     if (bytes.contains('\0'))
         return std::unexpected(sentence(ICalendarLines::Failure::notACalendar));
-    const auto calendars = ICalendarLines::parse(asUtf8(std::move(bytes)), deadline);
+    const auto calendars = ICalendarLines::parse(asUtf8(std::move(bytes)), limit);
     if (!calendars)
         return std::unexpected(sentence(calendars.error()));
-    ICalendarEvents reader(options, deadline);
+    ICalendarEvents reader(options, limit);
     icalcomponent *const root = calendars->root.get();
     for (auto it = icalcomponent_begin_component(root, ICAL_VCALENDAR_COMPONENT); icalcompiter_deref(&it);
          icalcompiter_next(&it)) {
@@ -96,6 +115,6 @@ std::expected<ICalendarContents, QString> ICalendarReader::read(QByteArray bytes
             return std::unexpected(tr("The texts of this calendar file are too long."));
         return std::unexpected(sentence(ICalendarLines::Failure::tooSlow));
     }
-    return ICalendarContents{std::move(reader.events), reader.series, reader.occurrences,
-                             sentences(reader.losses, calendars->longLines)};
+    return ICalendarContents{reader.events, reader.series, reader.occurrences,
+                             sentences(reader, calendars->longLines)};
 }

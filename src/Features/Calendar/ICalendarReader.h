@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <expected>
+#include <stop_token>
 
 /// What an iCalendar file comes to in this program.
 struct ICalendarContents {
@@ -33,8 +34,10 @@ public:
     struct Options {
         QTimeZone zone;
         Timestamp now;
-        /// Reading ends with an error after this time.
-        std::chrono::milliseconds maxTime{900};
+        /// Reading ends with an error after this much work of its own.
+        std::chrono::milliseconds maxWork{900};
+        /// Ends the reading when nobody waits for it any more.
+        std::stop_token stop = {};
     };
     static constexpr qint64 maxBytes = 16 * 1024 * 1024;
     static constexpr qsizetype maxEvents = 50'000;

@@ -163,6 +163,43 @@ void ICalendarTest::reads_data()
                       "END:VEVENT\nBEGIN:VEVENT\nUID:a\nSUMMARY:Moved\nDTSTART:20260319T100000\n"
                       "RECURRENCE-ID:20260317T090000\nEND:VEVENT\n")
         << u"2026-03-16 09:00 Meet, 2026-03-19 10:00 Moved"_s;
+    row("until a day, which counts", "DTSTART:20260316T090000\nRRULE:FREQ=DAILY;UNTIL=20260317\n",
+        u"2026-03-16 09:00 Meet, 2026-03-17 09:00 Meet"_s);
+    row("exceptions in a list, of another zone and of a day",
+        "DTSTART;TZID=Europe/Berlin:20260316T090000\nRRULE:FREQ=DAILY;COUNT=5\n"
+        "EXDATE;TZID=America/New_York:20260316T040000,20260318T040000\nEXDATE;VALUE=DATE:20260319\n",
+        u"2026-03-17 09:00 Meet, 2026-03-20 09:00 Meet"_s);
+    row("a rule of exceptions",
+        "DTSTART:20260316T090000\nRRULE:FREQ=DAILY;COUNT=4\nEXRULE:FREQ=DAILY;INTERVAL=2\n",
+        u"2026-03-17 09:00 Meet, 2026-03-19 09:00 Meet"_s);
+    row("periods as further dates",
+        "DTSTART;TZID=Europe/Berlin:20260316T090000\nDURATION:PT1H\n"
+        "RDATE;VALUE=PERIOD:20260318T110000Z/PT2H,20260320T110000Z/PT2H\n",
+        u"2026-03-16 09:00 Meet, 2026-03-18 12:00 Meet, 2026-03-20 12:00 Meet"_s);
+    // "Home" is five hours behind in winter and four in summer, which begins on 2026-03-08.
+    const QByteArray home = "BEGIN:VTIMEZONE\nTZID:Home\nBEGIN:STANDARD\nDTSTART:16011101T020000\n"
+                            "RRULE:FREQ=YEARLY;BYDAY=1SU;BYMONTH=11\nTZOFFSETFROM:-0400\n"
+                            "TZOFFSETTO:-0500\nEND:STANDARD\nBEGIN:DAYLIGHT\nDTSTART:16010311T020000\n"
+                            "RRULE:FREQ=YEARLY;BYDAY=2SU;BYMONTH=3\nTZOFFSETFROM:-0500\n"
+                            "TZOFFSETTO:-0400\nEND:DAYLIGHT\nEND:VTIMEZONE\n";
+    QTest::newRow("a time zone that only the file knows")
+        << calendarOf(home + "BEGIN:VEVENT\nUID:a\nSUMMARY:Meet\nDTSTART;TZID=Home:20260306T090000\n"
+                             "RRULE:FREQ=DAILY;UNTIL=20260309T130000Z\nEXDATE:20260308T130000Z\n"
+                             "RDATE:20260311T130000Z\nEND:VEVENT\n")
+        << u"2026-03-06 15:00 Meet, 2026-03-07 15:00 Meet, 2026-03-09 14:00 Meet, 2026-03-11 14:00 Meet"_s;
+    for (const QByteArray &moved : {QByteArray(":20260317T080000Z"), QByteArray(";VALUE=DATE:20260317"),
+                                    QByteArray(";TZID=Asia/Tokyo:20260317T170000")})
+        QTest::newRow(("one that was moved, told as" + moved).constData())
+            << calendarOf("BEGIN:VEVENT\nUID:a\nSUMMARY:Moved\nDTSTART:20260319T100000\nRECURRENCE-ID" +
+                          moved +
+                          "\nEND:VEVENT\nBEGIN:VEVENT\nUID:a\nSUMMARY:Meet\n"
+                          "DTSTART;TZID=Europe/Berlin:20260316T090000\nRRULE:FREQ=DAILY;COUNT=2\n"
+                          "END:VEVENT\n")
+            << u"2026-03-19 10:00 Moved, 2026-03-16 09:00 Meet"_s;
+    QTest::newRow("folded within a letter")
+        << calendarOf("BEGIN:VEVENT\r\nUID:a\r\nSUMMARY:Caf\xC3\r\n \xA9\r\n"
+                      "DTSTART;VALUE=DATE:20260316\r\nEND:VEVENT\r\n")
+        << u"2026-03-16 Café"_s;
     QTest::newRow("folded and escaped")
         << calendarOf("BEGIN:VEVENT\r\nUID:a\r\nSUMMARY:A lo\r\n ng\\, folded\\; one\r\n"
                       "DTSTART;VALUE=DATE:20260316\r\nEND:VEVENT\r\n")
@@ -203,6 +240,12 @@ void ICalendarTest::tellsWhatIsLost_data()
     row("zone", "DTSTART;TZID=Home:20260316T090000\n", meet,
         u"Times in an unknown time zone stay as they are written (1)"_s);
     row("cancelled", start + "STATUS:CANCELLED\n", {}, u"Cancelled events are left out (1)"_s);
+    row("other categories", start + "CATEGORIES:Work,Deadline\n", meet,
+        u"Categories, organizers and other details are not kept (1)"_s);
+    row("ended long ago", "DTSTART:20200316T090000\nRRULE:FREQ=DAILY;COUNT=3\n", {},
+        u"Repeating events begin two years before today (1)"_s);
+    row("from here on", start + "RECURRENCE-ID;RANGE=THISANDFUTURE:20260316T080000\n", meet,
+        u"Changes to the rest of a series are made to one day only (1)"_s);
     row("no date", {}, {}, u"Events without a readable date are left out (1)"_s);
     row("impossible date", "DTSTART:20261399T990000\n", {},
         u"Events without a readable date are left out (1)"_s);
@@ -245,6 +288,10 @@ void ICalendarTest::endsSoon_data()
     QTest::newRow("from the year 1") << eventOf("DTSTART:00010101T000000\nRRULE:FREQ=DAILY;COUNT=2000000\n");
     QTest::newRow("never") << eventOf(start + "RRULE:FREQ=DAILY;BYMONTH=2;BYMONTHDAY=30\n");
     QTest::newRow("never a year") << eventOf(start + "RRULE:FREQ=YEARLY;BYMONTH=2;BYMONTHDAY=31\n");
+    QTest::newRow("a time zone that changes each second")
+        << calendarOf("BEGIN:VTIMEZONE\nTZID:Home\nBEGIN:STANDARD\nDTSTART:16010101T000000\n"
+                      "RRULE:FREQ=SECONDLY\nTZOFFSETFROM:-0400\nTZOFFSETTO:-0500\nEND:STANDARD\n"
+                      "END:VTIMEZONE\nBEGIN:VEVENT\nDTSTART;TZID=Home:20260316T090000\nEND:VEVENT\n");
     QTest::newRow("many series") << calendarOf(
         ("BEGIN:VEVENT\n" + start + "RRULE:FREQ=DAILY\nEND:VEVENT\n").repeated(20'000));
     QTest::newRow("many dates") << eventOf(start + "RDATE:" + QByteArray("20260316T090000,").repeated(3'800) +

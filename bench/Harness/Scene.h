@@ -8,6 +8,8 @@
 #include <QQuickRenderControl>
 #include <QQuickWindow>
 
+#include <optional>
+
 /// A screen over a workspace, in a window that is never drawn.
 class Scene
 {
@@ -31,6 +33,36 @@ public:
             m_screen.reset(qobject_cast<QQuickItem *>(component.create()));
             m_screen->setParentItem(m_window.contentItem());
             m_screen->setSize({1240, 820});
+            settle();
+        });
+    }
+
+    void close() { m_screen.reset(); }
+
+    /// Changes the settings, as another place of the window would, to the moment when the theme is
+    /// everywhere.
+    Comparison::Duration change(void (*edit)(AppSettings &))
+    {
+        return timed([&] {
+            m_desk.store->changeSettings(edit);
+            OVTheme::apply(m_desk.store->settings());
+            settle();
+        });
+    }
+
+    /// A click in the middle of what has this text; nothing for what is not there.
+    std::optional<Comparison::Duration> click(const QString &text)
+    {
+        const QQuickItem *const item = withText(m_screen.get(), text);
+        if (!item)
+            return std::nullopt;
+        const QPointF place = item->mapToScene({item->width() / 2, item->height() / 2});
+        return timed([&] {
+            for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+                QMouseEvent event(type, place, place, Qt::LeftButton, buttons, Qt::NoModifier);
+                QCoreApplication::sendEvent(&m_window, &event);
+            }
             settle();
         });
     }
@@ -59,6 +91,19 @@ protected:
     }
 
 private:
+    static const QQuickItem *withText(const QQuickItem *from, const QString &text)
+    {
+        for (const QQuickItem *child : from->childItems()) {
+            if (!child->isVisible())
+                continue;
+            if (child->property("text").toString() == text)
+                return child;
+            if (const QQuickItem *const found = withText(child, text))
+                return found;
+        }
+        return nullptr;
+    }
+
     Desk m_desk;
     QByteArray m_source;
     QQmlEngine m_engine;

@@ -183,6 +183,45 @@ Snapshot WorkspaceGenerator::ofFileSize(qsizetype bytes)
     return workspace;
 }
 
+Snapshot WorkspaceGenerator::ofBusyYears()
+{
+    Snapshot workspace = ofFileSize(10'000'000);
+    Generator generator;
+    std::mt19937 random(11);
+    const QDateTime noon(QDate::currentDate(), {12, 0});
+    const auto moment = [&] {
+        const int days = random() % 10 == 0 ? 45 : 730;
+        return toTimestamp(noon.addDays(int(random() % unsigned(2 * days)) - days));
+    };
+    auto &projects = workspace.list<Project>();
+    auto &tasks = workspace.list<TaskItem>();
+    auto &events = workspace.list<CalendarEvent>();
+    while (projects.size() < 200)
+        projects.append({.id = QUuid::createUuid(),
+                         .name = QStringLiteral("Project %1").arg(projects.size()),
+                         .icon = QStringLiteral("🎯"),
+                         .details = QStringLiteral("Everything about it, in a line or two."),
+                         .status = ProjectStatus::inProgress});
+    while (tasks.size() < 10'000)
+        tasks.append(generator.task());
+    while (events.size() < 10'000)
+        events.append({.id = QUuid::createUuid(),
+                       .title = QStringLiteral("Review the draft %1").arg(events.size()),
+                       .kind = enumCases<EventKind>().at(random() % 3).value,
+                       .createdDate = moment()});
+    for (qsizetype i = 0; i < tasks.size(); ++i) {
+        tasks[i].projectID = projects.at(i % projects.size()).id;
+        if (i % 2 == 0)
+            tasks[i].dueDate = moment();
+    }
+    for (CalendarEvent &event : events) {
+        event.date = moment();
+        if (random() % 3 > 0)
+            event.timeMinutes = random() % 1440;
+    }
+    return workspace;
+}
+
 Snapshot WorkspaceGenerator::ofTasksAndPages(int tasks, int pages)
 {
     Generator generator;

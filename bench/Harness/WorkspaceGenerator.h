@@ -11,6 +11,10 @@ namespace WorkspaceGenerator
 /// A mix of all kinds of records whose file has about this many bytes.
 Snapshot ofFileSize(qsizetype bytes);
 
+/// The mix in 10 MB, and 10,000 tasks, 10,000 events and 200 projects: a tenth of the tasks and events fall
+/// on the weeks around today, the others within some years.
+Snapshot ofBusyYears();
+
 /// Nothing but these.
 Snapshot ofTasksAndPages(int tasks, int pages);
 

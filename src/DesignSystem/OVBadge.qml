@@ -10,6 +10,7 @@ Rectangle {
     property int tone: OVBadge.Neutral
     property string text
     property string symbol
+    property alias capitalization: content.capitalization
 
     readonly property OVToneColors colors: OVToneColors { tone: root.tone }
 

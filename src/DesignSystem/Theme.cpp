@@ -7,6 +7,8 @@
 
 #include <QQmlEngine>
 
+#include <utility>
+
 Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
 {
     if (!engine->imageProvider(OVIconProvider::name))
@@ -18,10 +20,24 @@ Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
     return new Theme(nullptr);
 }
 
-Theme::Theme(QObject *parent) : ThemeSizes(parent)
+Theme::Theme(QObject *parent) : ThemeSizes(parent), m_shown(snapshot())
 {
-    connect(&ThemeRevision::shared(), &ThemeRevision::valueChanged, this, [this] {
+    connect(&ThemeRevision::shared(), &ThemeRevision::valueChanged, this, &Theme::update);
+}
+
+void Theme::update()
+{
+    const auto differs = [before = std::exchange(m_shown, snapshot())](auto... fields) {
+        return ((before.*fields != snapshot().*fields) || ...);
+    };
+    using Look = OVThemeSnapshot;
+    emit changed();
+    if (differs(&Look::fontScale, &Look::densityScale, &Look::cornerScale))
+        emit sizesChanged();
+    if (differs(&Look::fontScale, &Look::fontDesign))
+        emit typeChanged();
+    if (differs(&Look::accentColor, &Look::onAccent, &Look::canvas, &Look::inkMode, &Look::dark)) {
         readColors();
-        emit changed();
-    });
+        emit colorsChanged();
+    }
 }

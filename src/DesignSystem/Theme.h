@@ -46,5 +46,9 @@ public:
 private:
     explicit Theme(QObject *parent);
 
+    void update();
     static int duration(double milliseconds) { return snapshot().motionEnabled ? qRound(milliseconds) : 0; }
+
+    /// What the views have read.
+    OVThemeSnapshot m_shown;
 };

@@ -40,8 +40,13 @@ public:
     double densityScale() const { return snapshot().densityScale; }
 
 signals:
-    /// Any property of the theme may have changed.
+    /// The choices or the durations may have changed.
     void changed();
+    /// A change of the colours measures no text anew, and one of the sizes paints nothing anew, so each kind
+    /// of property tells of itself.
+    void colorsChanged();
+    void typeChanged();
+    void sizesChanged();
 
 protected:
     using QObject::QObject;

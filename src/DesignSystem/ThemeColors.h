@@ -7,31 +7,31 @@ class ThemeColors : public ThemeChoices
 {
     Q_OBJECT
     QML_ANONYMOUS
-    Q_PROPERTY(QColor ovCanvas READ ovCanvas NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovSidebar READ ovSidebar NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovSurface READ ovSurface NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovSubtle READ ovSubtle NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovHover READ ovHover NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovBorder READ ovBorder NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovBorderStrong READ ovBorderStrong NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovInk READ ovInk NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovInkSecondary READ ovInkSecondary NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovInkTertiary READ ovInkTertiary NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovLink READ ovLink NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovDanger READ ovDanger NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovWarning READ ovWarning NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovSuccess READ ovSuccess NOTIFY changed FINAL)
-    Q_PROPERTY(QColor ovInfo READ ovInfo NOTIFY changed FINAL)
-    Q_PROPERTY(QColor accent READ accent NOTIFY changed FINAL)
-    Q_PROPERTY(QColor onAccent READ onAccent NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ovCanvas READ ovCanvas NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovSidebar READ ovSidebar NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovSurface READ ovSurface NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovSubtle READ ovSubtle NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovHover READ ovHover NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovBorder READ ovBorder NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovBorderStrong READ ovBorderStrong NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovInk READ ovInk NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovInkSecondary READ ovInkSecondary NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovInkTertiary READ ovInkTertiary NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovLink READ ovLink NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovDanger READ ovDanger NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovWarning READ ovWarning NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovSuccess READ ovSuccess NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor ovInfo READ ovInfo NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor accent READ accent NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QColor onAccent READ onAccent NOTIFY colorsChanged FINAL)
     /// Behind selected text.
-    Q_PROPERTY(QColor selection READ selection NOTIFY changed FINAL)
+    Q_PROPERTY(QColor selection READ selection NOTIFY colorsChanged FINAL)
     /// The ring around what has the keyboard's focus.
-    Q_PROPERTY(QColor focusRing READ focusRing NOTIFY changed FINAL)
+    Q_PROPERTY(QColor focusRing READ focusRing NOTIFY colorsChanged FINAL)
     /// Over the window behind a sheet.
-    Q_PROPERTY(QColor ovScrim READ ovScrim NOTIFY changed FINAL)
-    Q_PROPERTY(QList<QColor> canvasColors READ canvasColors NOTIFY changed FINAL)
-    Q_PROPERTY(bool vividCanvas READ vividCanvas NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ovScrim READ ovScrim NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(QList<QColor> canvasColors READ canvasColors NOTIFY colorsChanged FINAL)
+    Q_PROPERTY(bool vividCanvas READ vividCanvas NOTIFY colorsChanged FINAL)
 
 public:
     QColor ovCanvas() const { return m_colors.canvas; }

@@ -9,6 +9,8 @@ OVSheet {
     id: sheet
 
     required property ProjectsViewModel viewModel
+    /// Whether a key opened it, so that the ring shows where the focus is.
+    property bool byKeys: false
 
     function createBlank() {
         if (viewModel.createBlank())
@@ -16,7 +18,7 @@ OVSheet {
     }
 
     title: qsTr("New project")
-    onOpened: list.forceActiveFocus(Qt.TabFocusReason)
+    onOpened: list.keys.focus(0, byKeys ? Qt.TabFocusReason : Qt.MouseFocusReason)
 
     footer: Item {
         height: Math.max(field.height, button.height)

@@ -51,7 +51,6 @@ FocusScope {
         height: name.height
         size: Theme.iconEmpty
         text: root.viewModel.icon
-        verticalAlignment: Text.AlignVCenter
     }
 
     Column {

@@ -9,6 +9,11 @@ FocusScope {
 
     readonly property int cardWidth: Theme.fieldWidth + Theme.space48
 
+    function openSheet(byKeys: bool) {
+        sheet.byKeys = byKeys
+        sheet.open()
+    }
+
     ProjectsViewModel {
         id: projects
         active: root.visible
@@ -70,12 +75,13 @@ FocusScope {
             symbol: "target"
             title: qsTr("Projects")
             actions: OVPrimaryButton {
+                id: newProject
                 focus: true
                 symbol: "plus"
                 text: qsTr("New project")
-                onClicked: sheet.open()
+                onClicked: root.openSheet(activeFocus && !hovered)
             }
-            onEmptyActionTriggered: sheet.open()
+            onEmptyActionTriggered: root.openSheet(!newProject.activeFocus)
         }
         delegate: ProjectCard { viewModel: projects }
         footer: ScreenGrid {

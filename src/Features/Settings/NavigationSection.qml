@@ -13,6 +13,7 @@ SettingsSection {
     SettingGrid {
         id: grid
 
+        evenHeights: true
         field: "theme.navigation"
         maximumColumns: 2
         minimumCellWidth: 230 * Theme.fontScale

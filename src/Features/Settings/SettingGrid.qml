@@ -13,10 +13,11 @@ ArrowGrid {
     /// Least width of an item; as many stand in a row as find room, up to `maximumColumns`.
     property int minimumCellWidth: 100
     property int maximumColumns: 4
-    /// Height of the tallest item.
+    /// Whether all items are as high as the tallest, which is `cellHeight`.
+    property bool evenHeights: false
     readonly property real cellHeight: {
         let height = 0
-        for (let i = 0; i < children.length; ++i)
+        for (let i = 0; evenHeights && i < children.length; ++i)
             height = Math.max(height, children[i].implicitHeight)
         return height
     }

@@ -13,6 +13,7 @@ SettingsSection {
     SettingGrid {
         id: grid
 
+        evenHeights: true
         field: "theme.font"
         minimumCellWidth: 110 * Theme.fontScale
         spacing: Theme.space12

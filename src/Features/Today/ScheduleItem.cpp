@@ -10,7 +10,7 @@ ScheduleItem ScheduleItem::of(const CalendarEvent &event)
             .title = event.title,
             .timeText = item.timeLabel.value_or(tr("All-day")),
             .hasTime = item.timeLabel.has_value(),
-            .kindText = enumRawText(event.kind),
+            .kindText = enumLabel(event.kind).toLower(),
             .tone = item.tone};
 }
 

@@ -69,6 +69,8 @@ OVCardListRow {
         id: kind
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
+        // As on the calendar.
+        capitalization: Font.Capitalize
         text: line.kindText
         tone: line.tone
         Accessible.ignored: true

@@ -9,12 +9,15 @@ Item {
     id: root
 
     readonly property alias presenter: talk
+    readonly property alias displays: displays
     readonly property alias view: content.item
 
     DeckPresenterViewModel {
         id: talk
         session: Orvel
     }
+
+    PresenterDisplays { id: displays }
 
     T.Popup {
         id: popup
@@ -41,6 +44,7 @@ Item {
             // qmllint disable unqualified
             sourceComponent: Component {
                 DeckPresenterView {
+                    displays: root.displays
                     focus: true
                     presenter: talk
                 }

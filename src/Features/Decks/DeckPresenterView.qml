@@ -7,7 +7,10 @@ FocusScope {
     id: root
 
     required property DeckPresenterViewModel presenter
+    required property PresenterDisplays displays
     readonly property var window: Window.window
+    /// The window on another display; null if there is none.
+    readonly property PresenterAudience audience: audienceLoader.item as PresenterAudience
     property int visibilityBefore: Window.Windowed
     property bool madeFull: false
     readonly property int pointerShape: pointer.cursorShape
@@ -24,51 +27,9 @@ FocusScope {
         }
     }
 
-    function press(key: int): bool {
-        switch (key) {
-        case Qt.Key_Right:
-        case Qt.Key_Down:
-        case Qt.Key_Space:
-        case Qt.Key_PageDown:
-            presenter.advance(1)
-            return true
-        case Qt.Key_Left:
-        case Qt.Key_Up:
-        case Qt.Key_PageUp:
-            presenter.advance(-1)
-            return true
-        case Qt.Key_Home:
-            presenter.showFirst()
-            return true
-        case Qt.Key_End:
-            presenter.showLast()
-            return true
-        case Qt.Key_Escape:
-            presenter.close()
-            return true
-        case Qt.Key_N:
-            PresenterStyle.showingNotes = !PresenterStyle.showingNotes
-            return true
-        case Qt.Key_B:
-        case Qt.Key_Period:
-            presenter.blanked = !presenter.blanked
-            return true
-        case Qt.Key_T:
-            presenter.restartTimer()
-            return true
-        case Qt.Key_F:
-            toggleFullScreen()
-            return true
-        }
-        return false
-    }
-
     Accessible.name: qsTr("Presentation of %1").arg(presenter.title)
     Accessible.role: Accessible.Pane
-    Keys.onPressed: event => {
-        const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
-        event.accepted = plain && press(event.key)
-    }
+    Keys.onPressed: event => keys.take(event)
     Component.onDestruction: {
         // A window that is full for the talk alone goes back to what it was.
         if (madeFull && window.visibility === Window.FullScreen)
@@ -78,6 +39,51 @@ FocusScope {
     IdleInhibitor {
         reason: qsTr("A presentation is running")
         active: true
+    }
+
+    PresenterKeys {
+        id: keys
+        presenter: root.presenter
+        onFullScreenRequested: root.toggleFullScreen()
+    }
+
+    Binding {
+        property: "window"
+        target: root.displays
+        value: root.window
+    }
+
+    Connections {
+        target: root.displays
+
+        function onChanged() {
+            root.displays.showAudience(root.audience)
+        }
+    }
+
+    // The slide for the audience; this window is the speaker's then.
+    Loader {
+        id: audienceLoader
+        active: root.displays.audience >= 0
+        onLoaded: {
+            PresenterStyle.showingNotes = true
+            root.displays.showAudience(item)
+        }
+
+        // A Loader of this Qt version cannot make a bound component.
+        // qmllint disable unqualified
+        sourceComponent: Component {
+            PresenterAudience {
+                presenter: root.presenter
+                onActiveChanged: {
+                    if (active)
+                        root.window.requestActivate()
+                }
+                onClosing: root.displays.choose(root.displays.own)
+                onKeyPressed: event => keys.take(event)
+            }
+        }
+        // qmllint enable unqualified
     }
 
     // Nothing below is reached by the pointer.
@@ -162,6 +168,7 @@ FocusScope {
     PresenterBar {
         id: bar
         anchors.bottom: parent.bottom
+        displays: root.displays
         presenter: root.presenter
         width: parent.width
         onFullScreenRequested: root.toggleFullScreen()

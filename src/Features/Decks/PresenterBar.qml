@@ -7,6 +7,7 @@ Item {
     id: root
 
     required property DeckPresenterViewModel presenter
+    required property PresenterDisplays displays
 
     signal fullScreenRequested()
 
@@ -110,6 +111,20 @@ Item {
             text: qsTr("Blank the screen")
             toolTip: qsTr("Blank the screen, B")
             onClicked: root.presenter.blanked = !root.presenter.blanked
+        }
+
+        PresenterButton {
+            id: displayButton
+            checked: root.displays.audience >= 0
+            symbol: "display"
+            text: qsTr("Display for the slide")
+            visible: root.displays.names.length > 1
+            onClicked: displayMenu.popup(displayButton, 0, -displayMenu.implicitHeight - Theme.space4)
+
+            PresenterDisplayMenu {
+                id: displayMenu
+                displays: root.displays
+            }
         }
 
         PresenterButton {

@@ -2,6 +2,7 @@
 #include "Features/Decks/DeckExportViewModel.h"
 #include "Features/Decks/DeckPresenterViewModel.h"
 #include "Features/Decks/DecksViewModel.h"
+#include "Features/Decks/PresenterDisplays.h"
 #include "Harness/TestWorkspace.h"
 #include "Store/DeckOperations.h"
 
@@ -264,6 +265,21 @@ private slots:
         QCOMPARE(Presenter::fittedSize({1600, 930}, -1), QSizeF(1440, 810));
         QCOMPARE(Presenter::fittedSize({1600, 930}, 150), QSizeF(570 * 16.0 / 9, 570));
         QCOMPARE(Presenter::fittedSize({1600, 200}, 150).height(), 160.0);
+    }
+
+    void theAudienceHasTheDisplayOfTheUsersChoice()
+    {
+        using Displays = PresenterDisplays;
+        const QStringList two{u"desk"_s, u"stage"_s}, three = two + QStringList{u"side"_s};
+        QCOMPARE(Displays::audienceOf({u"desk"_s}, 0, {}), -1);
+        QCOMPARE(Displays::audienceOf(two, 0, {}), 1);
+        QCOMPARE(Displays::audienceOf(two, 1, {}), 0);
+        QCOMPARE(Displays::audienceOf(three, 0, u"side"_s), 2);
+        QCOMPARE(Displays::audienceOf(three, 0, QString()), -1);
+        // Unplugged, or where the window has gone meanwhile.
+        QCOMPARE(Displays::audienceOf(two, 0, u"side"_s), 1);
+        QCOMPARE(Displays::audienceOf(two, 1, u"stage"_s), 0);
+        QCOMPARE(Displays::audienceOf({u"desk"_s}, 0, u"stage"_s), -1);
     }
 
     void theTimerCountsMinutesBeyondAnHour()

@@ -25,10 +25,13 @@ Item {
 
     Component.onCompleted: shown = value
     onValueChanged: {
-        if (Math.abs(value - shown) > largestStep)
+        if (Math.abs(value - shown) > largestStep) {
+            // A binding would still have the last value here.
+            glide.to = value
             glide.restart()
-        else if (!glide.running)
+        } else if (!glide.running) {
             shown = value
+        }
     }
 
     NumberAnimation {
@@ -37,7 +40,7 @@ Item {
         easing.type: Easing.OutCubic
         property: "shown"
         target: root
-        to: root.value
+        onFinished: root.shown = root.value
     }
 
     component Arc: ShapePath {

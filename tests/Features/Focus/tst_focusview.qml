@@ -64,6 +64,12 @@ Item {
             tryVerify(() => find(name) !== null, 2000, "shows " + name)
         }
 
+        /// The timer reads so, and its ring shows this part of the session.
+        function showsPart(name, part) {
+            shows(name)
+            tryVerify(() => Math.abs(find(name).shown - part) < 0.001, 2000, "the ring shows " + part)
+        }
+
         function sessions() {
             for (let i = 0; i < 20; ++i) {
                 if (find("Sessions today, " + i))
@@ -83,11 +89,11 @@ Item {
             shows("15:00, Focusing")
             keyClick(Qt.Key_4)
             Workspace.advanceSeconds(61)
-            shows("13:59, Focusing")
+            showsPart("13:59, Focusing", 61 / 900)
             keyClick(Qt.Key_Space)
             shows("13:59, Paused")
             keyClick(Qt.Key_R)
-            shows("15:00, Ready")
+            showsPart("15:00, Ready", 0)
             keyClick(Qt.Key_L)
             compare(sessions(), before)
             keyClick(Qt.Key_Space)

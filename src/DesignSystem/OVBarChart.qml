@@ -32,7 +32,7 @@ OVChart {
         return Qt.rect(axes.xOf(index) - barWidth / 2, axes.base - height, barWidth, height)
     }
 
-    implicitHeight: horizontal ? points.length * rowHeight : Theme.chartHeight
+    implicitHeight: horizontal ? Math.max(Theme.chartHint, points.length * rowHeight) : Theme.chartHeight
     tipShown: !horizontal
 
     OVChartAxes {

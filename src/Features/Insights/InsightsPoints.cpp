@@ -65,8 +65,9 @@ QList<ChartPoint> InsightsPoints::ofHabits(const QList<Habit> &habits, QDate tod
     QList<ChartPoint> points;
     for (const Habit &habit : habits) {
         const QString name = LineText::shownTitle(habit.name);
+        const QString emoji = LineText::shown(habit.emoji);
         const qint64 count = HabitDays::weeklyCount(habit, today);
-        points.append({name, name, double(count), number(count)});
+        points.append({name, emoji.isEmpty() ? name : emoji, double(count), number(count)});
     }
     return points;
 }

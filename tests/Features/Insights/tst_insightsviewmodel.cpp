@@ -1,3 +1,5 @@
+#include "DesignSystem/Contrast.h"
+#include "DesignSystem/OVTheme.h"
 #include "Features/Insights/InsightsViewModel.h"
 #include "Harness/TestWorkspace.h"
 #include "Session/OrvelSession.h"
@@ -6,6 +8,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QtTest>
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -26,6 +30,9 @@ private slots:
     void countsOnlyWhatChanged();
     void showsFiguresAndPoints();
     void movesOnAtMidnight();
+    void countsAnewInAnotherZone();
+    void narrowHabitsGoByTheirEmoji();
+    void habitColorsStandOutFromTheCard();
     void copiesATable();
 
 private:
@@ -141,6 +148,58 @@ void InsightsViewModelTest::movesOnAtMidnight()
     m_workspace.advanceHours(12 * 24);
     finishTurn();
     QVERIFY(points("pages").isEmpty());
+}
+
+void InsightsViewModelTest::countsAnewInAnotherZone()
+{
+    const auto lastDays = [this] {
+        finishTurn();
+        const QList<ChartPoint> days = points("pages");
+        return QString(u"%1 %2, %3 %4"_s)
+            .arg(days.at(12).shortLabel)
+            .arg(days.at(12).value)
+            .arg(days.at(13).shortLabel)
+            .arg(days.at(13).value);
+    };
+    m_workspace.advanceHours(1);
+    m_workspace.addPage(QStringLiteral("p"));
+    m_workspace.advanceHours(15);
+    QCOMPARE(lastDays(), QStringLiteral("Mar 13 1, Mar 14 0"));
+    // The day of today stays what it was, that of the page does not.
+    m_workspace.clock().setTimeZone(QTimeZone(14 * 3600));
+    QCOMPARE(lastDays(), QStringLiteral("Mar 13 0, Mar 14 1"));
+    m_workspace.clock().setTimeZone(QTimeZone(-10 * 3600));
+    QCOMPARE(lastDays(), QStringLiteral("Mar 12 0, Mar 13 1"));
+    m_workspace.clock().setTimeZone(QTimeZone::utc());
+    finishTurn();
+}
+
+void InsightsViewModelTest::narrowHabitsGoByTheirEmoji()
+{
+    Habit habit{.id = QUuid::createUuid(), .name = QStringLiteral("Read"), .emoji = QStringLiteral("📚")};
+    m_workspace.store().add(habit);
+    habit.id = QUuid::createUuid();
+    habit.emoji = QString();
+    m_workspace.store().add(habit);
+    finishTurn();
+    QCOMPARE(points("habits").at(0).shortLabel, QStringLiteral("📚"));
+    QCOMPARE(points("habits").at(1).shortLabel, QStringLiteral("Read"));
+}
+
+void InsightsViewModelTest::habitColorsStandOutFromTheCard()
+{
+    for (const AppearanceMode appearance : {AppearanceMode::light, AppearanceMode::dark}) {
+        AppSettings settings;
+        settings.appearance = appearance;
+        OVTheme::apply(settings);
+        const QColor card = OVTheme::colors().surface;
+        for (const auto &entry : enumCases<AccentPalette>()) {
+            const AccentShades shades = AccentShades::of(entry.value);
+            const double ratio =
+                Contrast::ratio(appearance == AppearanceMode::dark ? shades.dark : shades.light, card);
+            QVERIFY2(ratio >= 3, qPrintable(u"%1: %2"_s.arg(shades.raw).arg(ratio)));
+        }
+    }
 }
 
 void InsightsViewModelTest::copiesATable()

@@ -453,8 +453,8 @@ QList<Picture> practicePictures()
             with(SamplePractice::threeHabits));
         add(u"insights-ordinary"_s, insights, {1240, 1200}, with(SamplePractice::ordinary));
         add(u"insights-single"_s, insights, {1240, 1200}, with(SamplePractice::single));
-        add(u"panel"_s, panel, {420, 720}, sample);
-        add(u"panel-nothing-due"_s, panel, {420, 720}, none);
+        add(u"panel"_s, panel, {480, 860}, sample);
+        add(u"panel-nothing-due"_s, panel, {480, 860}, none);
     }
     pictures.append({u"practice-insights-crowded"_s, insights, tall, with(SamplePractice::crowded), light});
     pictures.append(

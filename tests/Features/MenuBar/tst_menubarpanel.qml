@@ -114,6 +114,17 @@ Item {
             verify(find("Due, 1"))
         }
 
+        function test_movesOnAtMidnight() {
+            Workspace.addTask("today", "todo", "medium", 1)
+            Workspace.addTask("tomorrow", "todo", "medium", 24)
+            tryVerify(() => find("Complete today"))
+            Workspace.advanceHours(24)
+            tryVerify(() => find("Complete tomorrow") && !find("Complete today"))
+            verify(find("Open, 2") && find("Due, 1"))
+            Workspace.advanceHours(24)
+            tryVerify(() => !find("DUE TODAY"))
+        }
+
         function test_leadsIntoTheWindow() {
             for (const link of [["Focus", "focus"], ["Relax", "relax"], ["Settings", "settings"], ["Dashboard", "dashboard"]]) {
                 opened.clear()

@@ -16,19 +16,30 @@ struct TextEdit {
     const char *condition;
 };
 
-bool canEdit(const QQuickItem *focusItem, const TextEdit &edit)
+/// What edits for this item: the item itself, or what a list names as its `editTarget`, such as the cells of
+/// a table.
+QObject *editTarget(QQuickItem *focusItem)
 {
-    if (!focusItem || !focusItem->property("selectedText").isValid())
-        return false;
-    const QVariant condition = focusItem->property(edit.condition);
-    const bool writes = qstrcmp(edit.method, "copy") != 0 && qstrcmp(edit.method, "selectAll") != 0;
-    return condition.toBool() && !(writes && focusItem->property("readOnly").toBool());
+    auto *const target = focusItem ? focusItem->property("editTarget").value<QObject *>() : nullptr;
+    return target ? target : focusItem;
 }
 
-void editText(QQuickItem *focusItem, const TextEdit &edit)
+bool canEdit(const QObject *target, const TextEdit &edit)
 {
-    if (canEdit(focusItem, edit))
-        QMetaObject::invokeMethod(focusItem, edit.method);
+    if (!target || !target->property("selectedText").isValid())
+        return false;
+    const QVariant condition = target->property(edit.condition);
+    // As a truth value the text "0" would be none.
+    const bool isMet =
+        condition.typeId() == QMetaType::QString ? !condition.toString().isEmpty() : condition.toBool();
+    const bool writes = qstrcmp(edit.method, "copy") != 0 && qstrcmp(edit.method, "selectAll") != 0;
+    return isMet && !(writes && target->property("readOnly").toBool());
+}
+
+void editText(QObject *target, const TextEdit &edit)
+{
+    if (canEdit(target, edit))
+        QMetaObject::invokeMethod(target, edit.method);
 }
 } // namespace
 
@@ -127,7 +138,7 @@ void OrvelCommands::prepare(QQuickItem *focusItem)
     for (qsizetype i = 0; i < m_commands.size(); ++i) {
         OrvelCommand &command = *m_commands.at(i);
         if (const auto *const edit = std::get_if<TextEdit>(&table().at(i).action))
-            command.show(command.title, canEdit(focusItem, *edit));
+            command.show(command.title, canEdit(editTarget(focusItem), *edit));
         else if (command.id == u"undo")
             command.show(m_session->undo()->undoText(), m_session->undo()->canUndo());
         else if (command.id == u"redo")
@@ -146,7 +157,7 @@ void OrvelCommands::run(const QString &id, QQuickItem *focusItem)
     if (const auto *const place = std::get_if<Destination::Kind>(&found->action))
         ui().setSelection(Destination::to(*place));
     else if (const auto *const edit = std::get_if<TextEdit>(&found->action))
-        editText(focusItem, *edit);
+        editText(editTarget(focusItem), *edit);
     else
         (this->*std::get<0>(found->action))();
 }

@@ -71,7 +71,8 @@ public:
 
     /// Does what the command with this id is for; an unknown id does nothing, and before the onboarding is
     /// done neither does anything that belongs to the workspace.
-    /// @param focusItem what the Edit menu acts on if it is a text field: what had the focus before the menu
+    /// @param focusItem what the Edit menu acts on if it is a text field or names an `editTarget`: what had
+    /// the focus before the menu
     Q_INVOKABLE void run(const QString &id, QQuickItem *focusItem = nullptr);
     /// Enables what can be done now.
     Q_INVOKABLE void prepare(QQuickItem *focusItem = nullptr);

@@ -11,6 +11,22 @@ void typeText(WorkspaceStore &store, const QUuid &tableID, const QString &field,
     const Action action(store, Typing{.text = {tableID, field}, .before = table->*text, .after = after});
     DatabaseOperations::change(store, tableID, {}, [&](DatabaseTable &changed) { changed.*text = after; });
 }
+/// The options of a value, which are parted by commas where there may be several, with their new names.
+QString withNewNames(const QString &value, bool isList, const QHash<QString, QString> &renamed)
+{
+    if (!isList)
+        return renamed.value(value, value);
+    QStringList options;
+    bool isChanged = false;
+    for (const QString &piece : value.split(u',', Qt::SkipEmptyParts)) {
+        const auto name = renamed.constFind(piece.trimmed());
+        isChanged = isChanged || name != renamed.cend();
+        const QString option = name == renamed.cend() ? piece.trimmed() : *name;
+        if (!options.contains(option))
+            options.append(option);
+    }
+    return isChanged ? options.join(u',') : value;
+}
 } // namespace
 
 void DatabaseOperations::create(WorkspaceStore &store, const DatabaseTable &table)
@@ -52,6 +68,32 @@ void DatabaseOperations::changeView(WorkspaceStore &store, const QUuid &tableID,
         if (view != table.views.end())
             edit(*view);
     });
+}
+
+void DatabaseOperations::changeProperty(WorkspaceStore &store, const QUuid &tableID,
+                                        const DBProperty &property, const QHash<QString, QString> &renamed)
+{
+    const Action action(store, ActionText::tr("Change Property"));
+    const bool isList = property.type == DBPropertyType::multiselect;
+    change(store, tableID, {}, [&](DatabaseTable &table) {
+        std::ranges::replace_if(
+            table.properties, [&](const DBProperty &other) { return other.id == property.id; }, property);
+        for (DBView &view : table.views)
+            for (DBFilter &filter : view.filters)
+                if (filter.propID == property.id)
+                    filter.value = withNewNames(filter.value, isList, renamed);
+    });
+    if (renamed.isEmpty())
+        return;
+    const QString key = DBRow::valueKey(property.id);
+    QHash<QUuid, QString> changed;
+    for (const DBRow *const row : rows(store, tableID)) {
+        const QString before = row->values.value(key);
+        if (const QString after = withNewNames(before, isList, renamed); after != before)
+            changed.insert(row->id, after);
+    }
+    for (auto value = changed.cbegin(); value != changed.cend(); ++value)
+        setValues(store, {{key, *value}}, value.key());
 }
 
 void DatabaseOperations::typeName(WorkspaceStore &store, const QUuid &tableID, const QString &text)

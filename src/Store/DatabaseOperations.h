@@ -16,6 +16,11 @@ void change(WorkspaceStore &store, const QUuid &tableID, const QString &name,
 /// The same for one of its views.
 void changeView(WorkspaceStore &store, const QUuid &tableID, const QUuid &viewID, const QString &name,
                 const std::function<void(DBView &)> &edit);
+/// Gives a property another name, type or options. Records that hold a renamed option, and filters that ask
+/// for it, take its new name.
+/// @param renamed the new text of each renamed option by the old one
+void changeProperty(WorkspaceStore &store, const QUuid &tableID, const DBProperty &property,
+                    const QHash<QString, QString> &renamed);
 /// Takes a name or a description as it is typed.
 void typeName(WorkspaceStore &store, const QUuid &tableID, const QString &text);
 void typeDetails(WorkspaceStore &store, const QUuid &tableID, const QString &text);

@@ -147,10 +147,13 @@ DBProperty CsvColumns::withType(const DBProperty &property, Type type, const Csv
     changed.options.clear();
     if (!supportsOptions(type))
         return changed;
-    for (const QString &text : Column(table, column).distinct(500))
+    QSet<QString> seen;
+    for (const QString &text : Column(table, column).distinct(maxChosenOptions))
         for (const QString &option : type == Type::multiselect ? DBValue::options(text) : QStringList{text})
-            if (!changed.options.contains(option))
+            if (seen.size() < maxChosenOptions && !seen.contains(option)) {
+                seen.insert(option);
                 changed.options.append(option);
+            }
     return changed;
 }
 

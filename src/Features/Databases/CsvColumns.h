@@ -10,6 +10,8 @@ namespace CsvColumns
 {
 /// Most options that a select is given by itself.
 inline constexpr qsizetype maxOptions = 20;
+/// Most options where the user has chosen such a type; other values stay in the records without one.
+inline constexpr qsizetype maxChosenOptions = 500;
 
 /// Properties for the columns, without ids: named by the first row, of the type that all values agree on.
 QList<DBProperty> guess(const CsvTable &table, const QLocale &locale = QLocale());

@@ -15,7 +15,7 @@ OVSheet {
     title: qsTr("Import CSV")
     subtitle: transfer.summary
 
-    onAboutToShow: pathField.forceActiveFocus(Qt.OtherFocusReason)
+    onAboutToShow: pathField.focus = true
     onClosed: transfer.cancel()
 
     Connections {

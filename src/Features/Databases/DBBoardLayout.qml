@@ -107,6 +107,7 @@ FocusScope {
     RecordKeys {
         id: recordKeys
         records: root.records
+        onNewRequested: root.addTo(root.column()?.label ?? "")
         onOpenRequested: typed => root.cell()?.open(typed)
     }
 
@@ -129,7 +130,10 @@ FocusScope {
 
     Item {
         id: surface
-        activeFocusOnTab: true
+
+        readonly property QtObject editTarget: recordKeys
+
+        activeFocusOnTab: list.count > 0 || activeFocus
         anchors.fill: parent
         focus: true
         Accessible.name: root.records.describe(recordKeys.row, recordKeys.column)
@@ -138,6 +142,9 @@ FocusScope {
         onActiveFocusChanged: {
             if (!activeFocus)
                 return
+            // Without records it would hold the keyboard where nobody sees it.
+            if (list.count === 0)
+                return addButton.forceActiveFocus(Qt.TabFocusReason)
             recordKeys.ringShown = true
             root.show(root.group, root.place, recordKeys.column)
         }
@@ -180,6 +187,7 @@ FocusScope {
     }
 
     OVSecondaryButton {
+        id: addButton
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: parent.verticalCenter
         anchors.topMargin: Theme.space24

@@ -74,6 +74,7 @@ FocusScope {
         id: recordKeys
         records: root.records
         row: grid.currentIndex
+        onNewRequested: root.addRecord()
         onOpenRequested: typed => {
             grid.positionViewAtIndex(grid.currentIndex, GridView.Contain)
             grid.forceLayout()
@@ -93,6 +94,7 @@ FocusScope {
     GridView {
         id: grid
 
+        readonly property QtObject editTarget: recordKeys
         readonly property int columns: Math.max(1, Math.floor(width / Math.round(232 * Theme.fontScale)))
 
         activeFocusOnTab: count > 0 || activeFocus
@@ -122,6 +124,9 @@ FocusScope {
         onActiveFocusChanged: {
             if (!activeFocus)
                 return
+            // Without records it would hold the keyboard where nobody sees it.
+            if (count === 0)
+                return addTile.forceActiveFocus(Qt.TabFocusReason)
             recordKeys.ringShown = true
             if (currentIndex < 0)
                 root.show(0, 0)

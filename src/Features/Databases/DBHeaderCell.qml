@@ -10,11 +10,10 @@ OVPressable {
     required property int column
     property var property: records.columnsRevision >= 0 ? records.column(column) : null
 
-    signal deleteRequested(var propertyID)
-
     function openMenu() {
+        const byKeys = visualFocus
         menu.openBeside(root, 0, 0, height)
-        menu.currentIndex = visualFocus ? 0 : -1
+        menu.currentIndex = byKeys ? 0 : -1
     }
 
     leftPadding: Theme.space12
@@ -46,15 +45,68 @@ OVPressable {
         }
     }
 
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F2 || event.key === Qt.Key_Delete
+        if (event.key === Qt.Key_F2)
+            records.editProperty(column)
+        else if (event.key === Qt.Key_Delete)
+            records.removeColumn(column)
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: root.openMenu()
+    }
+
     OVMenu {
         id: menu
         name: root.text
 
         OVMenuItem {
+            shortcutText: "F2"
+            symbol: "pencil"
+            text: qsTr("Edit property…")
+            onTriggered: root.records.editProperty(root.column)
+        }
+
+        OVMenuSeparator { }
+
+        OVMenuItem {
+            symbol: "arrow.up"
+            text: qsTr("Sort ascending")
+            onTriggered: root.records.sortBy(root.column, false)
+        }
+
+        OVMenuItem {
+            symbol: "arrow.down"
+            text: qsTr("Sort descending")
+            onTriggered: root.records.sortBy(root.column, true)
+        }
+
+        OVMenuSeparator { }
+
+        OVMenuItem {
+            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, -1)
+            symbol: "arrow.left"
+            text: qsTr("Move left")
+            onTriggered: root.records.moveColumn(root.column, -1)
+        }
+
+        OVMenuItem {
+            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, 1)
+            symbol: "arrow.right"
+            text: qsTr("Move right")
+            onTriggered: root.records.moveColumn(root.column, 1)
+        }
+
+        OVMenuSeparator { }
+
+        OVMenuItem {
             destructive: true
+            shortcutText: "Del"
             symbol: "trash"
             text: qsTr("Delete property")
-            onTriggered: root.deleteRequested(root.property.propertyID)
+            onTriggered: root.records.removeColumn(root.column)
         }
     }
 }

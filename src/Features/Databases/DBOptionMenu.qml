@@ -15,6 +15,15 @@ OVMenu {
 
     signal picked(option: string)
 
+    /// Goes to what is chosen, or to the option that begins with what the user has typed.
+    function begin(typed: string) {
+        const chosenIndex = options.indexOf(chosen[0])
+        currentIndex = chosenIndex < 0 ? (multiple ? 2 : 0) : chosenIndex + 2
+        if (typed.trim() !== "")
+            jumpTo(typed)
+        itemAt(currentIndex)?.forceActiveFocus(Qt.TabFocusReason)
+    }
+
     OVMenuItem {
         checkable: true
         checked: root.chosen[0] === ""
@@ -31,7 +40,22 @@ OVMenu {
     }
 
     Instantiator {
-        model: root.options
+        model: root.multiple ? root.options : []
+
+        DBOptionItem {
+            required property string modelData
+
+            chosen: root.chosen.includes(modelData)
+            title: modelData
+            onClicked: root.picked(modelData)
+        }
+
+        onObjectAdded: (index, object) => root.insertItem(index + 2, object as DBOptionItem)
+        onObjectRemoved: (index, object) => root.removeItem(object as DBOptionItem)
+    }
+
+    Instantiator {
+        model: root.multiple ? [] : root.options
 
         OVMenuItem {
             required property string modelData

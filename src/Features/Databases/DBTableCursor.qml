@@ -13,6 +13,9 @@ QtObject {
     readonly property int columnCount: columns.records.columnCount
     readonly property string description: rowCount > 0 ? columns.records.describe(keys.row, keys.column) : ""
 
+    /// The user goes on below the last record.
+    signal leaveDown()
+
     function row(): DBTableRow {
         return list.currentItem as DBTableRow
     }
@@ -30,6 +33,23 @@ QtObject {
         list.currentIndex = Math.min(list.count - 1, Math.max(0, row))
         list.positionViewAtIndex(keys.row, ListView.Contain)
         list.contentX = columns.offsetFor(keys.column)
+    }
+
+    /// Moves the cursor by the pointer.
+    function point(row: int, column: int) {
+        keys.fillColumn = -1
+        show(row, column)
+        list.forceActiveFocus(Qt.MouseFocusReason)
+        keys.ringShown = false
+    }
+
+    /// The editing of a cell has ended with this key; 0 for none.
+    function editingFinished(key: int) {
+        if (key !== 0) {
+            list.forceActiveFocus(Qt.OtherFocusReason)
+            keys.ringShown = true
+        }
+        goOn(key)
     }
 
     function move(rows: int, columns: int): bool {
@@ -78,7 +98,10 @@ QtObject {
         case Qt.Key_Left: return move(0, toEnds ? -columnCount : -1)
         case Qt.Key_Right: return move(0, toEnds ? columnCount : 1)
         case Qt.Key_Up: return move(toEnds ? -rowCount : -1, 0)
-        case Qt.Key_Down: return move(toEnds ? rowCount : 1, 0)
+        case Qt.Key_Down:
+            if (keys.row === rowCount - 1)
+                leaveDown()
+            return move(toEnds ? rowCount : 1, 0)
         case Qt.Key_PageUp: return move(-page, 0)
         case Qt.Key_PageDown: return move(page, 0)
         case Qt.Key_Home: return move(toEnds ? -rowCount : 0, -columnCount)

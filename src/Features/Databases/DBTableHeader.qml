@@ -12,7 +12,6 @@ FocusScope {
     required property DBTableColumns columns
     property int currentColumn: 0
 
-    signal deleteRequested(var propertyID)
     signal columnWanted(column: int)
     /// The user goes on to the records.
     signal leaveDown()
@@ -49,7 +48,6 @@ FocusScope {
             if (activeFocus)
                 root.currentColumn = column
         }
-        onDeleteRequested: propertyID => root.deleteRequested(propertyID)
     }
 
     Item {

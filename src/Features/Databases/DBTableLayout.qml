@@ -20,25 +20,8 @@ FocusScope {
     property string emptyMessage
     property bool canAdd: true
     readonly property int rowHeight: Theme.rowHeight + Theme.space8
-
-    signal deletePropertyRequested(var propertyID)
-
-    /// Moves the cursor by the pointer.
-    function point(row: int, column: int) {
-        recordKeys.fillColumn = -1
-        cursor.show(row, column)
-        list.forceActiveFocus(Qt.MouseFocusReason)
-        recordKeys.ringShown = false
-    }
-
-    /// The editing of a cell has ended with this key.
-    function editingFinished(key: int) {
-        if (key !== 0) {
-            list.forceActiveFocus(Qt.OtherFocusReason)
-            recordKeys.ringShown = true
-        }
-        cursor.goOn(key)
-    }
+    /// Of the button below the records, with room for its ring.
+    readonly property int footHeight: canAdd ? addButton.implicitHeight + 2 * Theme.space4 : 0
 
     /// Adds a record and begins with its title.
     function addRecord() {
@@ -53,6 +36,7 @@ FocusScope {
         id: recordKeys
         records: root.records
         row: list.currentIndex
+        onNewRequested: root.addRecord()
         onOpenRequested: typed => {
             cursor.show(row, column)
             list.forceLayout()
@@ -65,6 +49,7 @@ FocusScope {
         columns: tableColumns
         keys: recordKeys
         list: list
+        onLeaveDown: addButton.forceActiveFocus(Qt.TabFocusReason)
     }
 
     DBSections {
@@ -86,6 +71,9 @@ FocusScope {
             list.section.property = ""
             list.section.property = root.sectioned ? "section" : ""
         }
+        function onColumnAdded(column) {
+            list.contentX = tableColumns.offsetFor(column)
+        }
         function onRevealed(row, column) {
             if (list.activeFocus && recordKeys.row === row && cursor.cell()?.editing)
                 return
@@ -101,7 +89,7 @@ FocusScope {
         border.width: Theme.lineWidth
         clip: true
         color: Theme.ovSurface
-        height: Math.min(root.height, header.height + list.contentHeight + addButton.height + 1
+        height: Math.min(root.height, header.height + list.contentHeight + root.footHeight + 1
                          + (nothing.visible ? nothing.height : 0))
         radius: Theme.cornerField
         width: root.listLike ? root.width : Math.min(root.width, tableColumns.contentWidth + 2)
@@ -115,7 +103,6 @@ FocusScope {
             width: list.width
             x: 1
             onColumnWanted: column => list.contentX = tableColumns.offsetFor(column)
-            onDeleteRequested: propertyID => root.deletePropertyRequested(propertyID)
             onLeaveDown: list.forceActiveFocus(Qt.TabFocusReason)
         }
 
@@ -132,6 +119,9 @@ FocusScope {
 
         ListView {
             id: list
+
+            readonly property QtObject editTarget: recordKeys
+
             activeFocusOnTab: count > 0 || activeFocus
             boundsBehavior: Flickable.StopAtBounds
             cacheBuffer: root.rowHeight * 4
@@ -140,7 +130,7 @@ FocusScope {
             currentIndex: -1
             flickableDirection: Flickable.AutoFlickIfNeeded
             focus: true
-            height: body.height - y - addButton.height
+            height: body.height - y - root.footHeight
             highlightFollowsCurrentItem: false
             keyNavigationEnabled: false
             model: root.records.rows
@@ -169,6 +159,9 @@ FocusScope {
                     return
                 if (!activeFocus)
                     return recordKeys.fillColumn = -1
+                // Without records it would hold the keyboard where nobody sees it.
+                if (count === 0)
+                    return addButton.forceActiveFocus(Qt.TabFocusReason)
                 recordKeys.ringShown = true
                 if (currentIndex < 0)
                     cursor.show(0, 0)
@@ -179,18 +172,18 @@ FocusScope {
                 cursorShown: list.activeFocus
                 keys: recordKeys
                 records: root.records
-                onFinished: key => root.editingFinished(key)
-                onPointed: column => root.point(index, column)
+                onFinished: key => cursor.editingFinished(key)
+                onPointed: column => cursor.point(index, column)
             }
         }
 
         NewRecordButton {
             id: addButton
             anchors.bottom: parent.bottom
-            height: visible ? implicitHeight : 0
+            anchors.bottomMargin: Theme.space4
             visible: root.canAdd
             width: Math.min(implicitWidth, list.width)
-            x: 1
+            x: 1 + Theme.space4
             Keys.onUpPressed: list.forceActiveFocus(Qt.TabFocusReason)
             onClicked: root.addRecord()
         }

@@ -39,9 +39,9 @@ Item {
         else if (cell.kind === DBValueDisplay.Check)
             records.toggleCheck(recordID, column)
         else if (cell.kind === DBValueDisplay.Date)
-            openPopup(datePopup)
+            openPopup(datePopup, "")
         else if (cell.kind !== DBValueDisplay.None)
-            openPopup(optionMenu)
+            openPopup(optionMenu, typed)
     }
 
     function edit(typed: string) {
@@ -73,13 +73,19 @@ Item {
         finished(Qt.Key_Escape)
     }
 
-    function openPopup(component: Component) {
+    function openPopup(component: Component, typed: string) {
+        const byKeyboard = ringShown
         popup?.destroy()
         popup = component.createObject(root)
-        if (popup instanceof OVMenu)
-            popup.openBeside(root, 0, 0, height)
-        else
-            popup.open()
+        // The record keeps its place until the popup has gone.
+        records.beginEdit(recordID, column)
+        popup.closed.connect(records.endEdit)
+        const menu = popup as DBOptionMenu
+        if (!menu)
+            return popup.open()
+        menu.openBeside(root, 0, 0, height)
+        if (byKeyboard)
+            menu.begin(typed)
     }
 
     implicitHeight: Theme.rowHeight + Theme.space4

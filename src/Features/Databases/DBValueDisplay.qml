@@ -83,6 +83,14 @@ Item {
         id: badges
 
         Item {
+            id: strip
+
+            // What is far beyond the edge of any cell is not made.
+            readonly property int most: 24
+            readonly property var shown: root.kind === DBValueDisplay.Choice ? [root.cell.shown]
+                                                                             : root.cell.chosen.slice(0, most)
+            readonly property int rest: root.kind === DBValueDisplay.Choice ? 0 : root.cell.chosen.length - shown.length
+
             clip: row.implicitWidth > width
 
             Row {
@@ -91,7 +99,7 @@ Item {
                 spacing: Theme.space4
 
                 Repeater {
-                    model: root.kind === DBValueDisplay.Choice ? [root.cell.shown] : root.cell.chosen
+                    model: strip.rest > 0 ? [...strip.shown, qsTr("+%1").arg(strip.rest)] : strip.shown
 
                     OVBadge {
                         required property string modelData

@@ -57,8 +57,8 @@ Item {
         }
 
         StoredField {
-            color: Theme.ovInkSecondary
             font.pixelSize: Theme.sizeBody
+            ink: Theme.ovInkSecondary
             placeholderText: qsTr("Add a description…")
             stored: root.viewModel.details
             width: parent.width
@@ -87,8 +87,9 @@ Item {
             OVAccessible.role: Accessible.ButtonMenu
             Keys.onDownPressed: clicked()
             onClicked: {
+                const byKeys = visualFocus
                 fileMenu.openBeside(fileButton, 0, -Theme.space4, height + Theme.space4)
-                fileMenu.currentIndex = visualFocus ? 0 : -1
+                fileMenu.currentIndex = byKeys ? 0 : -1
             }
 
             OVMenu {

@@ -34,6 +34,7 @@ FocusScope {
         session: Orvel
         tableID: root.viewModel.selectedID
         viewID: root.viewModel.viewID
+        onPropertyEditRequested: propertyID => editSheet.edit(propertyID)
     }
 
     ViewSettingsViewModel {
@@ -107,7 +108,6 @@ FocusScope {
         anchors.topMargin: Theme.space8
         focus: true
         records: recordsModel
-        onDeletePropertyRequested: propertyID => root.viewModel.removeProperty(propertyID)
     }
 
     OVText {
@@ -120,6 +120,11 @@ FocusScope {
 
     NewPropertySheet {
         id: propertySheet
+        viewModel: root.viewModel
+    }
+
+    PropertySheet {
+        id: editSheet
         viewModel: root.viewModel
     }
 

@@ -13,6 +13,7 @@ FocusScope {
     required property DatabasesViewModel viewModel
     /// Whether the rail can be hidden.
     property bool hideable: true
+    readonly property bool isEmpty: list.count === 0
 
     signal hideRequested()
     signal picked(var tableID)
@@ -24,9 +25,19 @@ FocusScope {
         list.forceActiveFocus(Qt.TabFocusReason)
     }
 
+    /// @param templateID empty for a database of the ordinary kind
+    function create(templateID: string) {
+        if (templateID === "")
+            viewModel.newDatabase()
+        else
+            viewModel.newFromTemplate(templateID)
+        created()
+    }
+
     function openNewMenu() {
+        const byKeys = newButton.visualFocus
         newMenu.openBeside(newButton, 0, -Theme.space4, newButton.height + Theme.space4)
-        newMenu.currentIndex = newButton.visualFocus ? 0 : -1
+        newMenu.currentIndex = byKeys ? 0 : -1
     }
 
     OVText {
@@ -65,10 +76,7 @@ FocusScope {
                 OVMenuItem {
                     symbol: "plus"
                     text: qsTr("New database")
-                    onTriggered: {
-                        root.viewModel.newDatabase()
-                        root.created()
-                    }
+                    onTriggered: root.create("")
                 }
 
                 OVMenuItem {
@@ -88,10 +96,7 @@ FocusScope {
                             required property var modelData
 
                             text: modelData.label
-                            onTriggered: {
-                                root.viewModel.newFromTemplate(modelData.raw)
-                                root.created()
-                            }
+                            onTriggered: root.create(modelData.raw)
                         }
 
                         onObjectAdded: (index, object) => templates.insertItem(index, object as OVMenuItem)
@@ -150,7 +155,12 @@ FocusScope {
                 return currentItem ? (currentItem as DatabaseRailRow).handleKey(event) : event.accepted = false
             event.accepted = true
         }
-        onActiveFocusChanged: focusByKeys = true
+        onActiveFocusChanged: {
+            focusByKeys = true
+            // An empty list would hold the keyboard where nobody sees it.
+            if (activeFocus && count === 0)
+                newButton.forceActiveFocus(Qt.TabFocusReason)
+        }
         onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
 
         delegate: DatabaseRailRow {

@@ -90,8 +90,9 @@ Flow {
         OVAccessible.role: Accessible.ButtonMenu
         Keys.onDownPressed: clicked()
         onClicked: {
+            const byKeys = visualFocus
             addMenu.openBeside(addButton, 0, -Theme.space4, height + Theme.space4)
-            addMenu.currentIndex = visualFocus ? 0 : -1
+            addMenu.currentIndex = byKeys ? 0 : -1
         }
 
         OVMenu {

@@ -12,8 +12,6 @@ FocusScope {
     readonly property var layouts: ({ "table": table, "list": list, "calendar": calendar, "board": board,
                                       "gallery": gallery })
 
-    signal deletePropertyRequested(var propertyID)
-
     OVLazyLoader {
         active: root.records.hasView
         anchors.fill: parent
@@ -27,7 +25,6 @@ FocusScope {
         DBTableLayout {
             focus: true
             records: root.records
-            onDeletePropertyRequested: propertyID => root.deletePropertyRequested(propertyID)
         }
     }
 

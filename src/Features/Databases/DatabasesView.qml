@@ -49,6 +49,8 @@ FocusScope {
         id: databases
         active: root.visible
         session: Orvel
+        // The arrows of the rail go on to the next database, so it stays when one is open.
+        onSelectionChanged: root.railOverPane = root.isNarrow && rail.activeFocus
     }
 
     CsvTransfer {
@@ -76,7 +78,7 @@ FocusScope {
 
         DatabaseRail {
             id: rail
-            focus: !pane.visible
+            focus: true
             height: parent.height
             hideable: databases.hasSelection
             viewModel: databases
@@ -98,6 +100,8 @@ FocusScope {
         }
 
         OVEmptyState {
+            actionSymbol: "plus"
+            actionText: rail.isEmpty ? qsTr("New database") : ""
             anchors.verticalCenter: parent.verticalCenter
             anchors.verticalCenterOffset: -Theme.space48
             message: qsTr("Pick one on the left, or create a database  -  table, board, list and gallery views all share the same records.")
@@ -106,12 +110,12 @@ FocusScope {
             visible: !databases.hasSelection
             width: parent.width - x
             x: rail.width + Theme.space24
+            onActionTriggered: rail.create("")
         }
 
         DatabasePane {
             id: pane
             active: root.visible && visible
-            focus: visible
             height: parent.height
             railShown: rail.visible
             viewModel: databases

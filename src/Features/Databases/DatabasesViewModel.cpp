@@ -207,16 +207,6 @@ void DatabasesViewModel::addProperty(const QString &name, const QString &type, c
     change(ActionText::tr("New Property"), [&](DatabaseTable &table) { table.properties.append(property); });
 }
 
-void DatabasesViewModel::removeProperty(const QUuid &propertyID)
-{
-    change(
-        ActionText::tr("Delete Property"),
-        [&](DatabaseTable &table) {
-            table.properties.removeIf([&](const DBProperty &property) { return property.id == propertyID; });
-        },
-        ActionText::tr("Property deleted"));
-}
-
 void DatabasesViewModel::refresh(const ChangeSet &changes)
 {
     const RecordChanges &tables = changes.of<DatabaseTable>();

@@ -82,8 +82,6 @@ public:
     Q_INVOKABLE static bool isName(const QString &name) { return !name.trimmed().isEmpty(); }
     /// @param options separated by commas; only types with options keep them
     Q_INVOKABLE void addProperty(const QString &name, const QString &type, const QString &options);
-    /// Takes the property away; the values stay in the records.
-    Q_INVOKABLE void removeProperty(const QUuid &propertyID);
 
 signals:
     void selectedRowChanged();

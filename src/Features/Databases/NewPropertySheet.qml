@@ -25,7 +25,7 @@ OVSheet {
         nameField.text = ""
         optionsField.text = ""
         typeBox.currentIndex = 0
-        nameField.forceActiveFocus(Qt.OtherFocusReason)
+        nameField.focus = true
     }
 
     component Label: OVText {

@@ -5,8 +5,8 @@ import Orvel.DesignSystem
 OVPressable {
     id: root
 
-    implicitHeight: Theme.rowHeight + Theme.space8
-    leftPadding: Theme.space12
+    implicitHeight: Theme.rowHeight
+    leftPadding: Theme.space8
     radius: Theme.cornerMark
     rightPadding: Theme.space12
     text: qsTr("New record")

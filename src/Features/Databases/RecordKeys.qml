@@ -14,9 +14,14 @@ QtObject {
     property bool ringShown: false
     /// The column where Tab began to go from cell to cell; -1 while it does not.
     property int fillColumn: -1
+    /// What the Edit menu asks a text field: whether there is something to copy, and room for what is pasted.
+    readonly property bool selectedText: row >= 0
+    readonly property bool canPaste: row >= 0
 
     /// The cell under the cursor has to be brought into view and opened.
     signal openRequested(typed: string)
+    /// A new record is wanted, beside the one under the cursor.
+    signal newRequested()
     /// The record is about to go.
     signal removing()
 
@@ -83,6 +88,10 @@ QtObject {
             return true
         case Qt.Key_V:
             paste()
+            return true
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+            newRequested()
             return true
         case Qt.Key_D:
             duplicate()

@@ -28,7 +28,20 @@ OVMenu {
         onTriggered: root.keys.clear()
     }
 
+    OVMenuItem {
+        symbol: "slider.horizontal.3"
+        text: qsTr("Edit property…")
+        onTriggered: root.keys.records.editProperty(root.keys.column)
+    }
+
     OVMenuSeparator { }
+
+    OVMenuItem {
+        shortcutText: "Ctrl Return"
+        symbol: "plus"
+        text: qsTr("New record")
+        onTriggered: root.keys.newRequested()
+    }
 
     OVMenuItem {
         shortcutText: "Ctrl D"

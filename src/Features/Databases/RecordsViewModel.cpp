@@ -254,11 +254,15 @@ bool RecordsViewModel::showTable()
         if (found != table->views.end())
             view = *found;
     }
-    const bool hasOtherColumns = std::exchange(m_properties, properties) != properties;
+    const QList<DBProperty> known = std::exchange(m_properties, properties);
+    const bool hasOtherColumns = known != properties;
+    const bool isSameTable = std::exchange(m_shownTable, m_tableID) == m_tableID;
     if (hasOtherColumns) {
         m_columns = columnsOf(properties);
         ++m_columnsRevision;
         emit columnsChanged();
+        if (isSameTable && properties.size() == known.size() + 1)
+            emit columnAdded(columnOf(properties.last().id));
     }
     const DBView before = std::exchange(m_view, view);
     m_placeKeys = placeKeys();

@@ -85,6 +85,16 @@ public:
     /// are too few.
     Q_INVOKABLE void paste(const QUuid &recordID, int column);
 
+    /// Asks for the form that changes the property of a column.
+    Q_INVOKABLE void editProperty(int column);
+    /// Sorts by this column before all others.
+    Q_INVOKABLE void sortBy(int column, bool descending);
+    /// Whether a column can be put so many places further on.
+    Q_INVOKABLE bool canMoveColumn(int column, int places) const;
+    Q_INVOKABLE void moveColumn(int column, int places);
+    /// Takes the property away; the values stay in the records.
+    Q_INVOKABLE void removeColumn(int column);
+
     /// Adds a record at the end, which stays in view until it has been edited.
     /// @param group the label of the group that it is to stand in; else it is empty
     Q_INVOKABLE QUuid addRecord(const QString &group = {});
@@ -96,6 +106,9 @@ signals:
     void layoutChanged();
     void columnsChanged();
     void countsChanged();
+    void propertyEditRequested(const QUuid &propertyID);
+    /// The database has a new property.
+    void columnAdded(int column);
     /// A step was undone in this row.
     void revealed(int row, int column);
     /// Records have come, gone or moved.
@@ -132,6 +145,8 @@ private:
 
     QUuid m_tableID;
     QUuid m_viewID;
+    /// The database whose columns are known.
+    QUuid m_shownTable;
     DBView m_view;
     QList<RecordColumn> m_columns;
     QList<DBProperty> m_properties;

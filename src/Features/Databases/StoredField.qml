@@ -8,10 +8,11 @@ OVTextField {
 
     /// The text as it is stored.
     required property string stored
+    property color ink: Theme.ovInk
 
     plain: true
     storeBacked: true
-    color: elided.visible ? "transparent" : Theme.ovInk
+    color: elided.visible ? "transparent" : ink
 
     Component.onCompleted: text = stored
     Keys.onEscapePressed: event => {
@@ -19,7 +20,11 @@ OVTextField {
         nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
     }
     onAccepted: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
-    onActiveFocusChanged: Orvel.undo.endTyping()
+    onActiveFocusChanged: {
+        Orvel.undo.endTyping()
+        if (activeFocus && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason))
+            selectAll()
+    }
     onRedoRequested: Orvel.undo.redo()
     onStoredChanged: {
         if (text === stored || inputMethodComposing)
@@ -34,6 +39,7 @@ OVTextField {
         id: elided
         Accessible.ignored: true
         anchors.fill: parent
+        color: field.ink
         font: field.font
         text: field.text
         visible: !field.autoScroll && field.contentWidth > field.width

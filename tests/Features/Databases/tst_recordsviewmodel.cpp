@@ -345,7 +345,7 @@ void RecordsViewModelTest::goneViewsAndPropertiesDoNoHarm()
     add({u"A"_s});
     m_model->flush();
     QCOMPARE(m_model->rows()->rowCount(), 0);
-    frame.removeProperty(m_properties[item].id);
+    m_model->removeColumn(0);
     settings.flush();
     m_model->flush();
     QCOMPARE(

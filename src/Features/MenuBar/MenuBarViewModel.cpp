@@ -13,13 +13,25 @@ MenuBarViewModel::MenuBarViewModel(QObject *parent) : ViewModel(parent)
     followDays();
 }
 
+void MenuBarViewModel::start()
+{
+    connect(&clock(), &Clock::ticked, this, [this] {
+        if (m_shown.greeting != currentGreeting())
+            requestRefresh();
+    });
+}
+
+QString MenuBarViewModel::currentGreeting() const
+{
+    return store().settings().greeting(toDateTime(store().now(), clock().timeZone()).time().hour());
+}
+
 void MenuBarViewModel::refresh(const ChangeSet &)
 {
     const AppSettings &settings = store().settings();
-    const int hour = toDateTime(store().now(), clock().timeZone()).time().hour();
     Shown next{.icon = settings.workspaceIcon,
                .name = OrvelNavigation::windowTitle(settings),
-               .greeting = settings.greeting(hour),
+               .greeting = currentGreeting(),
                .habitCount = int(HabitOperations::doneToday(store())),
                .listsTasks = settings.menuBarShowsTasks};
     const TaskDay day(clock());

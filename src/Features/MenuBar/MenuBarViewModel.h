@@ -64,7 +64,9 @@ private:
         bool operator==(const Shown &) const = default;
     };
 
+    void start() override;
     void refresh(const ChangeSet &changes) override;
+    QString currentGreeting() const;
 
     Shown m_shown;
     KeyedListModel<MenuBarTask> m_tasks;

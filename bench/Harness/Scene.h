@@ -68,11 +68,11 @@ public:
     }
 
     /// To the moment when nothing is left to do but to draw.
-    Comparison::Duration press(int key, const QString &text = {})
+    Comparison::Duration press(int key, const QString &text = {}, Qt::KeyboardModifiers modifiers = {})
     {
         return timed([&] {
             for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                QKeyEvent event(type, key, Qt::NoModifier, text);
+                QKeyEvent event(type, key, modifiers, text);
                 QCoreApplication::sendEvent(&m_window, &event);
             }
             settle();

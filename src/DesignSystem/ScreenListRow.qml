@@ -15,6 +15,8 @@ FocusScope {
     property int rowHeight: Theme.rowHeight
     /// Whether a row that is added to a shown list fades in.
     property bool fadesIn: true
+    /// Whether the row collapses when it is removed.
+    property bool collapses: true
     readonly property ScreenList list: ListView.view as ScreenList
     readonly property bool visualFocus: activeFocus && list.keys.ringShown
     readonly property alias hovered: pointer.hovered
@@ -45,6 +47,8 @@ FocusScope {
             (entry.createObject(row) as Animation).start()
     }
     ListView.onRemove: {
+        if (!collapses)
+            return
         row.ListView.delayRemove = true;
         (removal.createObject(row) as OVRemoval).begin()
     }

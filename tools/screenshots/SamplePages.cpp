@@ -33,7 +33,7 @@ QUuid SamplePages::everyBlock(WorkspaceStore &store)
         {{.text = longText},
          {.type = heading1, .text = u"What we saw"_s},
          {.text = u"A short line, then the lists."_s},
-         {.type = bulleted, .text = u"Low tide at nine"_s},
+         {.type = bulleted, .text = u"Low tide at nine, by https://tides.example/today"_s},
          {.type = bulleted, .text = longText},
          {.type = numbered, .text = u"Pack the boat"_s},
          {.type = numbered, .text = u"Check the weather twice"_s},

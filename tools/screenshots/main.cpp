@@ -322,8 +322,18 @@ QList<Picture> pagePictures()
         add("slash-" + name.toLatin1(), editorPage("view.list.focusBlock(0, 1)"), windowSize, workshop, look);
     }
     add("slash-low", editorPage("view.list.focusBlock(5, 1)"), smallSize, workshop, light);
-    add("menu", editorPage("const row = view.list.rowAt(4); view.list.openMenu(row, row)"), windowSize,
+    add("menu", editorPage("const row = view.list.rowAt(4); view.list.menus.openMenu(row, row)"), windowSize,
         workshop, light);
+    const QByteArray select =
+        "const first = view.list.rowAt(1).blockID; view.editor.selection.select(first, first); "
+        "view.editor.selection.extend(7); ";
+    for (const auto &[name, look] : looks())
+        add("selection-" + name.toLatin1(), editorPage(select), windowSize, every, look);
+    add("selection-small-huge", editorPage(select), smallSize, every, both(light, huge));
+    add("selection-all", editorPage("view.editor.selection.selectAll()"), tall, every, light);
+    add("selection-menu",
+        editorPage(select + "const row = view.list.rowAt(4); view.list.menus.openMenu(row, row)"), windowSize,
+        every, light);
     add("zen", editorPage("view.editor.isZen = true"), windowSize, every, light);
     add("zen-dark", editorPage("view.editor.isZen = true"), windowSize, every, dark);
     return pictures;

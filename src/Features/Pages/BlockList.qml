@@ -10,6 +10,8 @@ BlockKeys {
     /// The row under the pointer.
     readonly property BlockRow hoveredRow: count > 0 && pointer.hovered
             ? rowAt(indexAt(width / 2, root.mapFromItem(null, 0, pointer.pointerY).y + contentY)) : null
+    readonly property alias menus: menus
+
     draggedRow: drag.row
     // New blocks come while the user types, when nothing else may move.
     addDisplaced: null

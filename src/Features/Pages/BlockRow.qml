@@ -51,6 +51,8 @@ ScreenListRow {
         return false
     }
 
+    // Nothing moves while the user types.
+    collapses: !(list as BlockKeys).caret.typing
     fadesIn: false
     onCaretMoved: caretPosition = part.input?.cursorPosition ?? caretPosition
     rowHeight: Math.ceil(loader.height)

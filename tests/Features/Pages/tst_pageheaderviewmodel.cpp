@@ -102,6 +102,12 @@ void PageHeaderViewModelTest::wordsAreCountedAfterTheChange()
         });
     QCOMPARE(m_header->wordsText(), QStringLiteral("3 words"));
     QTRY_COMPARE(m_header->wordsText(), QStringLiteral("201 words"));
+    QCOMPARE(m_header->selectedWordsText(), QString());
+    m_header->setSelectedText(QStringLiteral("wide\tsea \U0001F30A"));
+    QTRY_COMPARE(m_header->selectedWordsText(), QStringLiteral("3 words selected"));
+    QCOMPARE(m_header->selectedCountsText(), QStringLiteral("3 words, 10 characters"));
+    m_header->setSelectedText({});
+    QTRY_COMPARE(m_header->selectedWordsText(), QString());
     QCOMPARE(m_header->readingTimeText(), QStringLiteral("2 min read"));
     QCOMPARE(counts.count(), 1);
 }

@@ -1,6 +1,7 @@
 #include "Features/Pages/BlockClipboard.h"
 #include "Features/Pages/BlockHtml.h"
 #include "Features/Pages/PageEditorViewModel.h"
+#include "Features/Pages/TextLinks.h"
 #include "Harness/TestWorkspace.h"
 #include "Store/SnapshotCodec.h"
 
@@ -53,6 +54,8 @@ private slots:
     void readsHtmlFromElsewhere();
     void makesKindsOfTypedSigns_data();
     void makesKindsOfTypedSigns();
+    void opensOnlySafeLinks_data();
+    void opensOnlySafeLinks();
     void undoesRandomWalksByteForByte();
     void spansTenThousandBlocks();
 
@@ -299,6 +302,46 @@ void PageSelectionTest::makesKindsOfTypedSigns()
     open({block(signs.chopped(1) + u"x"_s)});
     m_model->setText(id(0), signs, int(signs.size()));
     QCOMPARE(described(), u"paragraph:"_s + signs);
+}
+
+void PageSelectionTest::opensOnlySafeLinks_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("links");
+    const auto row = [](const QString &text, const QString &links) {
+        QTest::newRow(qPrintable(text)) << text << links;
+    };
+    row(u"see https://a.example/b_(c)?d=1#e. And (http://f.example)!"_s,
+        u"https://a.example/b_(c)?d=1#e http://f.example"_s);
+    row(u"[text](https://a.example/b) <www.a.example>"_s, u"https://a.example/b https://www.a.example"_s);
+    row(u"HTTPS://A.example, mailto:a@b.example; a@b.example"_s, u"https://a.example mailto:a@b.example"_s);
+    row(u"file:///bin/sh javascript:alert(1) data:text/html,x ftp://a.example smb://a/b"_s, u""_s);
+    row(u"https:// http://?x mailto: mailto:@ www. xhttps://a.example user@www.a.example"_s, u""_s);
+}
+
+void PageSelectionTest::opensOnlySafeLinks()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, links);
+    QStringList found;
+    for (const TextLinks::Link &link : TextLinks::in(text))
+        found.append(link.url.toString());
+    QCOMPARE(found.join(u' '), links);
+
+    open({block(text)});
+    QStringList opened;
+    m_model->setLinkOpener([&](const QUrl &url) {
+        opened.append(url.toString());
+        return false;
+    });
+    QSignalSpy messages(m_model.get(), &PageEditorViewModel::message);
+    for (const QString &word : text.split(u' '))
+        m_model->openLink(word);
+    for (const QString &link : opened)
+        QVERIFY(link.startsWith(u"http"_s) || link.startsWith(u"mailto:"_s));
+    QCOMPARE(messages.size(), opened.size());
+    for (int place = 0; place <= text.size(); ++place)
+        QVERIFY(links.isEmpty() ? m_model->linkIn(text, place).isEmpty() : true);
 }
 
 void PageSelectionTest::act(int choice)

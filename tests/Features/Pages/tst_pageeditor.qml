@@ -467,6 +467,31 @@ Item {
             tryVerify(() => texts() === "one|four|two||three")
         }
 
+        function test_worksOnSelectedBlocks() {
+            open(["one", "two", "three", "four"])
+            edit("two", 0)
+            keyClick(Qt.Key_Down, Qt.ShiftModifier)
+            compare(selectedRows(), "1 2")
+            // The grip of one of them drags all.
+            mouseMove(field("three"))
+            const grip = named("Block menu", OVIconButton)
+            const steps = grip.mapFromItem(field("one"), 0, 0).y - 20
+            mousePress(grip)
+            for (let way = 0; way >= steps; way -= 10)
+                mouseMove(grip, 5, way, -1, Qt.LeftButton)
+            mouseRelease(grip, 5, steps)
+            tryVerify(() => texts() === "two|three|one|four")
+            tryVerify(() => selectedRows() === "0 1")
+            keyClick(Qt.Key_Menu)
+            choose("Duplicate")
+            tryVerify(() => selectedRows() === "2 3")
+            compare(texts(), "two|three|two|three|one|four")
+            Composer.commit("中文")
+            at("中文", 2)
+            compare(texts(), "two|three|中文|one|four")
+            compare(selectedRows(), "")
+        }
+
         function test_drawsLinksWhereTheCaretIsNot() {
             open(["see https://a.example/b. and", "end"])
             const text = field("see https://a.example/b. and")

@@ -31,6 +31,8 @@ RowLayout {
 
             OVText {
                 Layout.fillWidth: true
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.sizeCardTitle
                 role: OVText.ScreenTitle
                 text: root.title
                 Accessible.role: Accessible.Heading
@@ -40,8 +42,11 @@ RowLayout {
         OVText {
             Layout.fillWidth: true
             color: Theme.ovInkSecondary
+            lineHeight: 1
+            maximumLineCount: 2
             text: root.subtitle
             visible: text !== ""
+            wrapMode: Text.Wrap
         }
     }
 

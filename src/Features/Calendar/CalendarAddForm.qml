@@ -50,7 +50,7 @@ ScreenAddForm {
         OVSegmentedControl {
             anchors.verticalCenter: parent.verticalCenter
             currentIndex: root.kinds.findIndex(choice => choice.raw === root.form.kind)
-            model: root.kinds.map(choice => choice.raw)
+            model: root.kinds.map(choice => choice.label)
             Accessible.name: qsTr("Kind")
             onActivated: index => root.form.kind = root.kinds[index].raw
         }

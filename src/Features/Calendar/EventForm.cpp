@@ -42,3 +42,11 @@ void EventForm::reset()
         emit timeEnabledChanged();
     setKind(enumRawText(EventKind::event));
 }
+
+QList<Choice> EventForm::kinds()
+{
+    QList<Choice> kinds = Choice::all<EventKind>();
+    for (Choice &kind : kinds)
+        kind.label = kind.label.toLower();
+    return kinds;
+}

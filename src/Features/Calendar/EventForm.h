@@ -32,7 +32,7 @@ public:
     EventKind kind() const { return m_kind; }
     /// Unknown texts are ignored.
     void setKind(const QString &kind);
-    static QList<Choice> kinds() { return Choice::all<EventKind>(); }
+    static QList<Choice> kinds();
     bool canAdd() const { return !m_title.trimmed().isEmpty(); }
 
     /// After midnight; nothing for an all-day event.

@@ -49,10 +49,11 @@ Column {
         x: -root.bleed
 
         function show(index: int) {
+            if (!interactive || index < 0 || index >= repeater.count)
+                return
             const tile = repeater.itemAt(index)
-            if (tile && interactive)
-                contentX = Math.max(0, Math.min(contentWidth - width, Math.min(tile.x, Math.max(
-                    contentX, tile.x + tile.width + 2 * root.bleed - width))))
+            contentX = Math.max(0, Math.min(contentWidth - width, Math.min(tile.x, Math.max(
+                contentX, tile.x + tile.width + 2 * root.bleed - width))))
         }
 
         Behavior on contentX {

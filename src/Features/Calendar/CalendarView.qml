@@ -46,7 +46,7 @@ FocusScope {
             list.contentY = Math.min(bottom - list.height, list.originY + list.contentHeight - list.height)
     }
 
-    function remove(row: CalendarItemRow) {
+    function remove(row: var) {
         const reason = list.keys.ringShown ? Qt.TabFocusReason : Qt.MouseFocusReason
         const after = list.keys.stopFrom(row.index + 1, 1)
         const next = after < 0 ? list.keys.stopFrom(row.index - 1, -1) : after

@@ -15,7 +15,7 @@ Rectangle {
     /// The row before which the block would stand.
     property int target: 0
 
-    function move(row: BlockRow, sceneY: real) {
+    function move(row: var, sceneY: real) {
         if (root.row !== row) {
             root.row = row
             if (!editor.selection.includes(row.index))

@@ -6,9 +6,9 @@ import Orvel.Session
 BlockSelecting {
     id: root
 
-    signal menuRequested(row: BlockRow)
+    signal menuRequested(row: var)
 
-    function handleKey(row: BlockRow, event: KeyEvent) {
+    function handleKey(row: var, event: KeyEvent) {
         const control = (event.modifiers & Qt.ControlModifier) !== 0
         const shift = (event.modifiers & Qt.ShiftModifier) !== 0
         if (![Qt.Key_Up, Qt.Key_Down, Qt.Key_PageUp, Qt.Key_PageDown].includes(event.key))
@@ -27,7 +27,7 @@ BlockSelecting {
     }
 
     /// Goes on to the next part of the block, or to the block after it.
-    function tabFrom(row: BlockRow, forward: bool) {
+    function tabFrom(row: var, forward: bool) {
         const stops = row.part.stops()
         const next = stops.findIndex(stop => stop.activeFocus) + (forward ? 1 : -1)
         if (next >= 0 && next < stops.length)
@@ -38,7 +38,7 @@ BlockSelecting {
 
     /// Pastes into the text; false for what the field does by itself.
     /// @param plain whether the clipboard is taken as lines of text
-    function paste(row: BlockRow, plain: bool): bool {
+    function paste(row: var, plain: bool): bool {
         const field = row.part.input
         if (field && !field.activeFocus)
             return false
@@ -51,7 +51,7 @@ BlockSelecting {
     }
 
     /// Does what a key means for any block; false for any other.
-    function actOnBlock(row: BlockRow, key: int, control: bool, shift: bool): bool {
+    function actOnBlock(row: var, key: int, control: bool, shift: bool): bool {
         const direction = key === Qt.Key_Up || key === Qt.Key_PageUp ? -1 : 1
         switch (key) {
         case Qt.Key_Up:
@@ -91,7 +91,7 @@ BlockSelecting {
     }
 
     /// Does what a key means where a line of text is written; false for any other.
-    function actOnText(row: BlockRow, key: int, control: bool, shift: bool): bool {
+    function actOnText(row: var, key: int, control: bool, shift: bool): bool {
         if (control) {
             const isEnd = key === Qt.Key_Home || key === Qt.Key_End
             if (isEnd && !shift)

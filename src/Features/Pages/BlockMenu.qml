@@ -16,7 +16,7 @@ OVMenu {
     /// The address that the caret is in; empty for none.
     property string link: ""
 
-    function openFor(row: BlockRow, from: Item) {
+    function openFor(row: var, from: Item) {
         root.row = row
         isOfSelection = selection.includes(row.index)
         hadFocus = row.activeFocus

@@ -13,7 +13,7 @@ Item {
     readonly property bool menuOpen: (menu.item as BlockMenu)?.visible ?? false
     readonly property BlockRow menuRow: (menu.item as BlockMenu)?.row ?? null
 
-    function openMenu(row: BlockRow, from: Item) {
+    function openMenu(row: var, from: Item) {
         menu.active = true;
         (menu.item as BlockMenu).openFor(row, from)
     }
@@ -30,7 +30,7 @@ Item {
         openMenu(row, pointMark)
     }
 
-    function openTextMenu(row: BlockRow, x: real, y: real) {
+    function openTextMenu(row: var, x: real, y: real) {
         const field = row?.part.input as BlockField
         const place = field?.mapFromItem(root, x, y)
         if (!field?.contains(place))
@@ -43,7 +43,7 @@ Item {
         shown.popup(field, place.x, place.y)
     }
 
-    function openToneMenu(row: BlockRow, from: Item) {
+    function openToneMenu(row: var, from: Item) {
         tones.active = true
         const toneMenu = tones.item as ChoiceMenu
         toneMenu.row = row

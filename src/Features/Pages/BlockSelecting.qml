@@ -10,7 +10,7 @@ BlockFocus {
     readonly property string selectedText: (currentItem as BlockRow)?.part?.input?.selectedText ?? ""
 
     /// Goes on with the selection beyond the text that the focus is in; false if the key stays in the text.
-    function selectByKey(row: BlockRow, key: int, control: bool, shift: bool): bool {
+    function selectByKey(row: var, key: int, control: bool, shift: bool): bool {
         const input = row.part.input
         if (control && !shift && key === Qt.Key_A) {
             const isWhole = !input || input.selectionEnd - input.selectionStart === input.length
@@ -32,7 +32,7 @@ BlockFocus {
     }
 
     /// Whether this key with Shift has nothing more to select in the text.
-    function isBeyond(row: BlockRow, key: int, control: bool, direction: int): bool {
+    function isBeyond(row: var, key: int, control: bool, direction: int): bool {
         const input = row.part.input
         const isLeftwards = input?.effectiveHorizontalAlignment === TextEdit.AlignRight
         const edge = (direction < 0) !== (isLeftwards && [Qt.Key_Left, Qt.Key_Right].includes(key)) ? 0 : input?.length ?? 0
@@ -52,7 +52,7 @@ BlockFocus {
     }
 
     /// A click with Shift selects up to this row, from the block that has the focus; false if it stays in that block.
-    function selectTo(row: BlockRow): bool {
+    function selectTo(row: var): bool {
         const from = currentItem as BlockRow
         if (!selection.active && (!from?.activeFocus || from === row))
             return false

@@ -17,7 +17,7 @@ Item {
     }
 
     /// The address under a point; empty for none.
-    function linkAt(row: BlockRow, x: real, y: real): string {
+    function linkAt(row: var, x: real, y: real): string {
         const field = row.part?.input as BlockField
         const place = field?.mapFromItem(root, x, y)
         return field?.contains(place) ? list.editor.linkIn(field.text, field.positionAt(place.x, place.y)) : ""

@@ -55,7 +55,7 @@ FocusScope {
     }
 
     /// Opens the menu of an entry that has one, at a point of an item. The menus are made when one is first asked for.
-    function openMenu(entry: SidebarEntry, from: Item, x: real, y: real) {
+    function openMenu(entry: var, from: Item, x: real, y: real) {
         if (!menus)
             menus = menusComponent.createObject(root) as SidebarMenus
         menus.open(entry, from, x, y)

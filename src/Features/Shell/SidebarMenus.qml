@@ -13,7 +13,7 @@ Item {
     property var folderID
 
     /// Opens the menu of an entry that has one, at a point of an item.
-    function open(entry: SidebarEntry, from: Item, x: real, y: real) {
+    function open(entry: var, from: Item, x: real, y: real) {
         if (entry.isPage) {
             pageActions.open(entry.recordID)
             pageMenu.popup(from, x, y)

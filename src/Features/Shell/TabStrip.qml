@@ -31,9 +31,10 @@ FocusScope {
     }
 
     function reveal(tab: int) {
+        if (tab < 0 || tab >= repeater.count)
+            return
         const item = repeater.itemAt(tab)
-        if (item)
-            flickable.contentX = Math.max(item.x + item.width + 2 * margin - width, Math.min(item.x, flickable.contentX))
+        flickable.contentX = Math.max(item.x + item.width + 2 * margin - width, Math.min(item.x, flickable.contentX))
     }
 
     clip: flickable.interactive

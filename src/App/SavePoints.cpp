@@ -12,6 +12,13 @@ using namespace std::chrono_literals;
 namespace
 {
 SavePoints *current = nullptr;
+
+void saveOrEnd(WorkspaceStore &store)
+{
+    // A thread that hangs at a disk would keep the process for as long as the disk does.
+    if (!store.saveAtExit())
+        std::_Exit(EXIT_FAILURE);
+}
 } // namespace
 
 SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplication *application)
@@ -23,7 +30,7 @@ SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplicatio
     connect(
         application, &QGuiApplication::commitDataRequest, this, [this] { m_store->saveNow(); },
         Qt::DirectConnection);
-    connect(application, &QCoreApplication::aboutToQuit, m_store, &WorkspaceStore::saveAtExit);
+    connect(application, &QCoreApplication::aboutToQuit, this, &SavePoints::saveAtExit);
 
     // Toolkit and display libraries call `exit` when the display is gone, without a word before.
     static const bool isRegistered = std::atexit([] {
@@ -62,7 +69,7 @@ void SavePoints::applicationStateChanged(Qt::ApplicationState state)
 void SavePoints::saveAtExit()
 {
     if (QThread::currentThread() == thread()) {
-        m_store->saveAtExit();
+        saveOrEnd(*m_store);
         return;
     }
     // The thread that draws may be the first to notice. The workspace belongs to the main thread, which goes
@@ -70,7 +77,7 @@ void SavePoints::saveAtExit()
     static constexpr auto patience = 5s;
     const auto saved = std::make_shared<QSemaphore>();
     QMetaObject::invokeMethod(m_store, [store = m_store, saved] {
-        store->saveAtExit();
+        saveOrEnd(*store);
         saved->release();
     });
     saved->tryAcquire(1, patience / 1ms);

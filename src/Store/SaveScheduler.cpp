@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <future>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -57,21 +58,42 @@ void SaveScheduler::saveSoon()
 
 bool SaveScheduler::saveNow()
 {
-    finishWork();
+    return saveBefore(QDeadlineTimer::Forever);
+}
+
+bool SaveScheduler::saveBefore(QDeadlineTimer deadline)
+{
+    if (!finishWork(deadline))
+        return false;
     if (isUnsaved()) {
         saveSoon();
-        finishWork();
+        if (!finishWork(deadline))
+            return false;
     }
     return !isUnsaved();
 }
 
-void SaveScheduler::saveAtExit()
+bool SaveScheduler::saveAtExit()
 {
+    const QDeadlineTimer deadline(m_delays.exit);
     // Whatever was in the way may be gone by now.
-    if (saveNow() || saveNow())
-        return;
+    if (saveBefore(deadline) || saveBefore(deadline))
+        return true;
+    const bool isElsewhere = saveElsewhere();
+    const std::lock_guard lock(m_mutex);
+    return isElsewhere && !m_isWorking;
+}
+
+/// Tells whether the writing came to an end, whatever came of it.
+bool SaveScheduler::saveElsewhere()
+{
     const QString folder = QDir::tempPath();
-    const auto place = m_file->saveInto(folder, m_takeSnapshot());
+    std::packaged_task<std::expected<QString, QString>()> write(
+        [file = m_file, folder, snapshot = m_takeSnapshot()] { return file->saveInto(folder, snapshot); });
+    auto written = write.get_future();
+    std::thread(std::move(write)).detach();
+    const bool isDone = written.wait_for(m_delays.exit) == std::future_status::ready;
+    const auto place = isDone ? written.get() : std::unexpected(QStringLiteral("the disk does not answer"));
     if (place)
         std::printf("[Orvel] The workspace could not be saved. It was written to %s\n",
                     qUtf8Printable(*place));
@@ -79,6 +101,7 @@ void SaveScheduler::saveAtExit()
         std::printf("[Orvel] Neither could the workspace be written to %s: %s\n", qUtf8Printable(folder),
                     qUtf8Printable(place.error()));
     std::fflush(stdout);
+    return isDone;
 }
 
 void SaveScheduler::setNotice(const QString &notice)
@@ -127,7 +150,7 @@ void SaveScheduler::work()
     }
 }
 
-void SaveScheduler::finishWork()
+bool SaveScheduler::finishWork(QDeadlineTimer deadline)
 {
     const auto isWorking = [this] {
         std::unique_lock lock(m_mutex);
@@ -136,10 +159,15 @@ void SaveScheduler::finishWork()
     do {
         {
             std::unique_lock lock(m_mutex);
-            m_wake.wait(lock, [this] { return !m_isWorking; });
+            const auto isFree = [this] { return !m_isWorking; };
+            if (deadline.isForever())
+                m_wake.wait(lock, isFree);
+            else if (!m_wake.wait_for(lock, std::chrono::milliseconds(deadline.remainingTime()), isFree))
+                return false;
         }
         takeResult();
     } while (isWorking());
+    return true;
 }
 
 void SaveScheduler::takeResult()

@@ -2,6 +2,7 @@
 
 #include "Store/WorkspaceFile.h"
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -32,6 +33,8 @@ public:
         /// From a failed save to the next; it doubles with each failure up to the longest.
         std::chrono::milliseconds firstRetry{1000};
         std::chrono::milliseconds longestRetry{30'000};
+        /// How long the end of the program waits for a disk that does not answer.
+        std::chrono::milliseconds exit{15'000};
     };
 
     /// @param file lives longer than the scheduler, and belongs to its thread while a save is under way
@@ -55,8 +58,10 @@ public:
     /// Saves what has changed and waits until it is on disk. Tells whether everything is.
     bool saveNow();
     /// The last save of the program. If it fails even when repeated, the workspace goes into the temporary
-    /// folder, and a line on standard output says where.
-    void saveAtExit();
+    /// folder, and a line on standard output says where. A disk that does not answer in time counts as
+    /// failed. Returns whether the program can end in order. Otherwise a thread still hangs at a disk, and
+    /// nothing but the end of the process gets rid of it.
+    [[nodiscard]] bool saveAtExit();
 
 signals:
     void problemChanged();
@@ -67,7 +72,10 @@ private:
     bool isUnsaved() const { return m_changes != m_savedChange; }
     void start();
     void work();
-    void finishWork();
+    /// Waits for the save under way. Tells whether it came to its end before the deadline.
+    bool finishWork(QDeadlineTimer deadline = QDeadlineTimer::Forever);
+    bool saveBefore(QDeadlineTimer deadline);
+    bool saveElsewhere();
     void takeResult();
     void setProblem(const QString &problem);
 

@@ -95,7 +95,7 @@ public:
     /// Each change is saved soon by itself; see `SaveScheduler` for this and the following.
     void saveSoon() { m_saves.saveSoon(); }
     bool saveNow() { return m_saves.saveNow(); }
-    void saveAtExit() { m_saves.saveAtExit(); }
+    [[nodiscard]] bool saveAtExit() { return m_saves.saveAtExit(); }
     /// Erases the workspace, the texts of the books, the undo history and all settings, and saves.
     void resetEverything(bool keepOnboarding);
 

@@ -104,6 +104,29 @@ private slots:
         QVERIFY(savedName("Ada"));
     }
 
+    void aDiskThatHangsHoldsNobodyUp()
+    {
+        const QTemporaryDir temporary(u"/dev/shm/orvel-XXXXXX"_s);
+        if (!temporary.isValid())
+            QSKIP("there is no second file system");
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"TMPDIR"_s, temporary.path());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(SAVE_POINTS_PROBE), {path(), u"hang"_s});
+        while (!program.canReadLine())
+            QVERIFY(program.waitForReadyRead());
+        QElapsedTimer time;
+        time.start();
+        program.terminate();
+        QVERIFY(program.waitForFinished(120'000));
+        QVERIFY2(time.elapsed() < 60'000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), EXIT_FAILURE);
+        QVERIFY(program.readAll().contains("It was written to " + QFile::encodeName(temporary.path())));
+        QCOMPARE(QDir(temporary.path()).entryList(QDir::Files).size(), 1);
+    }
+
     /// Neither a failed save nor the line that tells it ends the program.
     void failedWritesAreSurvived_data()
     {

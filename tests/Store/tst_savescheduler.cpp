@@ -96,13 +96,13 @@ private slots:
         Desk desk(never);
         QVERIFY(desk.scheduler.saveNow());
         desk.scheduler.saveSoon();
-        desk.scheduler.saveAtExit();
+        QVERIFY(desk.scheduler.saveAtExit());
         QCOMPARE(desk.attempts, 0);
         desk.change();
         desk.scheduler.noteChange();
         QVERIFY(desk.scheduler.saveNow());
         QVERIFY(desk.scheduler.saveNow());
-        desk.scheduler.saveAtExit();
+        QVERIFY(desk.scheduler.saveAtExit());
         QCOMPARE(desk.attempts, 1);
         QCOMPARE(desk.saved(), 1);
     }
@@ -172,7 +172,7 @@ private slots:
         desk.isFailing = true;
         desk.change();
         desk.scheduler.noteChange();
-        desk.scheduler.saveAtExit();
+        QVERIFY(desk.scheduler.saveAtExit());
         qunsetenv("TMPDIR");
         QCOMPARE(desk.attempts, 2);
         const QStringList names = QDir(temporary.path()).entryList(QDir::Files);
@@ -180,6 +180,23 @@ private slots:
         QFile file(temporary.filePath(names.first()));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), SnapshotCodec::encode(desk.workspace));
+    }
+
+    void theEndDoesNotWaitForADiskThatHangs()
+    {
+        const QTemporaryDir temporary;
+        qputenv("TMPDIR", QFile::encodeName(temporary.path()));
+        Desk desk({1h, 1h, 1h, 1h, 200ms});
+        desk.isSlow = true;
+        desk.change();
+        desk.scheduler.noteChange();
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(!desk.scheduler.saveAtExit());
+        qunsetenv("TMPDIR");
+        QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(QDir(temporary.path()).entryList(QDir::Files).size(), 1);
+        desk.isSlow = false;
     }
 
     void noticesStayUntilDismissed()

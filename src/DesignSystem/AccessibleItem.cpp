@@ -4,15 +4,26 @@
 
 #include <QQuickWindow>
 
+#include <algorithm>
+
 namespace
 {
+
+/// Whether its `Accessible.ignored` is set.
+bool isIgnored(const QQuickItem *item)
+{
+    return std::ranges::any_of(item->children(), [](const QObject *child) {
+        return child->inherits("QQuickAccessibleAttached") && child->property("ignored").toBool();
+    });
+}
 
 /// The nearest items within that assistive technology sees.
 void collect(const QQuickItem *parent, QList<QAccessibleInterface *> &found)
 {
     const QList<QQuickItem *> items = parent->childItems();
     for (QQuickItem *const item : items) {
-        if (QAccessibleInterface *const seen = QAccessible::queryAccessibleInterface(item))
+        QAccessibleInterface *const seen = QAccessible::queryAccessibleInterface(item);
+        if (seen && !isIgnored(item))
             found << seen;
         else
             collect(item, found);

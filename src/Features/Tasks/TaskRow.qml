@@ -179,7 +179,8 @@ ScreenListRow {
             due: row.due
             isOverdue: row.isOverdue
             text: row.dueText
-            Accessible.name: qsTr("Due: %1, %2").arg(row.dueText).arg(row.title)
+            Accessible.name: row.dueText === "" ? qsTr("No due date, %1").arg(row.title)
+                                                : qsTr("Due: %1, %2").arg(row.dueText).arg(row.title)
             onCleared: TaskActions.clearDue(row.taskID)
             onPicked: moment => TaskActions.setDue(row.taskID, moment)
         }

@@ -156,7 +156,7 @@ private:
 
     void actOnRest()
     {
-        switch (below(9)) {
+        switch (below(11)) {
         case 0:
             return HabitOperations::toggle(m_store, any<Habit>(), m_store.now());
         case 1:
@@ -178,6 +178,14 @@ private:
             return CodeOperations::remove(m_store, any<CodeDocument>());
         case 8:
             return EventOperations::remove(m_store, any<CalendarEvent>());
+        case 9:
+            EventOperations::create(m_store, text(), m_store.now() + std::chrono::hours(below(96) - 48),
+                                    below(2) ? std::optional<qint64>(below(1'440)) : std::nullopt,
+                                    EventKind::event);
+            break;
+        case 10:
+            HabitOperations::create(m_store, text(), QStringLiteral("🌱"), AccentPalette::green, below(9));
+            break;
         }
     }
 

@@ -4,6 +4,7 @@
 
 #include "DesignSystem/OVTheme.h"
 #include "DesignSystem/ThemePresets.h"
+#include "SampleDatabases.h"
 #include "SampleMonth.h"
 #include "SamplePages.h"
 #include "SamplePractice.h"
@@ -376,6 +377,39 @@ QList<Picture> palettePictures()
     return pictures;
 }
 
+/// A database in one of its layouts.
+Picture databasePicture(const QString &name, QSize size, const Look &look, void (*fill)(WorkspaceStore &),
+                        const QByteArray &script)
+{
+    return {QStringLiteral("database-") + name,
+            "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Databases\n"
+            "Item { OVBackground { anchors.fill: parent }\n"
+            "DatabasesView { id: view; anchors.fill: parent; focus: true; railWanted: false }\n"
+            "Timer { interval: 100; running: true; onTriggered: { view.viewModel.selectBy(0); " +
+                script + " } } }",
+            size, [fill](WorkspaceStore &store, UIState &) { fill(store); }, look};
+}
+
+QList<Picture> databasePictures()
+{
+    QList<Picture> pictures;
+    for (const EnumCase<DBViewType> &layout : enumCases<DBViewType>()) {
+        const QByteArray raw(layout.raw.data(), qsizetype(layout.raw.size()));
+        const QByteArray open = "view.viewModel.addView('" + raw + "')";
+        const QString name = QString::fromLatin1(raw) + u'-';
+        for (const auto &[lookName, look] : looks())
+            pictures.append(
+                databasePicture(name + lookName, windowSize, look, &SampleDatabases::ordinary, open));
+        pictures.append(databasePicture(name + QStringLiteral("empty"), windowSize, light,
+                                        &SampleDatabases::empty, open));
+        pictures.append(databasePicture(name + QStringLiteral("crowded"), windowSize, light,
+                                        &SampleDatabases::crowded, open));
+        pictures.append(databasePicture(name + QStringLiteral("crowded-small-huge"), smallSize,
+                                        both(light, huge), &SampleDatabases::crowded, open));
+    }
+    return pictures;
+}
+
 /// The screens of the modules, each empty, ordinary in every look, and crowded in a small window with huge
 /// text.
 QList<Picture> modulePictures()
@@ -587,10 +621,10 @@ int main(int argc, char *argv[])
         err << "The folder " << folder.path() << " cannot be made.\n";
         return 1;
     }
-    for (const Picture &picture : galleryPictures() + codePictures() + modulePictures() + notesPictures() +
-                                      onboardingPictures() + pagePictures() + planningPictures() +
-                                      palettePictures() + practicePictures() + shellPictures() +
-                                      tasksPictures()) {
+    for (const Picture &picture : galleryPictures() + codePictures() + databasePictures() + modulePictures() +
+                                      notesPictures() + onboardingPictures() + pagePictures() +
+                                      planningPictures() + palettePictures() + practicePictures() +
+                                      shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

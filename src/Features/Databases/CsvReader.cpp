@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <csv.h>
 #include <memory>
 
@@ -44,16 +45,47 @@ QByteArray toUtf8(const QByteArray &file)
         encoding && *encoding != QStringConverter::Utf8)
         return QString(QStringDecoder(*encoding).decode(file)).toUtf8();
     if (file.startsWith("\xEF\xBB\xBF"))
-        return file.mid(3);
-    QStringDecoder decoder(QStringConverter::Utf8);
-    for (qsizetype from = 0; from < file.size(); from += pieceSize) {
-        const QString piece =
-            decoder.decode(QByteArrayView(file).sliced(from, std::min(pieceSize, file.size() - from)));
-        if (decoder.hasError())
-            return fromWindows1252(file).toUtf8();
-    }
-    return file;
+        return toUtf8(file.mid(3));
+    return file.isValidUtf8() ? file : fromWindows1252(file).toUtf8();
 }
+
+/// Short texts that have come before, so that columns of few values share them.
+class KnownTexts
+{
+public:
+    QString text(const char *bytes, std::size_t length)
+    {
+        if (length == 0 || length > maxLength)
+            return made(bytes, length);
+        const auto unit = [bytes](std::size_t i) {
+            return std::size_t(static_cast<unsigned char>(bytes[i]));
+        };
+        Known &known =
+            m_known[(unit(0) * 31 + unit(length - 1) * 7 + unit(length / 2) + length) % m_known.size()];
+        if (known.length != length || std::memcmp(known.bytes.data(), bytes, length) != 0) {
+            std::memcpy(known.bytes.data(), bytes, length);
+            known.length = length;
+            known.text = made(bytes, length);
+        }
+        return known.text;
+    }
+
+private:
+    static constexpr std::size_t maxLength = 16;
+
+    struct Known {
+        std::array<char, maxLength> bytes{};
+        std::size_t length = 0;
+        QString text;
+    };
+
+    static QString made(const char *bytes, std::size_t length)
+    {
+        return CsvWriter::unguarded(QString::fromUtf8(bytes, qsizetype(length)));
+    }
+
+    std::array<Known, 1024> m_known;
+};
 
 /// Gathers what the parser finds.
 class Gatherer
@@ -62,8 +94,7 @@ public:
     static void cell(void *text, std::size_t length, void *self)
     {
         auto &gatherer = *static_cast<Gatherer *>(self);
-        gatherer.m_row.append(
-            CsvWriter::unguarded(QString::fromUtf8(static_cast<const char *>(text), qsizetype(length))));
+        gatherer.m_row.append(gatherer.m_texts.text(static_cast<const char *>(text), length));
     }
     static void row(int, void *self)
     {
@@ -103,6 +134,7 @@ private:
 
     CsvTable m_table;
     QStringList m_row;
+    KnownTexts m_texts;
     qsizetype m_cells = 0;
     bool m_hasNames = false;
     bool m_isTooLarge = false;

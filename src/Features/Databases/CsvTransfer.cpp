@@ -1,14 +1,11 @@
 #include "Features/Databases/CsvTransfer.h"
 
 #include "Features/Databases/CsvColumns.h"
-#include "Features/Databases/CsvWriter.h"
-#include "Features/Databases/DBEngine.h"
 #include "Foundation/LineText.h"
 #include "Store/DatabaseOperations.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -52,6 +49,7 @@ void CsvTransfer::run(std::function<std::function<void()>(Job &)> work)
     if (m_worker.joinable())
         m_worker.join();
     m_isBusy = true;
+    m_isExporting = false;
     m_progress = 0;
     m_error.clear();
     auto job = std::make_shared<Job>();
@@ -240,28 +238,26 @@ void CsvTransfer::saveView(const QUuid &tableID, const QUuid &viewID)
     const DatabaseTable *const table = store().list<DatabaseTable>().first(tableID);
     if (!table)
         return;
-    DBEngine::Rows records = DatabaseOperations::rows(store(), tableID);
+    CsvExport::Source source{table->properties, {}, {}, clock().timeZone(), QLocale()};
+    for (const DBRow *const record : DatabaseOperations::rows(store(), tableID))
+        source.records.append(*record);
     const auto view = std::ranges::find(table->views, viewID, &DBView::id);
     if (view != table->views.end())
-        records = DBEngine::applyView(records, table->properties, *view, clock().timeZone());
-    QStringList names;
-    for (const DBProperty &property : table->properties)
-        names.append(property.name);
-    QList<QStringList> rows;
-    for (const DBRow *const record : std::as_const(records)) {
-        QStringList row;
-        for (const DBProperty &property : table->properties)
-            row.append(record->value(property));
-        rows.append(std::move(row));
-    }
-    QString fileName = LineText::shownTitle(table->name).replace(u'/', u'-') + QStringLiteral(".csv");
-    m_dialog.ask(fileName, [this, names, rows](const std::optional<SaveFileDialog::Answer> &place) {
-        if (!place)
-            return;
-        QSaveFile file(place->path);
-        const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                               file.write(CsvWriter::write(names, rows)) >= 0 && file.commit();
-        emit saved(isWritten ? tr("Saved to %1").arg(place->path)
-                             : tr("“%1” could not be written: %2.").arg(place->path, file.errorString()));
+        source.view = *view;
+    const QString fileName = LineText::shownTitle(table->name).replace(u'/', u'-') + QStringLiteral(".csv");
+    m_dialog.ask(fileName, [this, source](const std::optional<SaveFileDialog::Answer> &place) {
+        if (place)
+            write(source, place->path);
     });
+}
+
+void CsvTransfer::write(const CsvExport::Source &source, const QString &path)
+{
+    run([this, source, path](Job &job) -> std::function<void()> {
+        const auto result = CsvExport::write(source, path, [&job](double share) { return job.goOn(share); });
+        const QString message = result ? tr("Saved to %1").arg(path) : result.error();
+        return [this, message] { emit saved(message); };
+    });
+    m_isExporting = true;
+    emit stateChanged();
 }

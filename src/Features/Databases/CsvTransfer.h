@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Features/Databases/CsvExport.h"
 #include "Features/Databases/CsvReader.h"
 #include "Foundation/KeyedListModel.h"
 #include "Models/DBRow.h"
@@ -33,7 +34,8 @@ public:
 };
 
 /// Takes files of comma-separated values in and writes them out. A file is read and made into records beside
-/// the window; nothing is added before that is done, and nothing at all if it is cancelled.
+/// the window; nothing is added before that is done, and nothing at all if it is cancelled. Writing goes on
+/// beside the window as well.
 class CsvTransfer : public ViewModel
 {
     Q_OBJECT
@@ -41,6 +43,8 @@ class CsvTransfer : public ViewModel
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY stateChanged FINAL)
     /// Whether a file has been read and its columns can be chosen.
     Q_PROPERTY(bool isRead READ isRead NOTIFY stateChanged FINAL)
+    /// Whether that is the writing of a file.
+    Q_PROPERTY(bool isExporting READ isExporting NOTIFY stateChanged FINAL)
     /// From 0 to 1.
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged FINAL)
     /// What went wrong; empty for nothing.
@@ -54,6 +58,7 @@ public:
     ~CsvTransfer() override;
 
     bool isBusy() const { return m_isBusy; }
+    bool isExporting() const { return m_isBusy && m_isExporting; }
     bool isRead() const { return !m_isBusy && m_table && !m_table->names.isEmpty(); }
     double progress() const { return m_progress; }
     const QString &error() const { return m_error; }
@@ -94,9 +99,11 @@ private:
 
     void run(std::function<std::function<void()>(Job &)> work);
     void showColumns();
+    void write(const CsvExport::Source &source, const QString &path);
     void makeRecords(const DatabaseTable &table, const QList<qsizetype> &propertyOf, bool isNew);
 
     bool m_isBusy = false;
+    bool m_isExporting = false;
     double m_progress = 0;
     QString m_error;
     QString m_name;

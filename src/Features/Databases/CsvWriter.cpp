@@ -17,8 +17,9 @@ bool isGuarded(QStringView text)
         ++marks;
     return marks > 0 && beginsFormula(text.mid(marks));
 }
+} // namespace
 
-void append(QByteArray &file, const QStringList &row)
+void CsvWriter::append(QByteArray &file, const QStringList &row)
 {
     for (qsizetype i = 0; i < row.size(); ++i) {
         QString cell = CsvWriter::guarded(row.at(i));
@@ -33,7 +34,6 @@ void append(QByteArray &file, const QStringList &row)
     }
     file.append("\r\n");
 }
-} // namespace
 
 QString CsvWriter::guarded(const QString &text)
 {

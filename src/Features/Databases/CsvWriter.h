@@ -7,6 +7,8 @@
 namespace CsvWriter
 {
 QByteArray write(const QStringList &names, const QList<QStringList> &rows);
+/// Writes one more row behind what is there.
+void append(QByteArray &file, const QStringList &row);
 
 /// The text as a spreadsheet program does not run it: with "'" before a beginning that would make it a
 /// formula. Numbers are left as they are.

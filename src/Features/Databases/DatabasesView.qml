@@ -66,6 +66,10 @@ FocusScope {
         viewModel: databases
     }
 
+    CsvExportSheet {
+        transfer: transfer
+    }
+
     OVToast {
         id: toast
     }

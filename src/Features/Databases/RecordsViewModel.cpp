@@ -301,9 +301,23 @@ void RecordsViewModel::requestLayout()
     requestRefresh();
 }
 
+DBEngine::Rows RecordsViewModel::allRows() const
+{
+    const auto &records = store().list<DBRow>();
+    if (m_counts.second <= records.size() / 8)
+        return DatabaseOperations::rows(store(), m_tableID);
+    // Most of the list is found faster by walking it than record by record.
+    DBEngine::Rows rows;
+    rows.reserve(m_counts.second);
+    for (const DBRow &record : records)
+        if (record.tableID == m_tableID)
+            rows.append(&record);
+    return rows;
+}
+
 void RecordsViewModel::layOut()
 {
-    const DBEngine::Rows all = DatabaseOperations::rows(store(), m_tableID);
+    const DBEngine::Rows all = allRows();
     DBEngine::Rows visible = DBEngine::applyView(all, m_properties, m_view, clock().timeZone());
     const std::pair<qsizetype, qsizetype> counts{visible.size(), all.size()};
     if (m_view.type == DBViewType::calendar)

@@ -123,6 +123,8 @@ private:
     bool showTable();
     void requestLayout();
     void layOut();
+    /// The records of the table in the order of their creation.
+    DBEngine::Rows allRows() const;
     void showRows(const DBEngine::Rows &visible);
     /// Moves one record to where it belongs among the others; false if all of them have to be laid out for
     /// that.

@@ -1,8 +1,11 @@
 #include "Features/Databases/CsvColumns.h"
+#include "Features/Databases/CsvExport.h"
 #include "Features/Databases/CsvReader.h"
 #include "Features/Databases/CsvWriter.h"
 
+#include <QFile>
 #include <QStringEncoder>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <random>
@@ -102,6 +105,35 @@ private slots:
             QCOMPARE(CsvWriter::guarded(text), u'\'' + text);
         for (const QString &text : {u"-5"_s, u"+1.5"_s, u"a=b"_s, u"'tis"_s, u""_s})
             QCOMPARE(CsvWriter::guarded(text), text);
+    }
+
+    /// A view is written as it shows its records, a file that could not be finished not at all.
+    void exportsWhatAViewShows()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.csv"_s);
+        CsvExport::Source source{.properties = {{QUuid::createUuid(), u"Name"_s, DBPropertyType::text, {}}},
+                                 .zone = QTimeZone::utc()};
+        const DBProperty &name = source.properties.first();
+        for (const QString &value : {u"c"_s, u"x"_s, u"a"_s})
+            source.records.append({.id = QUuid::createUuid(), .values = {{DBRow::valueKey(name.id), value}}});
+        source.view.filters = {{QUuid::createUuid(), name.id, FilterOp::isNot, u"x"_s}};
+        source.view.sorts = {{QUuid::createUuid(), name.id, false}};
+        const auto stored = [&path] {
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QVERIFY(CsvExport::write(source, path, [](double) { return true; }));
+        QCOMPARE(stored(), "\xEF\xBB\xBFName\r\na\r\nc\r\n"_ba);
+        source.records.clear();
+        source.records.fill({.id = QUuid::createUuid()}, 5000);
+        int calls = 0;
+        const auto canceled = CsvExport::write(source, path, [&calls](double) { return ++calls < 3; });
+        QVERIFY(!canceled && canceled.error().isEmpty());
+        QVERIFY(stored().endsWith("a\r\nc\r\n"));
+        const auto failed =
+            CsvExport::write(source, folder.filePath(u"none/a.csv"_s), [](double) { return true; });
+        QVERIFY(!failed && failed.error().contains(u"none/a.csv"_s));
     }
 
     void guessesTypesFromAllValues_data()

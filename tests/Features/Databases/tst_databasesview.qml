@@ -76,6 +76,19 @@ Item {
             return null
         }
 
+        /// The layout of the open view.
+        function findRecords(from = root.view) {
+            for (let i = 0; i < from.children.length; ++i) {
+                const child = from.children[i]
+                if (!child.visible)
+                    continue
+                const found = child instanceof DatabaseViewContent ? child : findRecords(child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
         function click(name) {
             tryVerify(() => find(name) !== null, 2000, "shows " + name)
             mouseClick(find(name))
@@ -171,6 +184,55 @@ Item {
             keyClick(Qt.Key_Escape)
             compare(values("Item"), "Plan|")
             compare(values("Status"), "|")
+        }
+
+        function test_aPropertyAndItsOptionsAreEdited() {
+            openTemplate("projectTracker")
+            click("New record")
+            type("Plan")
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Tab)
+            keyClick("d")
+            tryVerify(() => focused().text === "Done")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => values("Status") === "Done")
+            tryVerify(() => find("Status") !== null)
+            find("Status").forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_F2)
+            tryVerify(() => focused().text === "Status")
+            type("State")
+            const option = () => find("Option 3", root.Window.contentItem)
+            tryVerify(() => option() !== null)
+            option().forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            type("Finished")
+            keyClick(Qt.Key_Up, Qt.AltModifier)
+            tryCompare(focused(), "text", "Finished")
+            find("Name", root.Window.contentItem).forceActiveFocus()
+            keyClick(Qt.Key_Return)
+            tryVerify(() => saved().databases[0].properties[2].name === "State")
+            compare(saved().databases[0].properties[2].options.join(), "Not started,Finished,In progress")
+            compare(values("State"), "Finished")
+            // The head of the column has the keyboard again.
+            tryCompare(focused(), "text", "State")
+        }
+
+        function test_nothingHoldsTheKeyboardUnseen() {
+            open()
+            compare(focused().text, "New database")
+            openTemplate("projectTracker")
+            root.view.viewModel.selectViewBy(0)
+            findRecords().forceActiveFocus(Qt.TabFocusReason)
+            compare(focused().text, "New record")
+            keyClick(Qt.Key_Return)
+            type("Plan")
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_Return, Qt.ControlModifier)
+            type("Write")
+            keyClick(Qt.Key_Return)
+            compare(values("Item"), "Plan|Write")
+            keyClick(Qt.Key_Down)
+            compare(focused().text, "New record")
         }
 
         function test_viewSettingsChangeTheView() {

@@ -8,8 +8,6 @@
 #include <QClipboard>
 #include <QtTest>
 
-#include <random>
-
 using namespace Qt::StringLiterals;
 
 class RecordsViewModelTest : public QObject
@@ -30,7 +28,6 @@ private slots:
     void blocksComeThroughTheClipboardWhole_data();
     void blocksComeThroughTheClipboardWhole();
     void countsTellOfFilters();
-    void changesGiveWhatApplyingTheViewAfreshGives();
     void goneViewsAndPropertiesDoNoHarm();
     void ownStepsAreShownWhereTheyWere();
 
@@ -277,57 +274,6 @@ void RecordsViewModelTest::countsTellOfFilters()
     QCOMPARE(m_model->countText(), u"3 records"_s);
     filterTitle(FilterOp::contains, u"a"_s);
     QCOMPARE(m_model->countText(), u"2 of 3 records"_s);
-}
-
-void RecordsViewModelTest::changesGiveWhatApplyingTheViewAfreshGives()
-{
-    std::mt19937 random(29);
-    const auto below = [&random](qsizetype end) { return qsizetype(random() % std::size_t(end)); };
-    const QStringList texts{u""_s, u"a"_s, u"A"_s, u"é"_s, u"b 2"_s, u"b 10"_s},
-        numbers{u""_s, u"9"_s, u"10"_s, u"-1"_s, u"9.0"_s}, mixed{u"1e3"_s, u"5x"_s, u"9"_s, u"x"_s, u""_s},
-        days{u""_s, u"2026-03-01"_s, u"2026-04-01"_s, u"soon"_s}, choices{u""_s, u"Open"_s, u"Done"_s},
-        checks{u""_s, u"true"_s};
-    auto &store = m_workspace.store();
-    for (int round = 0; round < 60; ++round) {
-        const QList<QStringList> pools{
-            random() % 3 ? texts : mixed, choices, random() % 3 ? numbers : mixed, checks, choices, days};
-        for (int i = 0; i < 12; ++i)
-            add({pools[0][below(pools[0].size())], pools[1][below(3)], pools[2][below(5)]});
-        changeView([&](DBView &view) {
-            view.filters.clear();
-            view.sorts.clear();
-            for (qsizetype i = below(3); i > 0; --i)
-                view.sorts.append({QUuid::createUuid(), m_properties[below(6)].id, random() % 2 == 0});
-            if (const qsizetype column = below(8); column < 6)
-                view.filters.append({QUuid::createUuid(), m_properties[column].id,
-                                     enumCases<FilterOp>()[std::size_t(below(7))].value,
-                                     pools[column][below(pools[column].size())]});
-        });
-        for (int step = 0; step < 30; ++step) {
-            const QUuid record = store.list<DBRow>().at(below(store.list<DBRow>().size())).id;
-            const int column = int(below(6));
-            const QString text = pools[column][below(pools[column].size())];
-            if (random() % 2) {
-                m_model->beginEdit(record, column);
-                DatabaseOperations::typeValue(store, text, m_properties[column].id, record);
-                m_model->endEdit();
-            } else {
-                m_model->setValue(record, column, text);
-            }
-            if (random() % 5 == 0)
-                store.undo();
-            m_model->flush();
-            const DatabaseTable table = *store.list<DatabaseTable>().first(m_tableID);
-            QList<QUuid> shown, expected;
-            for (const DBRow *const row :
-                 DBEngine::applyView(DatabaseOperations::rows(store, m_tableID), table.properties,
-                                     table.views[0], m_workspace.clock().timeZone()))
-                expected.append(row->id);
-            for (int row = 0; row < m_model->rows()->rowCount(); ++row)
-                shown.append(m_model->recordAt(row));
-            QCOMPARE(shown, expected);
-        }
-    }
 }
 
 void RecordsViewModelTest::goneViewsAndPropertiesDoNoHarm()

@@ -1,0 +1,14 @@
+#pragma once
+
+class WorkspaceStore;
+
+/// Databases as their screen shows them, each workspace with one.
+namespace SampleDatabases
+{
+void empty(WorkspaceStore &store);
+/// Twenty records with a property of every type.
+void ordinary(WorkspaceStore &store);
+/// Two hundred records of sixty properties with long names, values of two hundred characters and thirty
+/// options.
+void crowded(WorkspaceStore &store);
+} // namespace SampleDatabases

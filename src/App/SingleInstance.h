@@ -47,7 +47,8 @@ public:
     /// @param activationToken the desktop's permission to come to the front, handed to the first start
     std::expected<Role, QString> start(const QByteArray &activationToken = {});
 
-    /// Hears later starts from now on; for the writer alone. One that comes before waits as long as it has patience.
+    /// Hears later starts from now on; for the writer alone. One that comes before waits as long as it has
+    /// patience.
     void listen();
 
 signals:

@@ -35,6 +35,18 @@ FilePortal::~FilePortal()
 
 void FilePortal::ask(const QString &method, const QString &title, QVariantMap options, Receiver receiver)
 {
+    askForAll(method, title, std::move(options),
+              [receiver = std::move(receiver)](const std::expected<QStringList, NoFile> &paths) {
+                  if (paths)
+                      receiver(paths->first());
+                  else
+                      receiver(std::unexpected(paths.error()));
+              });
+}
+
+void FilePortal::askForAll(const QString &method, const QString &title, QVariantMap options,
+                           AllReceiver receiver)
+{
     m_receiver = std::move(receiver);
     if (!m_bus.isConnected())
         return answer(std::unexpected(NoFile::noPortal));
@@ -76,15 +88,17 @@ void FilePortal::listenTo(const QString &requestPath)
 
 void FilePortal::responded(uint response, const QVariantMap &results)
 {
-    const QStringList uris = results.value(QStringLiteral("uris")).toStringList();
-    const QString path = uris.isEmpty() ? QString() : QUrl(uris.first()).toLocalFile();
-    if (response != 0 || path.isEmpty())
+    QStringList paths;
+    for (const QString &uri : results.value(QStringLiteral("uris")).toStringList())
+        if (const QString path = QUrl(uri).toLocalFile(); !path.isEmpty())
+            paths.append(path);
+    if (response != 0 || paths.isEmpty())
         return answer(std::unexpected(NoFile::cancelled));
-    answer(path);
+    answer(paths);
 }
 
-void FilePortal::answer(const std::expected<QString, NoFile> &path)
+void FilePortal::answer(const std::expected<QStringList, NoFile> &paths)
 {
-    if (const Receiver receiver = std::exchange(m_receiver, {}))
-        receiver(path);
+    if (const AllReceiver receiver = std::exchange(m_receiver, {}))
+        receiver(paths);
 }

@@ -11,6 +11,7 @@ OrvelSession::OrvelSession(WorkspaceStore *store, UIState *ui, UpdateService *up
       m_updates(updates),
       m_search(*store),
       m_undo(store, ui),
+      m_visits(store, ui),
       m_preferences(machine.preferences ? *machine.preferences : m_ownPreferences),
       m_focus(*store, m_preferences, machine),
       m_settings(ShownSettings::of(store->settings()))

@@ -1,5 +1,7 @@
 #include "Support/UIState.h"
 
+#include <utility>
+
 template <typename T>
 void UIState::set(T &member, const T &value, void (UIState::*changed)())
 {
@@ -16,7 +18,20 @@ void UIState::setSelection(const Destination &selection)
         setCodeDocumentID(selection.id);
     else if (selection.kind == Destination::Kind::deck)
         setDeckID(selection.id);
+    m_soughtText.clear();
     set(m_selection, selection, &UIState::selectionChanged);
+}
+
+void UIState::showText(const Destination &place, const QString &text)
+{
+    setSelection(place);
+    m_soughtText = text;
+    emit textSought();
+}
+
+QString UIState::takeSoughtText()
+{
+    return std::exchange(m_soughtText, {});
 }
 
 void UIState::select(const QString &destination)

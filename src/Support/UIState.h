@@ -44,6 +44,11 @@ public:
     Q_INVOKABLE void selectCodeDocument(const QUuid &id) { setSelection(Destination::codeDocument(id)); }
     Q_INVOKABLE void selectDeck(const QUuid &id) { setSelection(Destination::deck(id)); }
 
+    /// Goes to the place, whose screen then shows where this text stands in it.
+    void showText(const Destination &place, const QString &text);
+    /// The text to show in the place that is selected, for its screen to take once; empty for none.
+    QString takeSoughtText();
+
     bool isSearchPresented() const { return m_isSearchPresented; }
     void setSearchPresented(bool presented);
     bool isShortcutsPresented() const { return m_isShortcutsPresented; }
@@ -65,6 +70,8 @@ public:
 
 signals:
     void selectionChanged();
+    /// The screen that is shown is asked to show a text, see `takeSoughtText`.
+    void textSought();
     void isSearchPresentedChanged();
     void isShortcutsPresentedChanged();
     void isSidebarVisibleChanged();
@@ -79,6 +86,7 @@ private:
     void set(T &member, const T &value, void (UIState::*changed)());
 
     Destination m_selection;
+    QString m_soughtText;
     bool m_isSearchPresented = false;
     bool m_isShortcutsPresented = false;
     bool m_isSidebarVisible = true;

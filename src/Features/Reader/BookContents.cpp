@@ -1,7 +1,7 @@
 #include "Features/Reader/BookContents.h"
 
 #include "Features/Reader/BookHeading.h"
-#include "Foundation/LowerCase.h"
+#include "Foundation/TextSearch.h"
 
 #include <QStringTokenizer>
 
@@ -32,22 +32,6 @@ qsizetype rowEnd(QStringView text)
     const bool splitsPair = text[BookContents::longestRow - 1].isHighSurrogate();
     return BookContents::longestRow - splitsPair;
 }
-
-constexpr char16_t plainMark(char16_t unit)
-{
-    switch (unit) {
-    case u'\u2018':
-    case u'\u2019':
-        return u'\'';
-    case u'\u201C':
-    case u'\u201D':
-        return u'"';
-    case u'\u0130': // two units in lower case
-        return u'i';
-    default:
-        return unit;
-    }
-}
 } // namespace
 
 QStringList BookContents::makeParagraphs(const QString &text)
@@ -72,7 +56,7 @@ BookContents::BookContents(const QStringList &paragraphs)
     m_rows.reserve(paragraphs.size());
     for (int i = 0; i < paragraphs.size(); ++i)
         append(paragraphs[i], i);
-    m_folded = fold(m_text);
+    m_folded = TextSearch::fold(m_text);
 }
 
 void BookContents::append(const QString &paragraph, int number)
@@ -121,14 +105,4 @@ int BookContents::minutesLeft(int row) const
     if (row < 0 || row >= m_rows.size())
         return 0;
     return (m_words - m_rows[row].wordsBefore + readingSpeed - 1) / readingSpeed;
-}
-
-QString BookContents::fold(QStringView text)
-{
-    QString plain = text.toString();
-    const auto units = reinterpret_cast<char16_t *>(plain.data());
-    std::transform(units, units + plain.size(), units, plainMark);
-    QString folded;
-    LowerCase::append(folded, plain);
-    return folded;
 }

@@ -49,9 +49,8 @@ public:
 
     /// The whole text, a row a line.
     const QString &text() const { return m_text; }
-    /// The same in lower case and with plain quotation marks, unit for unit.
+    /// The same as `TextSearch` compares it.
     const QString &folded() const { return m_folded; }
-    static QString fold(QStringView text);
 
 private:
     void append(const QString &paragraph, int number);

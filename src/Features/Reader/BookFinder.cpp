@@ -1,49 +1,35 @@
 #include "Features/Reader/BookFinder.h"
 
-void BookFinder::setQuery(const QString &query)
-{
-    if (m_query == query)
-        return;
-    // A longer query goes on from the match that it was at.
-    const int from = m_current >= 0 ? m_matches.at(m_current).row : m_topRow;
-    m_query = query;
-    m_matches = BookMatches(m_contents, query);
-    emit queryChanged();
-    goTo(m_matches.firstFrom(from));
-}
-
-QString BookFinder::countText() const
-{
-    if (m_query.trimmed().isEmpty())
-        return {};
-    return count() == 0 ? tr("No matches") : tr("%L1 of %L2").arg(m_current + 1).arg(count());
-}
-
 void BookFinder::setContents(SharedBookContents contents)
 {
     m_contents = std::move(contents);
-    m_matches = {};
-    m_current = -1;
     m_topRow = 0;
-    if (!m_query.isEmpty()) {
-        m_query.clear();
-        emit queryChanged();
+    reset();
+}
+
+TextMarkList BookFinder::marksIn(int row) const
+{
+    TextMarkList list;
+    if (!isOpen())
+        return list;
+    const auto [first, last] = m_matches.inRow(row);
+    for (int i = first; i < last; ++i) {
+        const BookMatches::Match match = m_matches.at(i);
+        list.marks.append({match.start, match.length, i == current()});
     }
-    emit matchesChanged();
+    return list;
 }
 
-void BookFinder::step(int by)
+TextFinder::Found BookFinder::search(const QString &query)
 {
-    if (count() > 0)
-        goTo((m_current + by + count()) % count());
+    // A longer query goes on from the match that it was at.
+    const int from = current() >= 0 ? m_matches.at(current()).row : m_topRow;
+    m_matches = BookMatches(m_contents, query);
+    return {m_matches.count(), m_matches.firstFrom(from)};
 }
 
-void BookFinder::goTo(int match)
+void BookFinder::showMatch(int match)
 {
-    m_current = match;
-    emit matchesChanged();
-    if (match < 0)
-        return;
     const BookMatches::Match place = m_matches.at(match);
     emit shown(place.row, place.start);
 }

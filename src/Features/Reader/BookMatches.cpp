@@ -1,43 +1,16 @@
 #include "Features/Reader/BookMatches.h"
 
-#include <algorithm>
+#include "Foundation/TextSearch.h"
 
-namespace
-{
-/// Which unit of the query is rare in English, so that looking for it first skips most of the text.
-qsizetype rarestUnit(QStringView query)
-{
-    static constexpr QStringView frequentFirst = u" etaoinshrdlucmfwygpbvk";
-    qsizetype rarest = 0;
-    qsizetype best = -1;
-    for (qsizetype i = 0; i < query.size(); ++i) {
-        const qsizetype place = frequentFirst.indexOf(query[i]);
-        const qsizetype rarity = place < 0 ? frequentFirst.size() : place;
-        if (rarity > best) {
-            best = rarity;
-            rarest = i;
-        }
-    }
-    return rarest;
-}
-} // namespace
+#include <algorithm>
 
 BookMatches::BookMatches(SharedBookContents contents, const QString &query) : m_contents(std::move(contents))
 {
     if (!m_contents || query.trimmed().isEmpty())
         return;
-    const QString wanted = BookContents::fold(query);
-    const QStringView text = m_contents->folded();
+    const QString wanted = TextSearch::fold(query);
     m_length = int(wanted.size());
-    const qsizetype offset = rarestUnit(wanted);
-    const QChar unit = wanted[offset];
-    for (qsizetype at = text.indexOf(unit, offset); at >= 0;) {
-        const qsizetype start = at - offset;
-        const bool isMatch = text.sliced(start).startsWith(wanted);
-        if (isMatch)
-            m_positions.append(int(start));
-        at = text.indexOf(unit, isMatch ? at + m_length : at + 1);
-    }
+    m_positions = TextSearch::find(m_contents->folded(), wanted);
 }
 
 BookMatches::Match BookMatches::at(int index) const

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 import Orvel.Reader
+import Orvel.Session
 
 /// The open book: its header, its text, and how far the user has come in it.
 FocusScope {
@@ -20,20 +21,18 @@ FocusScope {
     }
 
     function openFind() {
-        findBar.visible = true
-        findBar.focusField()
+        book.finder.open()
     }
 
     function closeFind() {
-        findBar.visible = false
-        book.finder.query = ""
+        book.finder.close()
         focusText()
     }
 
-    Shortcut {
-        enabled: root.visible && text.visible
-        sequence: "Ctrl+F"
-        onActivated: root.openFind()
+    ShownFinder {
+        active: findBar.canFind
+        finder: root.book.finder
+        session: Orvel
     }
 
     Keys.onEscapePressed: event => {
@@ -67,11 +66,12 @@ FocusScope {
         onFindRequested: root.openFind()
     }
 
-    BookFindBar {
+    OVFindBar {
         id: findBar
         anchors.top: header.bottom
+        canFind: root.visible && text.visible
         finder: root.book.finder
-        visible: false
+        placeholder: qsTr("Find in book")
         width: parent.width
         onCloseRequested: root.closeFind()
     }

@@ -30,6 +30,10 @@ Item {
         return Qt.rect(line.x + words.x, line.y + words.y, line.width, line.height)
     }
 
+    function marksOf(revision: int): var {
+        return book.finder.marksIn(index)
+    }
+
     function showSelection() {
         const part = book.selection.inRow(index)
         if (part.x !== part.y)
@@ -72,6 +76,13 @@ Item {
         wrapMode: TextEdit.Wrap
         x: Math.round((root.width - width) / 2)
         y: root.gapAbove
+
+        OVFindMarks {
+            anchors.fill: parent
+            document: words.textDocument
+            marks: root.marksOf(root.book.finder.revision)
+            z: -1
+        }
     }
 
     LineSpacing {
@@ -82,13 +93,5 @@ Item {
     FontMetrics {
         id: metrics
         font: words.font
-    }
-
-    BookMarks {
-        color: Theme.inkMode ? Qt.alpha(Theme.ovInk, 0.14) : Qt.alpha(Theme.ovWarning, Theme.dark ? 0.3 : 0.25)
-        currentColor: Theme.inkMode ? Qt.alpha(Theme.ovInk, 0.34) : Qt.alpha(Theme.ovWarning, 0.6)
-        document: words.textDocument
-        finder: root.book.finder
-        row: root.index
     }
 }

@@ -195,6 +195,7 @@ private slots:
         BookFinder *const finder = model->finder();
         QSignalSpy shown(finder, &BookFinder::shown);
         model->setTopRow(2);
+        finder->open();
         finder->setQuery(u"emma"_s);
         QCOMPARE(shown.takeLast(), (QVariantList{3, 0}));
         QCOMPARE(finder->countText(), u"2 of 3"_s);

@@ -29,6 +29,8 @@ FocusScope {
                                                              || area.focusReason === Qt.ShortcutFocusReason)
     /// The height at which nothing has to scroll.
     readonly property real fullHeight: rows.textHeight + 2 * verticalPadding
+    /// What a search has found, in UTF-16 units of the text.
+    property alias marks: marks.marks
     property alias input: area
     property alias flickable: view
     /// Whether more of a long text is still to come.
@@ -48,6 +50,11 @@ FocusScope {
         forceFocus()
         area.cursorPosition = Math.max(0, Math.min(caret, area.length))
         keys.reveal()
+    }
+
+    /// Brings a stretch of the text into view, without taking the keyboard.
+    function showStretch(start: int, length: int) {
+        keys.showPlace(area.positionToRectangle(start))
     }
 
     /// Takes the text as one that has just been opened at a place.
@@ -94,6 +101,13 @@ FocusScope {
         margin: 10
         visible: root.showLineNumbers
         width: visible ? implicitWidth : 0
+    }
+
+    OVFindMarks {
+        id: marks
+        anchors.fill: view
+        document: area.textDocument
+        origin: rows.origin
     }
 
     TextRows {

@@ -20,12 +20,16 @@ QtObject {
     function reveal() {
         if (isHeld || !input.activeFocus || flickable.height <= 0)
             return
-        const caret = input.positionToRectangle(input.cursorPosition)
-        flickable.contentY = within(flickable.contentY, caret.y,
-                                    caret.y + caret.height + 2 * input.y - flickable.height,
+        showPlace(input.positionToRectangle(input.cursorPosition))
+    }
+
+    /// Scrolls a place of the text into view.
+    function showPlace(place: rect) {
+        flickable.contentY = within(flickable.contentY, place.y,
+                                    place.y + place.height + 2 * input.y - flickable.height,
                                     flickable.contentHeight - flickable.height)
-        flickable.contentX = within(flickable.contentX, caret.x,
-                                    caret.x + caret.width + 2 * Theme.space12 - flickable.width,
+        flickable.contentX = within(flickable.contentX, place.x,
+                                    place.x + place.width + 2 * Theme.space12 - flickable.width,
                                     flickable.contentWidth - flickable.width)
     }
 

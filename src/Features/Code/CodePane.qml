@@ -1,6 +1,7 @@
 import QtQuick
 import Orvel.Code
 import Orvel.DesignSystem
+import Orvel.Session
 
 /// The open document: its title and what can be done with it, the editor, the console and the status bar.
 FocusScope {
@@ -38,7 +39,10 @@ FocusScope {
         editor.begin(place.caret, place.scroll)
     }
 
-    Component.onCompleted: arrive()
+    Component.onCompleted: {
+        arrive()
+        viewModel.showSoughtText()
+    }
     Component.onDestruction: leave()
 
     Connections {
@@ -51,6 +55,41 @@ FocusScope {
         }
         function onCaretRestored(caret: int) {
             editor.placeCaret(caret)
+        }
+    }
+
+    OVFindBar {
+        id: findBar
+
+        anchors.top: header.bottom
+        canFind: root.visible && root.enabled && !editor.isLoading
+        finder: root.viewModel.finder
+        placeholder: qsTr("Find in this snippet")
+        selectedText: editor.input.activeFocus ? editor.input.selectedText : ""
+        width: parent.width
+        onAboutToOpen: behind => root.viewModel.finder.startAt(behind ? editor.input.selectionEnd : editor.input.selectionStart)
+        onCloseRequested: {
+            finder.close()
+            if (!root.viewModel.finder.choose())
+                editor.forceFocus()
+        }
+    }
+
+    ShownFinder {
+        active: findBar.canFind
+        finder: root.viewModel.finder
+        session: Orvel
+    }
+
+    Connections {
+        target: root.viewModel.finder
+
+        function onShown(start, length, selects) {
+            if (selects) {
+                editor.placeCaret(start + length)
+                editor.input.select(start, start + length)
+            }
+            editor.showStretch(start, length)
         }
     }
 
@@ -69,7 +108,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.top: header.bottom
+        anchors.top: findBar.visible ? findBar.bottom : header.bottom
         anchors.topMargin: Theme.space12
         border.color: Theme.ovBorder
         border.width: Theme.lineWidth
@@ -85,6 +124,7 @@ FocusScope {
             focus: true
             fontSize: Math.round(CodeDesk.fontSize * Theme.fontScale)
             language: root.viewModel.language.raw
+            marks: root.viewModel.finder.marks
             placeholder: qsTr("Write some code")
             showLineNumbers: CodeDesk.showLineNumbers
             text: root.viewModel.source

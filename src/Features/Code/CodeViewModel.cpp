@@ -11,6 +11,7 @@ CodeViewModel::CodeViewModel(QObject *parent) : ViewModel(parent)
 {
     follow<CodeDocument>();
     m_document.title.clear();
+    connect(&m_finder, &CodeFinder::replaced, this, &CodeViewModel::replaceSource);
 }
 
 void CodeViewModel::start()
@@ -22,6 +23,25 @@ void CodeViewModel::start()
             setQuery({});
         requestRefresh();
     });
+    connect(&ui(), &UIState::textSought, this, [this] {
+        flush();
+        showSoughtText();
+    });
+}
+
+void CodeViewModel::showSoughtText()
+{
+    if (ui().selection() == Destination::codeDocument(selectedID()))
+        m_finder.show(ui().takeSoughtText());
+}
+
+void CodeViewModel::replaceSource(const QString &source, int caret, int count)
+{
+    const bool isAll = count > 1;
+    const Action action(store(), isAll ? tr("Replace All") : tr("Replace"));
+    if (isAll)
+        action.setMessage(tr("%Ln replaced", nullptr, count));
+    CodeOperations::setSource(store(), selectedID(), source, caret);
 }
 
 void CodeViewModel::setQuery(const QString &query)
@@ -137,6 +157,7 @@ void CodeViewModel::showDocument()
         emit selectionAboutToChange();
     if (std::exchange(m_document, next) != next)
         emit documentChanged();
+    m_finder.setText(m_document.source, isOther);
     if (isOther)
         emit selectionChanged();
     // The screen opens again where it was left.

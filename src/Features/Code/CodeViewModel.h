@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/Code/CodeDesk.h"
+#include "Features/Code/CodeFinder.h"
 #include "Features/Code/CodeRow.h"
 #include "Foundation/Choice.h"
 #include "Foundation/KeyedListModel.h"
@@ -26,6 +27,8 @@ class CodeViewModel : public ViewModel
     Q_PROPERTY(QString title READ title NOTIFY documentChanged FINAL)
     Q_PROPERTY(Choice language READ language NOTIFY documentChanged FINAL)
     Q_PROPERTY(QString source READ source NOTIFY documentChanged FINAL)
+    /// The search within the open document.
+    Q_PROPERTY(CodeFinder *finder READ finder CONSTANT FINAL)
     Q_PROPERTY(QString lineCountText READ lineCountText NOTIFY documentChanged FINAL)
 
 public:
@@ -42,6 +45,7 @@ public:
     QString title() const { return m_document.title; }
     Choice language() const { return Choice::of(m_document.language); }
     QString source() const { return m_document.source; }
+    CodeFinder *finder() { return &m_finder; }
     QString lineCountText() const { return CodeRow::lineCountText(m_document.lineCount()); }
 
     /// Makes an untitled document and opens it.
@@ -63,6 +67,8 @@ public:
     Q_INVOKABLE QString titleOf(const QUuid &id) const;
     /// Opens the console and runs the open document, unless it is running.
     Q_INVOKABLE void runSnippet();
+    /// Shows the text that was asked for from elsewhere, if it was for the open document.
+    Q_INVOKABLE void showSoughtText();
 
 signals:
     void deskChanged();
@@ -84,6 +90,7 @@ private:
     /// The document as the store has it, which the screen may not show yet; null for an unknown one.
     const CodeDocument *find(const QUuid &id) const { return store().codeDocuments().first(id); }
     void showDocument();
+    void replaceSource(const QString &source, int caret, int count);
     void layOut();
 
     CodeDesk *m_desk = nullptr;
@@ -93,5 +100,6 @@ private:
     int m_selectedRow = -1;
     /// The open document as it was told last.
     CodeDocument m_document;
+    CodeFinder m_finder;
     bool m_needsLayout = false;
 };

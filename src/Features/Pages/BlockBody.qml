@@ -85,6 +85,10 @@ FocusScope {
         all[forward ? 0 : all.length - 1].forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
+    /// Brings a stretch of a text that scrolls by itself into view.
+    function showStretch(start: int, length: int) {
+    }
+
     /// Takes the focus with the caret at the end of the text.
     function focusAtEnd() {
         focusAt(input?.length ?? -1)

@@ -52,6 +52,16 @@ TextEdit {
         text: field.storedText
     }
 
+    BlockMarks {
+        anchors.fill: parent
+        blockID: field.blockID
+        document: field.textDocument
+        editor: field.editor
+        origin: Qt.point(field.leftPadding, field.topPadding)
+        storedText: field.storedText
+        z: -1
+    }
+
     FontMetrics {
         id: metrics
         font: field.font

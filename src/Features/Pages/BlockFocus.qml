@@ -91,6 +91,25 @@ ScreenList {
             (footerItem as BlockListFooter).button.forceActiveFocus(Qt.TabFocusReason)
     }
 
+    /// Brings a stretch of the text of a block into view, and selects it if the keyboard shall be there.
+    function showMatch(index: int, start: int, length: int, selects: bool) {
+        const part = show(index).part
+        if (!part.input)
+            return
+        if (selects) {
+            keys.ringShown = true
+            part.focusAt(start + length)
+            part.input.select(start, start + length)
+        }
+        forceLayout()
+        part.showStretch(start, length)
+        const place = part.input.positionToRectangle(start)
+        const top = part.input.mapToItem(contentItem, place.x, place.y).y
+        const margin = Theme.space48
+        if (top < contentY + margin || top + place.height > contentY + height - margin)
+            scrollTo(top - height / 3)
+    }
+
     /// Goes to the first or the last block.
     function jump(key: int) {
         if (key === Qt.Key_End)

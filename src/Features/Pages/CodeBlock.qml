@@ -22,6 +22,10 @@ BlockBody {
         return bar.stops().concat([code], result.active ? (result.item as CodeConsole).stops() : [])
     }
 
+    function showStretch(start: int, length: int) {
+        code.showStretch(start, length)
+    }
+
     function leavesByPage(direction: int): bool {
         const view = code.flickable
         return !hasOwnKeys || (direction < 0 ? view.contentY <= 0 : view.contentY >= view.contentHeight - view.height - 1)
@@ -39,6 +43,16 @@ BlockBody {
         } else {
             event.accepted = false
         }
+    }
+
+    // What the editor draws itself, as it scrolls.
+    BlockMarks {
+        id: marks
+        blockID: root.blockID
+        document: code.input.textDocument
+        editor: root.editor
+        storedText: root.storedText
+        visible: false
     }
 
     Rectangle {
@@ -73,6 +87,7 @@ BlockBody {
                 height: Math.max(scaled(root.codeHeight), Math.min(Math.ceil(fullHeight), scaled(root.editor.maxCodeHeight)))
                 keyTarget: root.keyTarget
                 language: root.language
+                marks: marks.marks
                 placeholder: root.placeholder
                 showLineNumbers: false
                 text: root.storedText

@@ -17,7 +17,10 @@ FocusScope {
     readonly property bool wantsKeyboard: (list.above as PageHeader).isUnnamed
 
     // A page that has its name takes the keys that lead into it; no other key changes it before.
-    Component.onCompleted: list.focus = wantsKeyboard
+    Component.onCompleted: {
+        list.focus = wantsKeyboard
+        editor.finder.showSoughtText()
+    }
 
     Accessible.name: title
     Accessible.role: Accessible.Pane
@@ -26,6 +29,10 @@ FocusScope {
         id: editor
         pageID: root.pageID
         session: Orvel
+        finder: PageFinder {
+            pageID: root.pageID
+            session: Orvel
+        }
         // The change of the list's place costs the focus.
         onIsZenChanged: Qt.callLater(list.restoreFocus)
         onMessage: text => toast.show(text)
@@ -52,9 +59,19 @@ FocusScope {
         editor: editor
     }
 
+    PageFindBar {
+        id: findBar
+        editor: editor
+        list: list
+        parent: list.parent
+        width: parent.width
+    }
+
     BlockList {
         id: list
         anchors.fill: parent
+        anchors.topMargin: findBar.visible ? findBar.height : 0
+        clip: findBar.visible
         editor: editor
         focus: true
         parent: editor.isZen ? zen.place : place

@@ -129,6 +129,21 @@ bool PageEditorViewModel::showPart(const QUuid &blockID, int direction)
     return true;
 }
 
+int PageEditorViewModel::showPartAt(const QUuid &blockID, int position)
+{
+    if (const Block *const found = block(blockID)) {
+        m_parts.show(*found, position);
+        m_rows.changeRow(blockID, [&](BlockRow &row) { row.setBlock(*found, m_parts); });
+    }
+    return partBegin(blockID);
+}
+
+int PageEditorViewModel::partBegin(const QUuid &blockID) const
+{
+    const Block *const found = block(blockID);
+    return found ? int(m_parts.of(*found).begin) : 0;
+}
+
 void PageEditorViewModel::toggleChecked(const QUuid &blockID)
 {
     changeBlock(tr("Check To-do"), blockID, [](Block &block) { block.checked = !block.checked; });

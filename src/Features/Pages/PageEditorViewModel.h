@@ -4,6 +4,7 @@
 #include "Features/Pages/BeforeNextKey.h"
 #include "Features/Pages/BlockRow.h"
 #include "Features/Pages/BlockSplice.h"
+#include "Features/Pages/PageFinder.h"
 #include "Features/Pages/PageSelection.h"
 #include "Foundation/EnumChoices.h"
 #include "Foundation/KeyedListModel.h"
@@ -22,6 +23,8 @@ class PageEditorViewModel : public ViewModel
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT FINAL)
     Q_PROPERTY(PageSelection *selection READ selection CONSTANT FINAL)
     Q_PROPERTY(bool isZen MEMBER m_isZen NOTIFY isZenChanged FINAL)
+    /// The search within the page; lives as long as the editor.
+    Q_PROPERTY(PageFinder *finder MEMBER m_finder NOTIFY finderChanged FINAL)
     /// The types that the slash menu offers below the focused block; empty while it is closed.
     Q_PROPERTY(QList<int> slashTypes READ slashTypes NOTIFY slashTypesChanged FINAL)
 
@@ -83,6 +86,10 @@ public:
     Q_INVOKABLE bool hasPart(const QUuid &blockID, int direction) const;
     /// Goes to the part before (-1) or after (1) the one that is shown; false if there is none.
     Q_INVOKABLE bool showPart(const QUuid &blockID, int direction);
+    /// Shows the part that this position of the whole text lies in. Returns where the part begins.
+    Q_INVOKABLE int showPartAt(const QUuid &blockID, int position);
+    /// Where the part that is shown begins in the whole text.
+    Q_INVOKABLE int partBegin(const QUuid &blockID) const;
     Q_INVOKABLE void toggleChecked(const QUuid &blockID);
     Q_INVOKABLE void setTone(const QUuid &blockID, int tone);
     /// @param language the raw text of a language
@@ -116,6 +123,7 @@ signals:
     void pageIDChanged();
     void titleChanged();
     void isZenChanged();
+    void finderChanged();
     void slashTypesChanged();
     /// A sentence on what could not be done.
     void message(const QString &text);
@@ -166,6 +174,7 @@ private:
     PageSelection *m_selection;
     ClipboardReader m_clipboard;
     std::function<bool(const QUrl &)> m_openLink;
+    PageFinder *m_finder = nullptr;
 
     QUuid m_focusedBlock;
     QList<int> m_slashTypes;

@@ -48,6 +48,8 @@ struct OrvelCommands::Entry {
     enum class Group { same, next };
     /// Where the command can be given: in the workspace only, or before it is entered as well.
     enum class Reach { workspace, window };
+    /// Who binds the keys: the window, or the screen that can do it.
+    enum class Keys { window, screen };
 
     const char *menu;
     const char *id;
@@ -56,6 +58,7 @@ struct OrvelCommands::Entry {
     std::variant<void (OrvelCommands::*)(), Destination::Kind, TextEdit> action;
     Group group = Group::same;
     Reach reach = Reach::workspace;
+    Keys bound = Keys::window;
 };
 
 // The whole menu bar in its order. A command whose service is still to come joins here, in its place.
@@ -65,6 +68,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
     using Self = OrvelCommands;
     using enum Entry::Group;
     using enum Entry::Reach;
+    static constexpr auto ofScreen = Entry::Keys::screen;
     static constexpr auto file = QT_TR_NOOP("&File");
     static constexpr auto edit = QT_TR_NOOP("&Edit");
     static constexpr auto navigate = QT_TR_NOOP("&Navigate");
@@ -73,6 +77,8 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {file, "newPage", QT_TR_NOOP("New Page"), {"Ctrl+N"}, &Self::newPage},
         {file, "newNote", QT_TR_NOOP("New Note"), {"Ctrl+Shift+N"}, &Self::newNote},
         {file, "newTask", QT_TR_NOOP("New Task"), {"Ctrl+Shift+K"}, &Self::newTask},
+        {file, "importMarkdown", QT_TR_NOOP("Import Markdown…"), {}, &Self::markdownImportRequested, next},
+        {file, "exportMarkdown", QT_TR_NOOP("Export All as Markdown…"), {}, &Self::markdownExportRequested},
         {file, "settings", QT_TR_NOOP("Settings…"), {"Ctrl+,"}, Kind::settings, next},
         {file, "updates", QT_TR_NOOP("Check for Updates…"), {}, &Self::checkForUpdates, next},
         {file, "quit", QT_TR_NOOP("Quit"), {"Ctrl+Q"}, &Self::quitRequested, next, window},
@@ -82,6 +88,17 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {edit, "copy", QT_TR_NOOP("Copy"), {"Ctrl+C"}, TextEdit{"copy", "selectedText"}},
         {edit, "paste", QT_TR_NOOP("Paste"), {"Ctrl+V"}, TextEdit{"paste", "canPaste"}},
         {edit, "selectAll", QT_TR_NOOP("Select All"), {"Ctrl+A"}, TextEdit{"selectAll", "length"}, next},
+        {edit, "find", QT_TR_NOOP("Find…"), {"Ctrl+F"}, &Self::find, next, workspace, ofScreen},
+        {edit, "replace", QT_TR_NOOP("Replace…"), {"Ctrl+H"}, &Self::replace, same, workspace, ofScreen},
+        {edit, "findNext", QT_TR_NOOP("Find Next"), {"Ctrl+G"}, &Self::findNext, same, workspace, ofScreen},
+        {edit,
+         "findPrevious",
+         QT_TR_NOOP("Find Previous"),
+         {"Ctrl+Shift+G"},
+         &Self::findPrevious,
+         same,
+         workspace,
+         ofScreen},
         {navigate, "dashboard", QT_TR_NOOP("Dashboard"), {"Ctrl+1"}, Kind::dashboard},
         {navigate, "today", QT_TR_NOOP("Today"), {"Ctrl+2"}, Kind::today},
         {navigate, "focus", QT_TR_NOOP("Focus"), {"Ctrl+3"}, Kind::focus},
@@ -94,6 +111,8 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
         {navigate, "insights", QT_TR_NOOP("Insights"), {"Ctrl+Shift+I"}, Kind::insights},
         {navigate, "relax", QT_TR_NOOP("Relax"), {"Ctrl+Shift+R"}, Kind::relax},
         {navigate, "palette", QT_TR_NOOP("Command Palette"), {"Ctrl+K"}, &Self::presentSearch, next},
+        {navigate, "back", QT_TR_NOOP("Back"), {"Alt+Left", "Back"}, &Self::goBack, next},
+        {navigate, "forward", QT_TR_NOOP("Forward"), {"Alt+Right", "Forward"}, &Self::goForward},
         {view, "cycleNav", QT_TR_NOOP("Cycle Navigation Style"), {"Ctrl+Shift+D"}, &Self::cycleNavigation},
         {view, "appearance", QT_TR_NOOP("Cycle Appearance"), {"Ctrl+Shift+L"}, &Self::cycleAppearance},
         {view, "theme", QT_TR_NOOP("Cycle Accent"), {"Ctrl+Shift+T"}, &Self::cycleAccent},
@@ -117,10 +136,17 @@ OrvelCommands::OrvelCommands(QObject *parent) : QObject(parent)
             if (keys)
                 command->keys.append(QLatin1String(keys));
         command->startsGroup = entry.group == Entry::Group::next;
-        command->isBound = !std::holds_alternative<TextEdit>(entry.action);
+        command->isBound =
+            !std::holds_alternative<TextEdit>(entry.action) && entry.bound == Entry::Keys::window;
         m_menus.last().commands.append(command);
         m_commands.append(command);
     }
+}
+
+OrvelCommands::~OrvelCommands()
+{
+    if (m_session && m_session->commands() == this)
+        m_session->setCommands(nullptr);
 }
 
 void OrvelCommands::setSession(OrvelSession *session)
@@ -128,6 +154,7 @@ void OrvelCommands::setSession(OrvelSession *session)
     if (m_session == session)
         return;
     m_session = session;
+    session->setCommands(this);
     connect(session->undo(), &UndoController::changed, this, [this] { prepare(); });
     prepare();
     emit sessionChanged();
@@ -143,6 +170,14 @@ void OrvelCommands::prepare(QQuickItem *focusItem)
             command.show(m_session->undo()->undoText(), m_session->undo()->canUndo());
         else if (command.id == u"redo")
             command.show(m_session->undo()->redoText(), m_session->undo()->canRedo());
+        else if (command.id == u"back")
+            command.show(command.title, m_session->visits()->canGoBack());
+        else if (command.id == u"forward")
+            command.show(command.title, m_session->visits()->canGoForward());
+        else if (command.id == u"replace")
+            command.show(command.title, m_session->finder() && m_session->finder()->canReplace());
+        else if (table().at(i).bound == Entry::Keys::screen)
+            command.show(command.title, m_session->finder());
     }
 }
 
@@ -160,6 +195,43 @@ void OrvelCommands::run(const QString &id, QQuickItem *focusItem)
         editText(editTarget(focusItem), *edit);
     else
         (this->*std::get<0>(found->action))();
+}
+
+QList<NamedCommand> OrvelCommands::namedCommands()
+{
+    prepare();
+    QList<NamedCommand> named;
+    for (qsizetype i = 0; i < m_commands.size(); ++i) {
+        const OrvelCommand &command = *m_commands.at(i);
+        if (command.enabled && !std::holds_alternative<TextEdit>(table().at(i).action) &&
+            command.id != u"palette")
+            named.append({command.id, command.title, command.keysText()});
+    }
+    return named;
+}
+
+void OrvelCommands::find()
+{
+    if (TextFinder *const finder = m_session->finder())
+        finder->open();
+}
+
+void OrvelCommands::replace()
+{
+    if (TextFinder *const finder = m_session->finder())
+        finder->openReplace();
+}
+
+void OrvelCommands::findNext()
+{
+    if (TextFinder *const finder = m_session->finder())
+        finder->next();
+}
+
+void OrvelCommands::findPrevious()
+{
+    if (TextFinder *const finder = m_session->finder())
+        finder->previous();
 }
 
 void OrvelCommands::newTask()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Session/CommandSource.h"
 #include "Session/OrvelSession.h"
 #include "Session/PageActions.h"
 
@@ -52,11 +53,11 @@ public:
 };
 
 /// The commands of the menu bar and their keys.
-class OrvelCommands : public QObject
+class OrvelCommands : public QObject, public CommandSource
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(OrvelSession *session MEMBER m_session WRITE setSession NOTIFY sessionChanged REQUIRED FINAL)
+    Q_PROPERTY(OrvelSession *session READ session WRITE setSession NOTIFY sessionChanged REQUIRED FINAL)
     Q_PROPERTY(QList<OrvelMenu> menus READ menus CONSTANT FINAL)
     /// The commands of all menus.
     Q_PROPERTY(QQmlListProperty<OrvelCommand> commands READ commandList CONSTANT FINAL)
@@ -64,6 +65,9 @@ class OrvelCommands : public QObject
 public:
     explicit OrvelCommands(QObject *parent = nullptr);
 
+    ~OrvelCommands() override;
+
+    OrvelSession *session() const { return m_session; }
     void setSession(OrvelSession *session);
     const QList<OrvelMenu> &menus() const { return m_menus; }
     const QList<OrvelCommand *> &commands() const { return m_commands; }
@@ -77,10 +81,15 @@ public:
     /// Enables what can be done now.
     Q_INVOKABLE void prepare(QQuickItem *focusItem = nullptr);
 
+    QList<NamedCommand> namedCommands() override;
+    void runCommand(const QString &id) override { run(id); }
+
 signals:
     void sessionChanged();
     void fullScreenToggled();
     void quitRequested();
+    void markdownImportRequested();
+    void markdownExportRequested();
 
 private:
     struct Entry;
@@ -94,6 +103,12 @@ private:
     void newTask();
     void undo() { m_session->undo()->undo(); }
     void redo() { m_session->undo()->redo(); }
+    void find();
+    void replace();
+    void findNext();
+    void findPrevious();
+    void goBack() { m_session->visits()->back(); }
+    void goForward() { m_session->visits()->forward(); }
     void cycleNavigation();
     void cycleAppearance();
     void cycleAccent();
@@ -103,7 +118,7 @@ private:
     void presentShortcuts() { ui().setShortcutsPresented(true); }
     void checkForUpdates() { m_session->updates()->check(true); }
 
-    OrvelSession *m_session = nullptr;
+    QPointer<OrvelSession> m_session;
     QList<OrvelMenu> m_menus;
     QList<OrvelCommand *> m_commands;
 };

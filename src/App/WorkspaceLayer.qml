@@ -1,5 +1,7 @@
 import QtQuick
 import Orvel.App
+import Orvel.DesignSystem
+import Orvel.Session
 
 /// The workspace below its menu bar, which gives way in full screen.
 FocusScope {
@@ -19,7 +21,21 @@ FocusScope {
         visible: root.Window.visibility !== Window.FullScreen
     }
 
+    HistoryArrows {
+        anchors { right: parent.right; rightMargin: Theme.space8; top: parent.top }
+        height: menuBar.height
+        visible: menuBar.visible
+    }
+
+    // The buttons at the side of a mouse.
+    TapHandler {
+        acceptedButtons: Qt.BackButton | Qt.ForwardButton
+        gesturePolicy: TapHandler.WithinBounds
+        onTapped: (eventPoint, button) => button === Qt.BackButton ? Orvel.visits.back() : Orvel.visits.forward()
+    }
+
     WorkspaceView {
+        commands: root.commands
         anchors { left: parent.left; right: parent.right; top: menuBar.bottom; bottom: parent.bottom }
         focus: true
         isSettled: root.isSettled

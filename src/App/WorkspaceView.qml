@@ -2,6 +2,7 @@ import QtQuick
 import Orvel.App
 import Orvel.Session
 import Orvel.Shell
+import Orvel.Transfer
 
 /// Everything in the window once the onboarding is done: the shell around the screens, and over it presentations, the
 /// palette and the sheet of shortcuts.
@@ -10,6 +11,30 @@ FocusScope {
 
     /// Whether there is time for what is not seen yet.
     property bool isSettled: true
+    /// Those of the menus, where there are any.
+    property OrvelCommands commands: null
+
+    // Below everything, so that a screen that takes files itself gets them first.
+    Loader {
+        id: markdown
+
+        readonly property MarkdownLayer layer: item as MarkdownLayer
+
+        active: root.isSettled
+        anchors.fill: parent
+        asynchronous: true
+        source: "../Transfer/MarkdownLayer.qml"
+    }
+
+    Connections {
+        target: root.commands
+        function onMarkdownExportRequested() {
+            markdown.layer?.openExport()
+        }
+        function onMarkdownImportRequested() {
+            markdown.layer?.openImport()
+        }
+    }
 
     AppShellView {
         id: shell

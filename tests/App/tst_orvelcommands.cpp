@@ -52,10 +52,12 @@ private slots:
         }
         QCOMPARE(
             menus,
-            (QStringList{u"&File: New Page New Note New Task | Settings… | Check for Updates… | Quit"_s,
-                         u"&Edit: Undo Redo | Cut Copy Paste | Select All"_s,
+            (QStringList{u"&File: New Page New Note New Task | Import Markdown… Export All as "
+                         "Markdown… | Settings… | Check for Updates… | Quit"_s,
+                         u"&Edit: Undo Redo | Cut Copy Paste | Select All | Find… Replace… Find Next Find "
+                         "Previous"_s,
                          u"&Navigate: Dashboard Today Focus Tasks Calendar Projects Notes Databases Habits "
-                         "Insights Relax | Command Palette"_s,
+                         "Insights Relax | Command Palette | Back Forward"_s,
                          u"&View: Cycle Navigation Style Cycle Appearance Cycle Accent Shuffle Daily Quote "
                          "Keyboard Shortcuts | Toggle Sidebar | Full Screen"_s}));
     }
@@ -97,6 +99,26 @@ private slots:
         QCOMPARE(m_store.tasks().size(), 1);
     }
 
+    void thePaletteIsOfferedWhatCanBeDone()
+    {
+        const auto offered = [this] {
+            QStringList ids;
+            for (const NamedCommand &command : m_commands.namedCommands())
+                ids.append(command.id);
+            return ids;
+        };
+        const QStringList first = offered();
+        for (const QString &never :
+             {u"copy"_s, u"selectAll"_s, u"palette"_s, u"find"_s, u"undo"_s, u"forward"_s})
+            QVERIFY2(!first.contains(never), qPrintable(never));
+        QVERIFY(first.contains(u"newPage"_s) && first.contains(u"sidebar"_s));
+        m_commands.runCommand(u"newTask"_s);
+        QVERIFY(offered().contains(u"undo"_s) && offered().contains(u"back"_s));
+        m_commands.runCommand(u"back"_s);
+        QCOMPARE(m_ui.selection(), Destination());
+        QVERIFY(offered().contains(u"forward"_s));
+    }
+
     void newThingsAreMadeAndShown()
     {
         m_commands.run(u"newPage"_s);
@@ -130,7 +152,8 @@ private slots:
                 settings.setModule(module.value, false);
         });
         auto commands = m_commands.menus().at(2).commands;
-        commands.removeLast();
+        // The palette, back and forward.
+        commands.resize(commands.size() - 3);
         commands.append(command(u"settings"_s));
         for (const OrvelCommand *command : commands) {
             m_commands.run(command->id);

@@ -207,6 +207,13 @@ public:
         return ProjectOperations::createBlank(m_store, name).value().toString(QUuid::WithoutBraces);
     }
 
+    Q_INVOKABLE void insertBlockFirst(const QString &pageID, const QString &text)
+    {
+        m_store.change<Page>(QUuid(pageID), [&](Page &page) {
+            page.content.prepend(Block{.id = QUuid::createUuid(), .text = text});
+        });
+    }
+
     Q_INVOKABLE void deletePage(const QString &id) { m_store.erase<Page>(QUuid(id)); }
 
     Q_INVOKABLE QString addFolder(const QString &name)

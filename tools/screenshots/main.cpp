@@ -18,6 +18,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QTranslator>
@@ -225,6 +226,10 @@ QList<Picture> codePictures()
     QList<Picture> pictures;
     for (const auto &[name, look] : looks())
         pictures.append(codePicture(name, windowSize, look, 0, run));
+    const QByteArray find = "view.viewModel.finder.openReplace('on')";
+    pictures.append(codePicture(QStringLiteral("find"), windowSize, light, 0, find));
+    pictures.append(codePicture(QStringLiteral("find-dark"), windowSize, dark, 0, find));
+    pictures.append(codePicture(QStringLiteral("find-small-huge"), smallSize, both(light, huge), 0, find));
     pictures.append(codePicture(QStringLiteral("failed"), windowSize, light, 1, run));
     pictures.append(codePicture(QStringLiteral("long-lines"), windowSize, light, 2, {}));
     pictures.append(
@@ -336,7 +341,62 @@ QList<Picture> pagePictures()
         editorPage(select + "const row = view.list.rowAt(4); view.list.menus.openMenu(row, row)"), windowSize,
         every, light);
     add("zen", editorPage("view.editor.isZen = true"), windowSize, every, light);
+    const QByteArray find = "view.editor.finder.open('the')";
+    const QByteArray replace = "view.editor.finder.openReplace('the'); view.editor.finder.replacement = 'a'";
+    for (const auto &[name, look] : looks()) {
+        add("find-" + name.toLatin1(), editorPage(find), windowSize, every, look);
+        add("replace-" + name.toLatin1(), editorPage(replace), windowSize, every, look);
+    }
+    add("find-none", editorPage("view.editor.finder.open('meadow')"), windowSize, every, light);
+    add("replace-small-huge", editorPage(replace), smallSize, every, both(dark, huge));
+    add("find-zen", editorPage("view.editor.isZen = true; " + find), windowSize, every, light);
     add("zen-dark", editorPage("view.editor.isZen = true"), windowSize, every, dark);
+    return pictures;
+}
+
+/// A folder of Markdown files as others write them.
+QString markdownFolder()
+{
+    static const QTemporaryDir folder;
+    const QList<std::pair<QString, QByteArray>> files{
+        {QStringLiteral("Travel/Packing.md"), "# Packing\n\n- [ ] boots\n  - laces\n"},
+        {QStringLiteral("Travel/Norway/Fjords.md"), "---\ntitle: Fjords\ntags: [sea]\n---\n\nText\n"},
+        {QStringLiteral("Travel/Norway/Costs.md"), "# Costs\n\n| a | b |\n|---|---|\n| 1 | 2 |\n"},
+        {QStringLiteral("Travel/map.png"), "x"}};
+    for (const auto &[name, text] : files) {
+        const QString path = folder.filePath(name);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(text);
+    }
+    return folder.filePath(QStringLiteral("Travel"));
+}
+
+QList<Picture> transferPictures()
+{
+    const auto page = [](const QByteArray &script) {
+        return "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Transfer\n"
+               "Item { OVBackground { anchors.fill: parent } MarkdownLayer { id: view; anchors.fill: parent "
+               "}\n"
+               "Timer { interval: 100; running: true; onTriggered: { " +
+               script + " } } }";
+    };
+    const QByteArray read = "view.transfer.read(['" + QUrl::fromLocalFile(markdownFolder()).toEncoded() +
+                            "']); view.openImport()";
+    QList<Picture> pictures;
+    const auto add = [&](const QString &name, const QByteArray &script, QSize size, const Look &look) {
+        pictures.append({QStringLiteral("transfer-") + name, page(script), size,
+                         [](WorkspaceStore &store, UIState &) { SampleWorkspace::fill(store); }, look});
+    };
+    for (const auto &[name, look] : looks()) {
+        add(QStringLiteral("import-") + name, "view.openImport()", windowSize, look);
+        add(QStringLiteral("ready-") + name, read, windowSize, look);
+        add(QStringLiteral("export-") + name, "view.openExport()", windowSize, look);
+    }
+    add(QStringLiteral("missing"), "view.openImport(); view.transfer.readPlace('/nowhere')", windowSize,
+        light);
+    add(QStringLiteral("ready-small-huge"), read, smallSize, both(dark, huge));
     return pictures;
 }
 
@@ -624,7 +684,7 @@ int main(int argc, char *argv[])
     for (const Picture &picture : galleryPictures() + codePictures() + databasePictures() + modulePictures() +
                                       notesPictures() + onboardingPictures() + pagePictures() +
                                       planningPictures() + palettePictures() + practicePictures() +
-                                      shellPictures() + tasksPictures()) {
+                                      transferPictures() + shellPictures() + tasksPictures()) {
         if (!isWanted(picture.name, arguments.sliced(2)))
             continue;
         const QString file = folder.filePath(picture.name + QStringLiteral(".png"));

@@ -13,6 +13,7 @@ Item {
         id: finder
 
         search: Orvel.search
+        session: Orvel
         store: Orvel.store
         ui: Orvel.ui
     }

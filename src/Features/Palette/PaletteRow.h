@@ -2,7 +2,7 @@
 
 #include "Support/Destination.h"
 
-/// One place that the palette can open.
+/// One place that the palette can open, or a command that it can give.
 struct PaletteRow {
     Q_GADGET
     Q_PROPERTY(QString header MEMBER header FINAL)
@@ -30,6 +30,10 @@ public:
     /// The keys that open it without the palette, as a user reads them.
     QString keys;
     Destination destination;
+    /// The command that it stands for instead of a place; else empty.
+    QString command;
+    /// Whether the place is to show where the query stands in it.
+    bool showsText = false;
 
     bool operator==(const PaletteRow &) const = default;
 };

@@ -54,6 +54,43 @@ PaletteRow rowOf(const SearchResult &result, const QString &query)
         row.emoji = RecordIcon::of(Page{.icon = result.emoji, .kind = kind}).emoji;
     }
     row.destination = result.destination;
+    row.showsText = true;
+    return row;
+}
+
+/// Nothing for a place whose record is gone.
+std::optional<PaletteRow> rowOf(const WorkspaceStore &store, const Destination &place)
+{
+    const auto named = [&](const QString &title, const QString &symbol, const QString &emoji = {}) {
+        const QString trimmed = title.trimmed();
+        PaletteRow row =
+            rowOf(trimmed.isEmpty() ? QCoreApplication::translate("PaletteRows", "Untitled") : trimmed);
+        row.symbol = symbol;
+        row.emoji = emoji;
+        row.destination = place;
+        return row;
+    };
+    if (const auto module = OrvelNavigation::module(place))
+        return rowOf(*module);
+    if (place.kind == Destination::Kind::settings)
+        return named(QCoreApplication::translate("PaletteRows", "Settings"), u"gearshape"_s);
+    if (const Page *const page = store.list<Page>().first(place.id))
+        return rowOf(*page);
+    if (const Project *const project = store.list<Project>().first(place.id))
+        return named(project->name, enumSymbol(SearchResultKind::project), project->icon);
+    if (const CodeDocument *const document = store.list<CodeDocument>().first(place.id))
+        return named(document->title, enumSymbol(SearchResultKind::code));
+    if (const Deck *const deck = store.list<Deck>().first(place.id))
+        return named(deck->title, enumSymbol(SearchResultKind::deck));
+    return std::nullopt;
+}
+
+PaletteRow rowOf(const NamedCommand &command, const QString &query)
+{
+    PaletteRow row = rowOf(command.title, query);
+    row.keys = command.keys;
+    row.symbol = u"command"_s;
+    row.command = command.id;
     return row;
 }
 
@@ -63,7 +100,7 @@ QList<const Page *> recentPages(const WorkspaceStore &store)
 {
     QList<const Page *> newest;
     for (const Page &page : store.pages()) {
-        const bool isFull = newest.size() == PaletteRows::mostRecentPages;
+        const bool isFull = newest.size() == PaletteRows::mostRecent;
         if (page.kind != PageKind::page || (isFull && page.updatedDate <= newest.last()->updatedDate))
             continue;
         if (isFull)
@@ -82,26 +119,35 @@ void numberRows(QList<PaletteRow> &rows)
 }
 } // namespace
 
-QList<PaletteRow> PaletteRows::start(const WorkspaceStore &store)
+QList<PaletteRow> PaletteRows::start(const WorkspaceStore &store, const Destination &present,
+                                     const QList<Destination> &visited)
 {
     QList<PaletteRow> rows;
-    QList<OrvelModule> modules;
-    for (const OrvelNavigation::Group &group : OrvelNavigation::visibleGroups(store.settings()))
-        modules += group.modules;
-    for (const OrvelModule module : modules.first(std::min(mostLinks, modules.size())))
-        rows.append(rowOf(module));
-    if (!rows.isEmpty())
-        rows.first().header = QCoreApplication::translate("PaletteRows", "QUICK LINKS");
-    const qsizetype links = rows.size();
+    const auto isListed = [&rows](const Destination &place) {
+        return std::ranges::find(rows, place, &PaletteRow::destination) != rows.end();
+    };
+    for (const Destination &place : visited)
+        if (const auto row = rowOf(store, place); row && rows.size() < mostRecent)
+            rows.append(*row);
     for (const Page *const page : recentPages(store))
-        rows.append(rowOf(*page));
-    if (rows.size() > links)
-        rows[links].header = u"RECENT"_s;
+        if (const auto place = Destination::page(page->id);
+            rows.size() < mostRecent && place != present && !isListed(place))
+            rows.append(rowOf(*page));
+    if (!rows.isEmpty())
+        rows.first().header = QCoreApplication::translate("PaletteRows", "RECENT");
+    const qsizetype recent = rows.size();
+    for (const OrvelNavigation::Group &group : OrvelNavigation::visibleGroups(store.settings()))
+        for (const OrvelModule module : group.modules)
+            if (rows.size() < recent + mostLinks && !isListed(OrvelNavigation::destination(module)))
+                rows.append(rowOf(module));
+    if (rows.size() > recent)
+        rows[recent].header = QCoreApplication::translate("PaletteRows", "QUICK LINKS");
     numberRows(rows);
     return rows;
 }
 
-QList<PaletteRow> PaletteRows::found(const QList<SearchResult> &results, const QString &query)
+QList<PaletteRow> PaletteRows::found(const QList<SearchResult> &results, const QList<NamedCommand> &commands,
+                                     const QString &query)
 {
     QList<SearchResultKind> kinds;
     for (const SearchResult &result : results)
@@ -115,6 +161,12 @@ QList<PaletteRow> PaletteRows::found(const QList<SearchResult> &results, const Q
                 rows.append(rowOf(result, query));
         rows[start].header = enumRawText(kind).toUpper();
     }
+    const qsizetype start = rows.size();
+    for (const NamedCommand &command : commands)
+        if (command.title.contains(query, Qt::CaseInsensitive))
+            rows.append(rowOf(command, query));
+    if (rows.size() > start)
+        rows[start].header = QCoreApplication::translate("PaletteRows", "COMMANDS");
     numberRows(rows);
     return rows;
 }

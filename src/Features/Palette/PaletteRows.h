@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Features/Palette/PaletteRow.h"
+#include "Session/CommandSource.h"
 #include "Store/WorkspaceStore.h"
 
 struct SearchResult;
@@ -9,11 +10,16 @@ struct SearchResult;
 namespace PaletteRows
 {
 inline constexpr qsizetype mostLinks = 6;
-inline constexpr qsizetype mostRecentPages = 5;
+inline constexpr qsizetype mostRecent = 5;
 
-/// The first of the visible modules and the pages changed last.
-QList<PaletteRow> start(const WorkspaceStore &store);
+/// The places visited last, and after them the pages changed last; then the first of the visible modules.
+/// @param present where the user is, which is no recent place
+/// @param visited the latest first
+QList<PaletteRow> start(const WorkspaceStore &store, const Destination &present,
+                        const QList<Destination> &visited);
 
 /// The results in groups of one kind each, the kinds in the order in which they first appear.
-QList<PaletteRow> found(const QList<SearchResult> &results, const QString &query);
+/// Behind them come the commands whose titles hold the query.
+QList<PaletteRow> found(const QList<SearchResult> &results, const QList<NamedCommand> &commands,
+                        const QString &query);
 } // namespace PaletteRows

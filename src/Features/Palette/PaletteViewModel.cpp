@@ -84,16 +84,42 @@ void PaletteViewModel::open(int row)
 {
     if (row < 0 || row >= count())
         return;
-    m_ui->setSelection(Destination(rowList()[row].destination));
+    const PaletteRow opened = rowList()[row];
     m_ui->setSearchPresented(false);
     m_ui->setShortcutsPresented(false);
+    if (opened.command.isEmpty())
+        m_ui->showText(opened.destination, opened.showsText ? m_query.trimmed() : QString());
+    else
+        runLater(opened.command);
+}
+
+QList<NamedCommand> PaletteViewModel::commands() const
+{
+    return m_session && m_session->commands() ? m_session->commands()->namedCommands()
+                                              : QList<NamedCommand>();
+}
+
+void PaletteViewModel::runLater(const QString &command)
+{
+    // Once the palette has given the keyboard back.
+    QMetaObject::invokeMethod(
+        this,
+        [this, command] {
+            if (m_session && m_session->commands())
+                m_session->commands()->runCommand(command);
+        },
+        Qt::QueuedConnection);
 }
 
 void PaletteViewModel::refresh()
 {
     const QString query = m_query.trimmed();
-    m_rows.setRows(query.isEmpty() ? PaletteRows::start(*m_store)
-                                   : PaletteRows::found(m_search->search(query), query));
+    if (query.isEmpty())
+        m_rows.setRows(PaletteRows::start(
+            *m_store, m_ui->selection(),
+            m_session ? m_session->visits()->recentPlaces(PaletteRows::mostRecent) : QList<Destination>()));
+    else
+        m_rows.setRows(PaletteRows::found(m_search->search(query), commands(), query));
     m_highlighted = rowList().isEmpty() ? -1 : 0;
     emit rowsChanged();
     emit highlightedChanged();

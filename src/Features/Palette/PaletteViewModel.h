@@ -2,7 +2,7 @@
 
 #include "Features/Palette/PaletteRow.h"
 #include "Foundation/KeyedListModel.h"
-#include "Session/SessionTypes.h"
+#include "Session/OrvelSession.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -13,6 +13,8 @@ class PaletteViewModel : public QObject
     QML_ELEMENT
     Q_PROPERTY(WorkspaceStore *store MEMBER m_store NOTIFY sourcesChanged REQUIRED FINAL)
     Q_PROPERTY(UIState *ui READ ui WRITE setUi NOTIFY sourcesChanged REQUIRED FINAL)
+    /// Knows the places visited and the commands; null for none of them.
+    Q_PROPERTY(OrvelSession *session MEMBER m_session NOTIFY sourcesChanged FINAL)
     Q_PROPERTY(PreparedSearch *search MEMBER m_search NOTIFY sourcesChanged REQUIRED FINAL)
 
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
@@ -53,7 +55,7 @@ public:
     Q_INVOKABLE void step(int rows);
     /// The same, but no further than to the first and the last.
     Q_INVOKABLE void jump(int rows);
-    /// Shows what the row stands for and closes the palette; without such a row it does nothing.
+    /// Shows or does what the row stands for and closes the palette; without such a row it does nothing.
     Q_INVOKABLE void open(int row);
     Q_INVOKABLE void openHighlighted() { open(m_highlighted); }
 
@@ -65,10 +67,13 @@ signals:
     void highlightedChanged();
 
 private:
+    QList<NamedCommand> commands() const;
+    void runLater(const QString &command);
     void refresh();
 
     WorkspaceStore *m_store = nullptr;
     UIState *m_ui = nullptr;
+    OrvelSession *m_session = nullptr;
     PreparedSearch *m_search = nullptr;
     QString m_query;
     int m_highlighted = -1;

@@ -7,6 +7,7 @@ import Orvel.Shell
 
 /// The detail pane: one screen at a time, the next one fading in over the last. Focus follows to another place, unless
 /// the user is moving through the places with the keyboard; a screen with a true `wantsKeyboard` takes it even then.
+/// Who goes back to a place finds it as it was left.
 FocusScope {
     id: root
 
@@ -24,6 +25,10 @@ FocusScope {
         const hadFocus = activeFocus
         const isNewPlace = detail.place !== shownPlace
         const last = pane
+        const kept = last ? ViewStates.keep(last.item) : undefined
+        if (last)
+            Orvel.visits.keepView(shownPlace, kept)
+        const found = isNewPlace ? Orvel.visits.takeView() : kept
         for (let i = 0; i < children.length; ++i) {
             const other = children[i]
             if (other === last)
@@ -38,6 +43,15 @@ FocusScope {
         // What lies above the workspace when it is first shown, such as the intro, keeps the focus.
         if (last && (hadFocus || isNewPlace && (!navigationHasFocus || currentItem?.wantsKeyboard === true)))
             pane.forceActiveFocus(Qt.OtherFocusReason)
+        if (found !== undefined)
+            restore(found, isNewPlace || hadFocus)
+    }
+
+    function restore(state: var, takesFocus: bool) {
+        ViewStates.scroll(currentItem, state)
+        if (takesFocus)
+            ViewStates.focus(currentItem, state)
+        settling.begin(currentItem, state)
     }
 
     clip: true
@@ -77,6 +91,30 @@ FocusScope {
 
         Behavior on opacity {
             NumberAnimation { duration: Theme.durationScreen }
+        }
+    }
+
+    // The focus moves the view, and so does what gets its size late, such as a header.
+    Connections {
+        id: settling
+
+        property Item screen: null
+        property var state
+        property int frames: 0
+
+        function begin(screen: Item, state: var) {
+            settling.screen = screen
+            settling.state = state
+            frames = 3
+        }
+
+        enabled: frames > 0
+        target: root.Window.window
+
+        function onAfterAnimating() {
+            --frames
+            if (screen === root.currentItem)
+                ViewStates.scroll(screen, state)
         }
     }
 

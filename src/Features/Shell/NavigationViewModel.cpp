@@ -26,6 +26,12 @@ QString NavigationViewModel::keys(const QString &shortcut)
     return KeyText::of(OVShortcuts::portableKeys(shortcut));
 }
 
+void NavigationViewModel::runCommand(const QString &id)
+{
+    if (CommandSource *const commands = session()->commands())
+        commands->runCommand(id);
+}
+
 void NavigationViewModel::newPage()
 {
     PageActions::create(store(), ui(), PageKind::page);

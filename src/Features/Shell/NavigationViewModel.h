@@ -48,6 +48,8 @@ public:
 
     /// The keys of a shortcut, such as "palette", as a user reads them.
     Q_INVOKABLE static QString keys(const QString &shortcut);
+    /// Gives a command of the menus.
+    Q_INVOKABLE void runCommand(const QString &id);
     Q_INVOKABLE void newPage();
     Q_INVOKABLE void newNote();
 

@@ -85,6 +85,20 @@ OVPressable {
             OVMenuSeparator { }
 
             OVMenuItem {
+                symbol: "square.and.arrow.down"
+                text: qsTr("Import Markdown…")
+                onTriggered: root.navigation.runCommand("importMarkdown")
+            }
+
+            OVMenuItem {
+                symbol: "square.and.arrow.up"
+                text: qsTr("Export all as Markdown…")
+                onTriggered: root.navigation.runCommand("exportMarkdown")
+            }
+
+            OVMenuSeparator { }
+
+            OVMenuItem {
                 shortcutText: root.navigation.keys("settings")
                 symbol: "gearshape"
                 text: qsTr("Workspace settings")

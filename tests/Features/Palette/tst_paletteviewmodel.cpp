@@ -75,8 +75,8 @@ private slots:
         m_workspace.hideModule(u"dashboard"_s);
         m_workspace.hideModule(u"tasks"_s);
         m_model->begin();
-        QCOMPARE(rows(), u"QUICK LINKS: Today Focus Calendar Projects Notes Databases "
-                         "RECENT: P0 Untitled P5 P4 P3"_s);
+        QCOMPARE(rows(), u"RECENT: P0 Untitled P5 P4 P3 "
+                         "QUICK LINKS: Today Focus Calendar Projects Notes Databases"_s);
         QCOMPARE(m_model->groupCount(), 2);
 
         m_workspace.showModules({});
@@ -85,6 +85,62 @@ private slots:
         ask(u" \n "_s);
         QCOMPARE(rows(), u"RECENT: P0 Untitled P5 P4 P3"_s);
         QVERIFY(!m_model->isNothingFound());
+    }
+
+    void placesVisitedComeFirst()
+    {
+        OrvelSession session(&store(), &ui());
+        m_model->setProperty("session", QVariant::fromValue(&session));
+        const QUuid page(m_workspace.addPage(u"Harbour"_s));
+        m_workspace.addPage(u"Quay"_s);
+        const QUuid deck(m_workspace.addDeck(u"Pitch"_s, {}));
+        for (const Destination &place :
+             {Destination::page(page), Destination::to(Destination::Kind::tasks), Destination::deck(deck),
+              Destination::to(Destination::Kind::settings)})
+            ui().setSelection(place);
+        m_model->begin();
+        QVERIFY2(rows().startsWith(u"RECENT: Pitch Tasks Harbour Dashboard Quay QUICK LINKS: Today"_s),
+                 qPrintable(rows()));
+        m_model->openHighlighted();
+        QCOMPARE(ui().selection(), Destination::deck(deck));
+        m_workspace.deletePage(page.toString());
+        m_model->begin();
+        QVERIFY2(rows().startsWith(u"RECENT: Settings Tasks Dashboard Quay"_s), qPrintable(rows()));
+    }
+
+    void commandsAreOfferedBehindTheRecords()
+    {
+        struct Commands : CommandSource {
+            QList<NamedCommand> namedCommands() override
+            {
+                return {{u"newPage"_s, u"New Page"_s, u"Ctrl N"_s}, {u"sidebar"_s, u"Toggle Sidebar"_s, {}}};
+            }
+            void runCommand(const QString &id) override { given.append(id); }
+            QStringList given;
+        } commands;
+        OrvelSession session(&store(), &ui());
+        session.setCommands(&commands);
+        m_model->setProperty("session", QVariant::fromValue(&session));
+        m_workspace.addPage(u"A new page"_s);
+        ask(u"NEW P"_s);
+        QCOMPARE(rows(), u"PAGE: A new page COMMANDS: New Page"_s);
+        QCOMPARE(m_model->rowList().last().keys, u"Ctrl N"_s);
+        m_model->open(1);
+        QVERIFY(!ui().isSearchPresented());
+        QTRY_COMPARE(commands.given, QStringList{u"newPage"_s});
+    }
+
+    void aRecordIsAskedToShowWhatWasLookedFor()
+    {
+        const QUuid page(m_workspace.addPage(u"plan"_s));
+        ask(u" plan"_s);
+        m_model->openHighlighted();
+        QCOMPARE(ui().selection(), Destination::page(page));
+        QCOMPARE(ui().takeSoughtText(), u"plan"_s);
+        QCOMPARE(ui().takeSoughtText(), QString());
+        m_model->begin();
+        m_model->openHighlighted();
+        QCOMPARE(ui().takeSoughtText(), QString());
     }
 
     void resultsAreGroupedByKind()
@@ -152,7 +208,8 @@ private slots:
         QCOMPARE(m_model->highlighted(), 0);
         m_model->begin();
         QCOMPARE(m_model->query(), QString());
-        QCOMPARE(m_model->rowList().first().name, u"Dashboard"_s);
+        QCOMPARE(m_model->rowList().first().name, u"plan"_s);
+        QCOMPARE(m_model->highlighted(), 0);
     }
 
     void opensWhatIsHighlighted()

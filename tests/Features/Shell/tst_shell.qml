@@ -137,6 +137,52 @@ Item {
             compare(pages(), ["Plan", "trip"])
         }
 
+        function test_goesBackToWhereAPageWasLeft() {
+            const blocks = []
+            for (let i = 0; i < 80; ++i)
+                blocks.push({ "text": "Line " + i })
+            const id = Workspace.addPageOf(blocks)
+            start()
+            const host = all(view, item => item instanceof DetailHost)[0]
+            const shown = () => host.currentItem as PageEditorView
+            Orvel.ui.selectPage(id)
+            tryVerify(() => shown() && !host.busy)
+            shown().list.focusBlock(50, 3)
+            shown().list.currentItem.part.input.select(1, 3)
+            waitForRendering(view)
+            const topRow = () => shown().list.indexAt(300, shown().list.contentY + 1)
+            const top = topRow()
+            verify(top > 20)
+
+            Orvel.ui.select("tasks")
+            one("Tasks", OVPageHeader)
+            tryCompare(host, "busy", false)
+            Workspace.insertBlockFirst(id, "New")
+            Orvel.visits.back()
+            tryVerify(() => shown()?.list.currentItem?.part.input.activeFocus === true)
+            const input = shown().list.currentItem.part.input
+            compare([input.text, input.selectedText], ["Line 50", "in"])
+            tryVerify(() => topRow() === top + 1)
+
+            // A visit by another way begins at the top.
+            tryCompare(host, "busy", false)
+            Orvel.ui.select("tasks")
+            tryVerify(() => !shown() && !host.busy)
+            Orvel.ui.selectPage(id)
+            tryVerify(() => shown() !== null)
+            verify(topRow() <= 0, "At the top, not at row " + topRow())
+
+            // Close to the top, where what stands above the rows takes part.
+            tryVerify(() => !host.busy)
+            shown().list.contentY = shown().list.originY + 150
+            const place = shown().list.contentY - shown().list.originY
+            Orvel.ui.select("tasks")
+            tryVerify(() => !shown() && !host.busy)
+            Orvel.visits.back()
+            tryVerify(() => shown() && !host.busy)
+            tryVerify(() => Math.abs(shown().list.contentY - shown().list.originY - place) < 1)
+        }
+
         function test_menuOfAPage() {
             Workspace.showModules(["tasks"])
             Workspace.addFolder("Travel & rest")

@@ -87,7 +87,7 @@ Item {
 
             keyClick(Qt.Key_G, Qt.ControlModifier)
             verify(root.finder.isOpen)
-            compare(root.finder.countText, "3 of 4")
+            compare(root.finder.countText, "2 of 4")
             tryVerify(() => isInSight(119))
         }
 

@@ -59,7 +59,7 @@ void MenuBarController::setSession(OrvelSession *session)
         applyEnabledState();
         scheduleReassert();
     });
-    connect(session->focus(), &FocusTimer::changed, this, &MenuBarController::showRemainingTime);
+    connect(session->focus(), &FocusTimer::changed, this, &MenuBarController::followFocus);
     emit sessionChanged();
     applyEnabledState();
     scheduleReassert();
@@ -132,6 +132,15 @@ void MenuBarController::scheduleReassert()
 {
     for (QTimer &timer : m_reasserts)
         timer.start();
+}
+
+void MenuBarController::followFocus()
+{
+    showRemainingTime();
+    // The menu has one line more or less now; a panel that learned that as it opens would cut it off.
+    const bool isFocusing = m_session->focus()->isRunning();
+    if (std::exchange(m_wasFocusing, isFocusing) != isFocusing && m_item)
+        m_item->plainMenu().update();
 }
 
 void MenuBarController::showRemainingTime()

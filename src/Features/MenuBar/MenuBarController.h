@@ -50,9 +50,11 @@ private:
     QList<StatusMenu::Entry> menu();
     void showRemainingTime();
     QString focusText() const;
+    void followFocus();
 
     OrvelSession *m_session = nullptr;
     std::function<QDBusConnection()> m_bus = &QDBusConnection::sessionBus;
     std::unique_ptr<StatusItem> m_item;
+    bool m_wasFocusing = false;
     std::array<QTimer, 2> m_reasserts;
 };

@@ -63,6 +63,7 @@ public:
     void reassert();
     /// @param text empty for none
     void setToolTip(const QString &text);
+    StatusMenu &plainMenu() { return m_menu; }
 
     static QString category() { return QStringLiteral("ApplicationStatus"); }
     QString id() const { return m_options.id; }

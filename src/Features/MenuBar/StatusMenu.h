@@ -30,6 +30,10 @@ public:
 
     explicit StatusMenu(Source entries, QObject *parent = nullptr);
 
+    /// Has the entries asked for anew; it tells panels if they have changed.
+    /// @return whether they have
+    bool update();
+
     static uint version() { return 3; }
     static QString textDirection();
     static QString status() { return QStringLiteral("normal"); }
@@ -55,9 +59,6 @@ signals:
 private:
     bool has(int id) const { return id >= 0 && id <= m_entries.size(); }
     QVariantMap properties(int id) const;
-    /// Whether it has changed what the menu shows.
-    bool update();
-
     Source m_source;
     /// Their ids begin at 1; 0 is the menu.
     QList<Entry> m_entries;

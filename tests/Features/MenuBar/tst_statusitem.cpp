@@ -295,14 +295,16 @@ void StatusItemTest::thePlainMenuTellsTheTime()
     };
     const qsizetype count = panel.entries().size();
     QVERIFY(!isOutdated());
+    // The line is there before the menu is shown, its time by then.
     m_session->focus()->open(this);
     m_session->focus()->toggleRunning();
-    QVERIFY(isOutdated());
-    QVERIFY(panel.entries().first().first.startsWith(u"*Focus: 2"_s));
     QCOMPARE(panel.entries().size(), count + 2);
+    QVERIFY(panel.entries().first().first.startsWith(u"*Focus: 2"_s));
+    bool wasOutdated = false;
+    QTRY_VERIFY(wasOutdated = wasOutdated || isOutdated());
     m_session->focus()->toggleRunning();
-    QVERIFY(isOutdated());
     QCOMPARE(panel.entries().size(), count);
+    QVERIFY(!isOutdated());
     const QDBusMessage group = panel.menu(u"GetGroupProperties"_s, QList<int>{1, 99}, QStringList());
     const auto known = qdbus_cast<QList<StatusMenuProperties>>(group.arguments().value(0));
     QCOMPARE(known.size(), 1);

@@ -21,6 +21,8 @@ void SettingsViewModel::start()
         if (key == menuBarKey)
             emit menuBarEnabledChanged();
     });
+    // A switch may have asked before there was a session.
+    emit menuBarEnabledChanged();
 }
 
 void SettingsViewModel::refresh(const ChangeSet &)

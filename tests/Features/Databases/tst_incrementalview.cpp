@@ -49,7 +49,7 @@ private slots:
             records.setSession(&m_session);
             const QAbstractItemModelTester rows(records.rows()), groups(records.groups());
             for (int step = 0; step < 25; ++step) {
-                change(records, below(3) ? property : below(m_properties.size()));
+                change(records, below(2) ? property : below(m_properties.size()));
                 records.flush();
                 compare(records, layout);
                 if (QTest::currentTestFailed())
@@ -99,7 +99,7 @@ private:
         if (below(2))
             view.sorts.append({QUuid::createUuid(), m_properties[property].id, below(2) == 0});
         if (below(2))
-            view.groupBy = m_properties[property].id;
+            view.groupBy = m_properties[below(m_properties.size())].id;
         DatabaseTable table;
         table.id = m_table;
         table.properties = m_properties;

@@ -11,6 +11,7 @@ FocusScope {
     readonly property alias decks: decks
     readonly property alias editor: editor
     readonly property alias deckExport: deckExport
+    readonly property alias pane: pane
     readonly property bool isNarrow: width < 720 * Theme.fontScale
     readonly property bool hasRoomForAll: width >= 1120 * Theme.fontScale
     readonly property int padding: isNarrow ? Theme.screenPaddingNarrow : Theme.space24

@@ -119,7 +119,11 @@ Item {
             symbol: "display"
             text: qsTr("Display for the slide")
             visible: root.displays.names.length > 1
-            onClicked: displayMenu.popup(displayButton, 0, -displayMenu.implicitHeight - Theme.space4)
+            onClicked: {
+                const byKey = visualFocus
+                displayMenu.openBeside(displayButton, 0, -Theme.space4, height + Theme.space4)
+                displayMenu.currentIndex = byKey ? 0 : -1
+            }
 
             PresenterDisplayMenu {
                 id: displayMenu

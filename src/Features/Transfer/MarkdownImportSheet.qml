@@ -42,7 +42,10 @@ OVSheet {
     subtitle: qsTr("Each file becomes a page, each folder a folder.")
     title: qsTr("Import Markdown")
     onClosed: transfer.begin()
-    onOpened: (add.visible ? add : pathField).forceActiveFocus(Qt.OtherFocusReason)
+    onOpened: {
+        const first = (add.visible ? add : pathField) as Item
+        first.forceActiveFocus(Qt.OtherFocusReason)
+    }
 
     Connections {
         target: sheet.transfer

@@ -21,6 +21,8 @@ public slots:
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Composer", &m_composer);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Assistive", &m_assistive);
         qmlRegisterSingletonInstance("Orvel.Testing", 1, 0, "Drop", &m_drop);
+        qmlRegisterType(QUrl::fromLocalFile(QStringLiteral(SCREEN_TEST_CASE)), "Orvel.Testing", 1, 0,
+                        "ScreenTestCase");
         m_session.provideTo(*engine);
         connect(&m_workspace.clock(), &Clock::ticked, m_session.focus(), &FocusTimer::check);
         const WorkspaceStore &store = m_workspace.store();

@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Code
 import Orvel.DesignSystem
 import Orvel.Testing
@@ -44,12 +43,12 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "CodeEditor"
+        scene: root
         visible: true
-        when: windowShown
 
         function init() {
             root.source = ""
@@ -62,11 +61,6 @@ Item {
             root.editor.forceFocus()
             waitForRendering(root.editor)
             return page
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function find(from, matches) {

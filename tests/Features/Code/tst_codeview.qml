@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Code
 import Orvel.DesignSystem
 import Orvel.Session
@@ -23,12 +22,12 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "CodeView"
+        scene: root
         visible: true
-        when: windowShown
 
         function init() {
             Workspace.reset()
@@ -39,10 +38,6 @@ Item {
             root.view = createTemporaryObject(screen, root)
             root.view.forceActiveFocus()
             waitForRendering(root.view)
-        }
-
-        function focused() {
-            return root.Window.activeFocusItem
         }
 
         /// The visible item that assistive tools know by this name.
@@ -63,11 +58,6 @@ Item {
             // What has just come into being is put in its place with the next picture.
             waitForRendering(root.view, 100)
             mouseClick(find(name))
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function saved() {

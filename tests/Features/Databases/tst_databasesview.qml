@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Databases
 import Orvel.Testing
 
@@ -21,11 +20,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "DatabasesView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.reset()
@@ -43,23 +42,6 @@ Item {
             open()
             root.view.viewModel.newFromTemplate(templateID)
             waitForRendering(root.view)
-        }
-
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
-        /// The visible item that assistive tools know by this name.
-        function find(name, from = root.view) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
         }
 
         /// The visible cell with this name.
@@ -87,20 +69,6 @@ Item {
                     return found
             }
             return null
-        }
-
-        function click(name) {
-            tryVerify(() => find(name) !== null, 2000, "shows " + name)
-            mouseClick(find(name))
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
-        }
-
-        function saved() {
-            return JSON.parse(Workspace.saved())
         }
 
         /// The values of a column in the file, record by record.

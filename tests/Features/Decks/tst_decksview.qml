@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Decks
 import Orvel.Testing
 
@@ -21,11 +20,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "DecksView"
-        when: windowShown
+        scene: root.Window.window.contentItem
 
         function init() {
             Workspace.reset()
@@ -41,29 +40,6 @@ Item {
         function openDeck(slides) {
             Workspace.addDeck("Plan", slides)
             open()
-        }
-
-        /// The visible item below this one that assistive tools know by this name.
-        function find(name, from = root.Window.window.contentItem) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
-        }
-
-        function click(name) {
-            tryVerify(() => find(name) !== null, 2000, "shows " + name)
-            mouseClick(find(name))
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function deck() {

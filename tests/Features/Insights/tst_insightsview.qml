@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Insights
 import Orvel.Testing
 
@@ -21,11 +20,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "InsightsView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.reset()
@@ -36,23 +35,6 @@ Item {
             root.view = createTemporaryObject(screen, root)
             root.view.forceActiveFocus()
             waitForRendering(root.view)
-        }
-
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
-        /// The visible item that assistive tools know by this name.
-        function find(name, from = root.view) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
         }
 
         function fill() {

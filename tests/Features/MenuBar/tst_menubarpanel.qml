@@ -29,9 +29,9 @@ Item {
         target: root.panel
     }
 
-    TestCase {
+    ScreenTestCase {
         name: "MenuBarPanel"
-        when: windowShown
+        scene: root.panel
 
         function init() {
             Workspace.reset()
@@ -40,10 +40,6 @@ Item {
             opened.clear()
             root.panel.begin()
             waitForRendering(root.panel)
-        }
-
-        function focused() {
-            return root.Window.activeFocusItem
         }
 
         function find(name, from = root.panel) {
@@ -56,11 +52,6 @@ Item {
                     return found
             }
             return null
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function tasks() {

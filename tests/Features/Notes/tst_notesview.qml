@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Notes
 import Orvel.Session
 import Orvel.Testing
@@ -22,11 +21,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "NotesView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.reset()
@@ -64,11 +63,6 @@ Item {
         function card(name) {
             tryVerify(() => find(name + ", ") !== null, 2000, "shows " + name)
             return find(name + ", ")
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function titles() {

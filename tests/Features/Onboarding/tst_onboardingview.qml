@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Onboarding
 import Orvel.Session
 import Orvel.Testing
@@ -22,11 +21,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "OnboardingView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.resetToFirstRun()
@@ -40,10 +39,6 @@ Item {
             waitForRendering(root.view)
         }
 
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
         /// The visible item that assistive tools know by this name.
         function find(name, from = root.view) {
             for (let i = from.children.length - 1; i >= 0; --i) {
@@ -55,16 +50,6 @@ Item {
                     return found
             }
             return null
-        }
-
-        function click(name) {
-            tryVerify(() => find(name) !== null, 2000, "shows " + name)
-            mouseClick(find(name))
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function isAt(step, title) {
@@ -83,10 +68,6 @@ Item {
                     return found
             }
             return null
-        }
-
-        function saved() {
-            return JSON.parse(Workspace.saved())
         }
 
         function test_byMouse() {

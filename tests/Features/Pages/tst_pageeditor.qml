@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Code
 import Orvel.DesignSystem
 import Orvel.Pages
@@ -24,11 +23,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "PageEditor"
-        when: windowShown
+        scene: root
 
         function init() {
             Workspace.reset()
@@ -99,20 +98,11 @@ Item {
             return target
         }
 
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
         /// The focus is in the field of this text, with the caret there.
         function at(text, position) {
             tryVerify(() => focused() instanceof BlockField && focused().text === text, 2000, "In " + text)
             if (position !== undefined)
                 compare(focused().cursorPosition, position)
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         /// Clicks once the item stands still: rows that have just changed places are still on their way.

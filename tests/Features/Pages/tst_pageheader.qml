@@ -24,11 +24,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "PageHeader"
-        when: windowShown
+        scene: root.header
 
         SignalSpy {
             id: leaving
@@ -55,33 +55,11 @@ Item {
             zen.clear()
         }
 
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
-        /// The visible item that assistive tools know by this name.
-        function find(name, from = root.header) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
-        }
-
         function overlay() {
             let top = root
             while (top.parent)
                 top = top.parent
             return top
-        }
-
-        function click(name, from = root.header) {
-            tryVerify(() => find(name, from) !== null, 2000, "shows " + name)
-            mouseClick(find(name, from))
         }
 
         function choose(button, ...entries) {
@@ -91,11 +69,6 @@ Item {
                 tryVerify(() => find(entry, overlay()).menu.opened)
                 mouseClick(find(entry, overlay()))
             }
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
         }
 
         function page(index = 0) {

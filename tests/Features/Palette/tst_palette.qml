@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.DesignSystem
 import Orvel.Palette
 import Orvel.Session
@@ -35,9 +34,9 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         name: "Palette"
-        when: windowShown
+        scene: root
 
         property Item outside
         property OVSheet other
@@ -86,11 +85,6 @@ Item {
         function open() {
             Orvel.ui.isSearchPresented = true
             tryVerify(() => field()?.activeFocus ?? false)
-        }
-
-        function type(text) {
-            for (const letter of text)
-                keyClick(letter)
         }
 
         function test_opensFocusedAndGivesTheFocusBack() {

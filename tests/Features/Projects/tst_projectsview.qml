@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Projects
 import Orvel.Session
 import Orvel.Testing
@@ -31,11 +30,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "ProjectsView"
-        when: windowShown
+        scene: root.Window.contentItem
 
         function init() {
             Workspace.reset()
@@ -55,28 +54,6 @@ Item {
             waitForRendering(root.view)
         }
 
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
-        /// The visible item that assistive tools know by this name, also in a sheet or menu.
-        function find(name, from = root.Window.contentItem) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
-        }
-
-        function click(name) {
-            tryVerify(() => find(name) !== null, 2000, "shows " + name)
-            mouseClick(find(name))
-        }
-
         function tabTo(name) {
             for (let i = 0; i < 40; ++i) {
                 keyClick(Qt.Key_Tab)
@@ -84,15 +61,6 @@ Item {
                     return focused()
             }
             fail("Tab does not lead to " + name)
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
-        }
-
-        function saved() {
-            return JSON.parse(Workspace.saved())
         }
 
         function names() {

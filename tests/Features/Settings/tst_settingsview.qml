@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Session
 import Orvel.Settings
 import Orvel.Testing
@@ -22,11 +21,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "SettingsView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.reset()
@@ -36,10 +35,6 @@ Item {
             root.view = createTemporaryObject(screen, root)
             root.view.forceActiveFocus()
             waitForRendering(root.view)
-        }
-
-        function focused() {
-            return root.Window.activeFocusItem
         }
 
         /// The visible item that assistive tools know by this name.

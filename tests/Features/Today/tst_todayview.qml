@@ -1,5 +1,4 @@
 import QtQuick
-import QtTest
 import Orvel.Session
 import Orvel.Testing
 import Orvel.Today
@@ -22,11 +21,11 @@ Item {
         }
     }
 
-    TestCase {
+    ScreenTestCase {
         id: test
 
         name: "TodayView"
-        when: windowShown
+        scene: root.view
 
         function init() {
             Workspace.reset()
@@ -38,23 +37,6 @@ Item {
             waitForRendering(root.view)
         }
 
-        function focused() {
-            return root.Window.activeFocusItem
-        }
-
-        /// The visible item that assistive tools know by this name.
-        function find(name, from = root.view) {
-            for (let i = 0; i < from.children.length; ++i) {
-                const child = from.children[i]
-                if (!child.visible)
-                    continue
-                const found = child.Accessible.name === name ? child : find(name, child)
-                if (found)
-                    return found
-            }
-            return null
-        }
-
         function tabTo(name) {
             for (let i = 0; i < 40; ++i) {
                 keyClick(Qt.Key_Tab)
@@ -62,15 +44,6 @@ Item {
                     return focused()
             }
             fail("Tab does not lead to " + name)
-        }
-
-        function type(text) {
-            for (const character of text)
-                keyClick(character)
-        }
-
-        function saved() {
-            return JSON.parse(Workspace.saved())
         }
 
         function test_typingAddsATask() {

@@ -25,7 +25,11 @@ FocusTimer::FocusTimer(WorkspaceStore &store, Preferences &preferences, Machine 
 void FocusTimer::open(const QObject *screen)
 {
     m_screen = screen;
-    beginDay();
+    const QString today = OVDate::dayKey(m_store.now(), m_store.clock().timeZone());
+    if (m_preferences.value(dayKey).toString() != today) {
+        m_preferences.setValue(dayKey, today);
+        m_preferences.setValue(sessionsKey, 0);
+    }
     m_minutes = int(std::clamp<qint64>(m_store.settings().defaultFocusMinutes, 0, maxMinutes));
     m_taskID = QUuid();
     stop(0ms);
@@ -39,20 +43,6 @@ void FocusTimer::close(const QObject *screen)
     m_screen = nullptr;
     m_taskID = QUuid();
     stop(0ms);
-}
-
-void FocusTimer::beginDay()
-{
-    const QString today = this->today();
-    if (m_preferences.value(dayKey).toString() == today)
-        return;
-    m_preferences.setValue(dayKey, today);
-    m_preferences.setValue(sessionsKey, 0);
-}
-
-QString FocusTimer::today() const
-{
-    return OVDate::dayKey(m_store.now(), m_store.clock().timeZone());
 }
 
 void FocusTimer::toggleRunning()
@@ -70,8 +60,6 @@ void FocusTimer::toggleRunning()
 
 void FocusTimer::complete()
 {
-    // The screen may have stayed open past midnight.
-    beginDay();
     m_preferences.setValue(sessionsKey, sessions() + 1);
     if (const TaskItem *const task = linkedTask(); task && task->projectID)
         ProjectOperations::logActivity(m_store, *task->projectID, tr("Focused %1 minutes").arg(m_minutes),
@@ -125,8 +113,7 @@ QString FocusTimer::timeText(int seconds)
 
 int FocusTimer::sessions() const
 {
-    return m_preferences.value(dayKey).toString() == today() ? m_preferences.value(sessionsKey, 0).toInt()
-                                                             : 0;
+    return m_preferences.value(sessionsKey, 0).toInt();
 }
 
 const TaskItem *FocusTimer::linkedTask() const

@@ -72,7 +72,7 @@ public:
     QString timeText() const;
     /// Minutes and seconds, such as "60:00"; hours are not split off.
     static QString timeText(int seconds);
-    /// Counted today; one under way at midnight counts for the day that it ends on.
+    /// Counted on the day of the count.
     int sessions() const;
     /// Null if there is none or it is gone.
     const TaskItem *linkedTask() const;
@@ -90,9 +90,6 @@ signals:
     void finished();
 
 private:
-    /// Begins the count anew on another day.
-    void beginDay();
-    QString today() const;
     std::chrono::milliseconds passed() const;
     void stop(std::chrono::milliseconds passed);
     void scheduleCheck();

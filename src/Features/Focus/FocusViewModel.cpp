@@ -6,7 +6,6 @@ FocusViewModel::FocusViewModel(QObject *parent) : ViewModel(parent)
 {
     follow<TaskItem>();
     followSettings();
-    followDays();
 }
 
 FocusViewModel::~FocusViewModel()

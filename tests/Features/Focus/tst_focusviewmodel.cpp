@@ -22,7 +22,6 @@ private slots:
     void presetsWaitForTheSession();
     void offersOpenTasks();
     void tilesFollowTheLength();
-    void countsTheSessionsOfThisDay();
     void goingDropsTheSession();
     void hiddenItIsNotWoken();
 
@@ -133,26 +132,6 @@ void FocusViewModelTest::tilesFollowTheLength()
     QCOMPARE(m_model->minutesText(), QStringLiteral("75"));
     m_model->choosePreset(0);
     QCOMPARE(m_model->minutesText(), QStringLiteral("45"));
-}
-
-void FocusViewModelTest::countsTheSessionsOfThisDay()
-{
-    m_model->toggleRunning();
-    m_model->logSession();
-    QSignalSpy changes(m_model.get(), &FocusViewModel::changed);
-    m_workspace.advanceHours(20);
-    finishTurn();
-    QVERIFY(!changes.isEmpty());
-    QCOMPARE(m_model->sessionsText(), QStringLiteral("0"));
-    m_model->toggleRunning();
-    m_model->logSession();
-    QCOMPARE(m_model->sessionsText(), QStringLiteral("1"));
-    changes.clear();
-    m_workspace.clock().setTimeZone(QTimeZone(-10 * 3600));
-    finishTurn();
-    QVERIFY(!changes.isEmpty());
-    QCOMPARE(m_model->sessionsText(), QStringLiteral("0"));
-    m_workspace.clock().setTimeZone(QTimeZone::utc());
 }
 
 void FocusViewModelTest::goingDropsTheSession()

@@ -18,7 +18,7 @@ FocusScope {
     Loader {
         id: markdown
 
-        readonly property MarkdownLayer layer: item as MarkdownLayer
+        readonly property MarkdownLayer sheets: item as MarkdownLayer
 
         active: root.isSettled
         anchors.fill: parent
@@ -29,10 +29,10 @@ FocusScope {
     Connections {
         target: root.commands
         function onMarkdownExportRequested() {
-            markdown.layer?.openExport()
+            markdown.sheets?.openExport()
         }
         function onMarkdownImportRequested() {
-            markdown.layer?.openImport()
+            markdown.sheets?.openImport()
         }
     }
 

@@ -32,7 +32,7 @@ void Theme::update()
     };
     using Look = OVThemeSnapshot;
     emit changed();
-    if (differs(&Look::fontScale, &Look::densityScale, &Look::cornerScale))
+    if (differs(&Look::fontScale, &Look::densityScale, &Look::cornerScale, &Look::compactSidebar))
         emit sizesChanged();
     if (differs(&Look::fontScale, &Look::fontDesign))
         emit typeChanged();

@@ -74,8 +74,12 @@ void DatabaseOperations::changeProperty(WorkspaceStore &store, const QUuid &tabl
                                         const DBProperty &property, const QHash<QString, QString> &renamed)
 {
     const Action action(store, ActionText::tr("Change Property"));
-    const bool isList = property.type == DBPropertyType::multiselect;
+    // The values are still in the form of the type that it had.
+    bool isList = property.type == DBPropertyType::multiselect;
     change(store, tableID, {}, [&](DatabaseTable &table) {
+        isList |= std::ranges::any_of(table.properties, [&](const DBProperty &other) {
+            return other.id == property.id && other.type == DBPropertyType::multiselect;
+        });
         std::ranges::replace_if(
             table.properties, [&](const DBProperty &other) { return other.id == property.id; }, property);
         for (DBView &view : table.views)

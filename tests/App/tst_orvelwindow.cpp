@@ -127,7 +127,7 @@ private slots:
                 objects = m_window->findChildren<QObject *>().size();
         });
         QTRY_VERIFY(objects);
-        QVERIFY2(*objects <= 110, qPrintable(u"%1 objects"_s.arg(*objects)));
+        QVERIFY2(*objects <= 120, qPrintable(u"%1 objects"_s.arg(*objects)));
         QTRY_VERIFY(item("WorkspaceLayer"));
     }
 

@@ -114,6 +114,14 @@ icaltimetype ICalendarSeries::endOf(const Event &event, icaltimetype until) cons
         until.minute = until.second = 59;
         return until;
     }
+    if (event.start.is_date && !until.is_date && icaltime_is_utc(until)) {
+        // Midnight of the last day, or its last second, in the time zone of whoever wrote it.
+        const QDateTime utc(QDate(until.year, until.month, until.day),
+                            QTime(until.hour, until.minute, qMin(until.second, 59)), Qt::UTC);
+        const bool isEdge =
+            (until.hour == 0 && until.minute == 0) || (until.hour == 23 && until.minute == 59);
+        return dateOf(isEdge ? utc.date() : utc.toTimeZone(m_reach.local).date());
+    }
     return icaltime_is_utc(until) ? inZoneOf(event, until, ICalendarZone(QTimeZone::utc())) : until;
 }
 

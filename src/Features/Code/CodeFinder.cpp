@@ -41,7 +41,9 @@ void CodeFinder::show(const QString &text)
 {
     if (text.trimmed().isEmpty())
         return;
+    // The text may have changed since it was last searched, and the query may be the same.
     startAt(0);
+    setQuery({});
     setQuery(text);
     choose();
 }

@@ -44,9 +44,8 @@ QByteArray toUtf8(const QByteArray &file)
     if (const auto encoding = QStringConverter::encodingForData(file);
         encoding && *encoding != QStringConverter::Utf8)
         return QString(QStringDecoder(*encoding).decode(file)).toUtf8();
-    if (file.startsWith("\xEF\xBB\xBF"))
-        return toUtf8(file.mid(3));
-    return file.isValidUtf8() ? file : fromWindows1252(file).toUtf8();
+    const QByteArray text = file.startsWith("\xEF\xBB\xBF") ? file.mid(3) : file;
+    return text.isValidUtf8() ? text : fromWindows1252(text).toUtf8();
 }
 
 /// Short texts that have come before, so that columns of few values share them.

@@ -46,7 +46,10 @@ OVPressable {
     }
 
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_F2 || event.key === Qt.Key_Delete
+        event.accepted = !(event.modifiers & ~Qt.KeypadModifier)
+                         && (event.key === Qt.Key_F2 || event.key === Qt.Key_Delete)
+        if (!event.accepted)
+            return
         if (event.key === Qt.Key_F2)
             records.editProperty(column)
         else if (event.key === Qt.Key_Delete)

@@ -160,7 +160,7 @@ FocusScope {
                 if (!activeFocus)
                     return recordKeys.fillColumn = -1
                 // Without records it would hold the keyboard where nobody sees it.
-                if (count === 0)
+                if (count === 0 && root.canAdd)
                     return addButton.forceActiveFocus(Qt.TabFocusReason)
                 recordKeys.ringShown = true
                 if (currentIndex < 0)

@@ -53,6 +53,8 @@ Item {
 
     /// Ends the editing; what was typed stays.
     function finish(key = 0) {
+        // It would write into what the cell stands for next.
+        popup?.close()
         if (!editing)
             return
         closeEditor()
@@ -79,7 +81,8 @@ Item {
         popup = component.createObject(root)
         // The record keeps its place until the popup has gone.
         records.beginEdit(recordID, column)
-        popup.closed.connect(records.endEdit)
+        const record = recordID, place = column
+        popup.closed.connect(() => records.endEditOf(record, place))
         const menu = popup as DBOptionMenu
         if (!menu)
             return popup.open()

@@ -72,8 +72,12 @@ QStringList PropertyFormViewModel::storedOptions() const
     QStringList options;
     QSet<QString> seen;
     for (const DBRow *const row : DatabaseOperations::rows(store(), m_tableID)) {
-        for (const QString &option : DBValue::options(row->value(m_property)))
-            if (!seen.contains(option)) {
+        const QString value = row->value(m_property);
+        const QStringList found = m_property.type == DBPropertyType::multiselect
+                                      ? DBValue::options(value)
+                                      : QStringList{value.trimmed()};
+        for (const QString &option : found)
+            if (!option.isEmpty() && !seen.contains(option)) {
                 seen.insert(option);
                 options.append(option);
             }

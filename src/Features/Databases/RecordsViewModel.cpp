@@ -128,6 +128,12 @@ QString RecordsViewModel::write(const QUuid &recordID, int column, const QString
     return value;
 }
 
+void RecordsViewModel::endEditOf(const QUuid &recordID, int column)
+{
+    if (m_edit.record == recordID && m_edit.column == column)
+        endEdit();
+}
+
 void RecordsViewModel::endEdit()
 {
     const Edit edit = std::exchange(m_edit, {});

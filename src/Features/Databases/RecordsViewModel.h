@@ -72,6 +72,8 @@ public:
     /// Writes a text as it is typed; returns the text that the cell takes.
     Q_INVOKABLE QString write(const QUuid &recordID, int column, const QString &text);
     Q_INVOKABLE void endEdit();
+    /// The same if this is the value being edited.
+    Q_INVOKABLE void endEditOf(const QUuid &recordID, int column);
     /// Ends the editing with the value as it was before.
     Q_INVOKABLE void cancelEdit();
 

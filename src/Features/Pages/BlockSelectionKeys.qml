@@ -10,6 +10,28 @@ TextInput {
 
     required property BlockSelecting list
     readonly property PageSelection selection: list.selection
+    /// What the Edit menu works on.
+    readonly property QtObject editTarget: QtObject {
+        readonly property bool canPaste: root.canPaste
+        readonly property int length: root.list.count
+        readonly property string selectedText: root.selection.text
+
+        function copy() {
+            root.selection.copy()
+        }
+
+        function cut() {
+            root.selection.cut()
+        }
+
+        function paste() {
+            root.selection.paste(false)
+        }
+
+        function selectAll() {
+            root.selection.selectAll()
+        }
+    }
 
     signal menuRequested()
 
@@ -71,13 +93,6 @@ TextInput {
         case Qt.Key_A:
             selection.selectAll()
             return true
-        case Qt.Key_C:
-        case Qt.Key_Insert:
-            selection.copy()
-            return true
-        case Qt.Key_X:
-            selection.cut()
-            return true
         case Qt.Key_V:
             selection.paste(shift)
             return true
@@ -115,6 +130,14 @@ TextInput {
         const shift = (event.modifiers & Qt.ShiftModifier) !== 0
         list.caret.column = -1
         list.caret.typing = true
+        // Some of these have several keys.
+        event.accepted = true
+        if (event.matches(StandardKey.Cut))
+            return selection.cut()
+        if (event.matches(StandardKey.Copy))
+            return selection.copy()
+        if (event.matches(StandardKey.Paste))
+            return selection.paste(false)
         event.accepted = !(event.modifiers & (Qt.AltModifier | Qt.MetaModifier)) && handleKey(event.key, control, shift)
     }
 

@@ -61,6 +61,9 @@ void PageEditorViewModel::pasteText(const Block &target, PageBlocks::TextEdit ed
     static const QRegularExpression emptyLines(QStringLiteral("\\n(?:[ \\t]*\\n)+"));
     if (target.type != BlockType::code)
         edit.inserted.replace(emptyLines, QStringLiteral("\n"));
+    // A divider shows no text.
+    if (target.type == BlockType::divider)
+        return pasteBlocks(target.id, edit, BlockClipboard::linesIn(edit.inserted));
     const Action action(store(), tr("Paste"));
     const Place end = editText(target, edit, -1);
     requestFocus(end.blockID, end.position);
@@ -76,7 +79,8 @@ void PageEditorViewModel::pasteBlocks(const QUuid &blockID, PageBlocks::TextEdit
     edit.end = std::min(edit.end, target->text.size());
     edit.begin = std::min(edit.begin, edit.end);
     const bool isBlank = target->text.trimmed().isEmpty();
-    const bool isLine = pasted.size() == 1 && pasted.first().type != BlockType::code;
+    const bool isLine = pasted.size() == 1 && pasted.first().type != BlockType::code &&
+                        pasted.first().type != BlockType::divider;
     if (target->type != BlockType::divider && !isBlank && isLine)
         edit.inserted = pasted.first().text;
     else if (!pasted.isEmpty()) {
@@ -87,7 +91,7 @@ void PageEditorViewModel::pasteBlocks(const QUuid &blockID, PageBlocks::TextEdit
         requestFocus(end.blockID, end.position);
         return;
     }
-    if (!edit.inserted.isEmpty())
+    if (!edit.inserted.isEmpty() && target->type != BlockType::divider)
         pasteText(*target, edit);
 }
 

@@ -54,7 +54,10 @@ void PageFinder::showSoughtText()
     const QString text = m_session->ui()->takeSoughtText();
     if (text.trimmed().isEmpty())
         return;
+    // The blocks may have changed since they were last searched, and the query may be the same.
     m_from = {};
+    m_matches.clear();
+    setQuery({});
     setQuery(text);
     choose();
 }

@@ -89,8 +89,13 @@ QList<MarkdownExport::File> MarkdownExport::files(const QList<Folder> &folders, 
 {
     QHash<QUuid, QString> folderNames;
     FileNames::Unique roots;
-    for (const Folder &folder : folders)
-        folderNames.insert(folder.id, roots.take(FileNames::fit(folder.name, untitled())));
+    for (const Folder &folder : folders) {
+        QString name = FileNames::fit(folder.name, untitled());
+        // A page may have a file of that name.
+        if (name.endsWith(QStringLiteral(".md"), Qt::CaseInsensitive))
+            name += u'-';
+        folderNames.insert(folder.id, roots.take(name));
+    }
     const bool hasNotes =
         std::ranges::any_of(pages, [](const Page &page) { return page.kind == PageKind::note; });
     const QString notes = hasNotes ? roots.take(Texts::tr("Notes")) : QString();

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -93,7 +94,9 @@ QString takeFrontMatter(QString &text, bool &isLost)
         return {};
     const QStringList lines = text.mid(4, end - 3).split(u'\n', Qt::SkipEmptyParts);
     // Otherwise it is a text between two rules.
-    if (std::ranges::none_of(lines, [](const QString &line) { return line.indexOf(u':') > 0; }))
+    static const QRegularExpression entry(QStringLiteral("^(?:[A-Za-z_][\\w-]*:(?:\\s|$)|\\s|#|- )"));
+    if (lines.isEmpty() ||
+        !std::ranges::all_of(lines, [](const QString &line) { return entry.match(line).hasMatch(); }))
         return {};
     QString title;
     for (const QString &line : lines) {

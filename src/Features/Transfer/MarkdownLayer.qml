@@ -33,9 +33,12 @@ DropArea {
         onMessage: text => toast.show(text)
     }
 
+    // Above the screens, while what takes the files is below them.
     Rectangle {
         anchors.fill: parent
         anchors.margins: Theme.space12
+        parent: area.Window.contentItem
+        z: 1000
         border.color: Theme.accent
         border.width: 2
         color: Qt.alpha(Theme.ovSurface, 0.85)

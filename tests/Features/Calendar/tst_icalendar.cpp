@@ -165,6 +165,9 @@ void ICalendarTest::reads_data()
         << u"2026-03-16 09:00 Meet, 2026-03-19 10:00 Moved"_s;
     row("until a day, which counts", "DTSTART:20260316T090000\nRRULE:FREQ=DAILY;UNTIL=20260317\n",
         u"2026-03-16 09:00 Meet, 2026-03-17 09:00 Meet"_s);
+    row("whole days until midnight where it was written, in UTC",
+        "DTSTART;VALUE=DATE:20260330\nRRULE:FREQ=DAILY;UNTIL=20260331T220000Z\n",
+        u"2026-03-30 Meet, 2026-03-31 Meet, 2026-04-01 Meet"_s);
     row("exceptions in a list, of another zone and of a day",
         "DTSTART;TZID=Europe/Berlin:20260316T090000\nRRULE:FREQ=DAILY;COUNT=5\n"
         "EXDATE;TZID=America/New_York:20260316T040000,20260318T040000\nEXDATE;VALUE=DATE:20260319\n",

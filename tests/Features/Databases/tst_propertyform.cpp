@@ -71,7 +71,7 @@ private slots:
     void aTypeWithOptionsBeginsWithWhatRecordsHold()
     {
         const QUuid record = add({{}, {}, {}, u"Tea"_s});
-        add({{}, {}, {}, u"Milk, Tea"_s});
+        const QUuid both = add({{}, {}, {}, u"Milk, Tea"_s});
         PropertyFormViewModel form;
         fill(form, 3);
         form.setType(u"multiselect"_s);
@@ -81,6 +81,14 @@ private slots:
         };
         QCOMPARE(property().options, (QStringList{u"Tea"_s, u"Milk"_s}));
         QCOMPARE(value(record, 3), u"Tea"_s);
+        PropertyFormViewModel renamed;
+        fill(renamed, 3);
+        renamed.renameOption(optionID(renamed, 0), u"Chai"_s);
+        renamed.setType(u"select"_s);
+        renamed.apply();
+        QCOMPARE(value(record, 3), u"Chai"_s);
+        QCOMPARE(value(both, 3), u"Milk,Chai"_s);
+        DatabaseOperations::setValue(m_workspace.store(), u"Tea"_s, property().id, record);
         PropertyFormViewModel back;
         fill(back, 3);
         back.setType(u"number"_s);

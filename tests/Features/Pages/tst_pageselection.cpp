@@ -51,6 +51,7 @@ private slots:
     void copiesInThreeForms();
     void pastesWhatTheClipboardNames_data();
     void pastesWhatTheClipboardNames();
+    void pastesBehindADivider();
     void readsHtmlFromElsewhere();
     void makesKindsOfTypedSigns_data();
     void makesKindsOfTypedSigns();
@@ -226,6 +227,7 @@ void PageSelectionTest::pastesWhatTheClipboardNames_data()
     QTest::newRow("code last") << plain << u"# One\n```py\nx\n```\n"_s << u"abcd"_s
                                << u"heading2:ab|heading1:One|code:x|paragraph:cd"_s;
     QTest::newRow("into an empty block") << plain << u"> q\n\n---\n"_s << u""_s << u"quote:q|divider:"_s;
+    QTest::newRow("a divider") << plain << u"---"_s << u"abcd"_s << u"heading2:ab|divider:|paragraph:cd"_s;
     QTest::newRow("one line") << plain << u"- x"_s << u"abcd"_s << u"heading2:abxcd"_s;
     QTest::newRow("lines") << plain << u"x_y\n\n\nz\\*"_s << u"abcd"_s
                            << u"heading2:abx_y|paragraph:z\\*cd"_s;
@@ -245,6 +247,17 @@ void PageSelectionTest::pastesWhatTheClipboardNames()
     QTEST(described(), "after");
     m_session.undo()->undo();
     QCOMPARE(described(), u"heading2:"_s + into);
+}
+
+/// A divider shows no text, so what is pasted there goes behind it.
+void PageSelectionTest::pastesBehindADivider()
+{
+    open({block({}, u"divider"_s)});
+    copy(u"text/plain"_s, u"sea\nsky"_s);
+    QVERIFY(m_model->paste(id(0), 0, 0));
+    QCOMPARE(described(), u"divider:|paragraph:sea|paragraph:sky"_s);
+    m_session.undo()->undo();
+    QCOMPARE(described(), u"divider:"_s);
 }
 
 void PageSelectionTest::readsHtmlFromElsewhere()

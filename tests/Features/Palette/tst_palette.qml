@@ -193,7 +193,7 @@ Item {
             mouseMove(window, place.x + 6, place.y)
             tryVerify(() => highlighted() === "Focus")
             keyClick(Qt.Key_Down)
-            compare(highlighted(), "Tasks")
+            compare(highlighted(), rows()[rows().findIndex(row => row.name === "Focus") + 1].name)
             mouseClick(window, place.x + 6, place.y)
             compare(Orvel.ui.selection.text, "focus")
             compare(Orvel.ui.isSearchPresented, false)

@@ -54,6 +54,8 @@ private slots:
         const auto ruled = parse("---\n\nText\n\n---\n");
         QCOMPARE(ruled.blocks.size(), 3);
         QVERIFY(!ruled.lostFrontMatter);
+        // Nor is a text between two rules that has a colon somewhere.
+        QCOMPARE(parse("---\nMeet at 10:30, see https://example.org\n\n---\nText\n").blocks.size(), 4);
     }
 
     void textsOfOtherEncodingsAreRead()

@@ -62,8 +62,11 @@ void PageEditorViewModel::pasteText(const Block &target, PageBlocks::TextEdit ed
     if (target.type != BlockType::code)
         edit.inserted.replace(emptyLines, QStringLiteral("\n"));
     // A divider shows no text.
-    if (target.type == BlockType::divider)
-        return pasteBlocks(target.id, edit, BlockClipboard::linesIn(edit.inserted));
+    if (target.type == BlockType::divider) {
+        if (const QList<Block> lines = BlockClipboard::linesIn(edit.inserted); !lines.isEmpty())
+            pasteBlocks(target.id, edit, lines);
+        return;
+    }
     const Action action(store(), tr("Paste"));
     const Place end = editText(target, edit, -1);
     requestFocus(end.blockID, end.position);
@@ -91,7 +94,7 @@ void PageEditorViewModel::pasteBlocks(const QUuid &blockID, PageBlocks::TextEdit
         requestFocus(end.blockID, end.position);
         return;
     }
-    if (!edit.inserted.isEmpty() && target->type != BlockType::divider)
+    if (!edit.inserted.isEmpty())
         pasteText(*target, edit);
 }
 

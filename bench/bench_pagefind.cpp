@@ -56,6 +56,9 @@ public:
         finder()->open();
         settle();
     }
+
+private:
+    qsizetype m_typed = 0;
 };
 
 /// What a plain search does for one key: it compares every block, case aside.

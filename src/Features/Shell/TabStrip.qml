@@ -31,7 +31,7 @@ FocusScope {
     }
 
     function reveal(tab: int) {
-        if (tab < 0 || tab >= repeater.count)
+        if (tab < 0 || repeater.itemAt(tab) === null)
             return
         const item = repeater.itemAt(tab)
         flickable.contentX = Math.max(item.x + item.width + 2 * margin - width, Math.min(item.x, flickable.contentX))

@@ -159,8 +159,18 @@ FocusScope {
                     return
                 if (!activeFocus)
                     return recordKeys.fillColumn = -1
+                // The focus may come before the records do.
+                if (root.records.isEmpty && root.canAdd)
+                    Qt.callLater(list.takeFocus)
+                else
+                    takeFocus()
+            }
+
+            function takeFocus() {
+                if (!activeFocus)
+                    return
                 // Without records it would hold the keyboard where nobody sees it.
-                if (count === 0 && root.canAdd)
+                if (root.records.isEmpty && root.canAdd)
                     return addButton.forceActiveFocus(Qt.TabFocusReason)
                 recordKeys.ringShown = true
                 if (currentIndex < 0)

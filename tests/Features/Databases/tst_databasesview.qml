@@ -191,7 +191,7 @@ Item {
             openTemplate("projectTracker")
             root.view.viewModel.selectViewBy(0)
             findRecords().forceActiveFocus(Qt.TabFocusReason)
-            compare(focused().text, "New record")
+            tryVerify(() => focused().text === "New record")
             keyClick(Qt.Key_Return)
             type("Plan")
             keyClick(Qt.Key_Return)

@@ -34,7 +34,7 @@ ScreenListRow {
         if (isReturn)
             viewModel.read(number)
         else if (isCancel)
-            viewModel.cancel(number)
+            viewModel.downloads.cancel(number)
     }
 
     HoverWash {
@@ -105,7 +105,7 @@ ScreenListRow {
             tabStop: false
             text: qsTr("Cancel the download")
             visible: row.isDownloading
-            onClicked: row.viewModel.cancel(row.number)
+            onClicked: row.viewModel.downloads.cancel(row.number)
         }
 
         OVSecondaryButton {

@@ -13,10 +13,7 @@ DiscoverViewModel::DiscoverViewModel(QObject *parent) : ViewModel(parent)
     m_searchTimer.setSingleShot(true);
     m_searchTimer.setInterval(350ms);
     connect(&m_searchTimer, &QTimer::timeout, this, &DiscoverViewModel::searchNow);
-    m_background.setMaxThreadCount(1);
 }
-
-DiscoverViewModel::~DiscoverViewModel() = default;
 
 void DiscoverViewModel::setCatalogue(const QUrl &catalogue)
 {
@@ -25,6 +22,17 @@ void DiscoverViewModel::setCatalogue(const QUrl &catalogue)
     Q_ASSERT_X(!m_client, "DiscoverViewModel", "a search has one catalogue");
     m_options.catalogue = catalogue;
     emit catalogueChanged();
+}
+
+void DiscoverViewModel::setDownloads(BookDownloads *downloads)
+{
+    if (m_downloads == downloads)
+        return;
+    Q_ASSERT_X(!m_downloads, "DiscoverViewModel", "the downloads are set once");
+    m_downloads = downloads;
+    connect(m_downloads, &BookDownloads::changed, this, &DiscoverViewModel::showResults);
+    connect(m_downloads, &BookDownloads::bookReady, this, &DiscoverViewModel::finish);
+    emit downloadsChanged();
 }
 
 void DiscoverViewModel::start()
@@ -97,9 +105,9 @@ void DiscoverViewModel::showResults()
         for (const GutenbergBook &book : m_client->results()) {
             CatalogueRow row = CatalogueRow::of(book);
             row.isInLibrary = known.contains(book.id);
-            if (const auto download = m_downloads.find(book.id); download != m_downloads.end()) {
+            if (const BookDownloadRow *download = m_downloads->find(book.id)) {
                 row.isDownloading = true;
-                row.progressText = download->second.progressText;
+                row.progressText = download->progressText;
             }
             rows.append(row);
         }
@@ -127,75 +135,19 @@ void DiscoverViewModel::fetchAgain(const QUuid &bookID)
         return;
     GutenbergBook wanted;
     wanted.id = book->gutenbergID;
+    wanted.title = book->title;
     wanted.formats.insert(QStringLiteral("text/plain"), book->downloadURL);
     begin(wanted, bookID);
 }
 
 void DiscoverViewModel::begin(const GutenbergBook &book, const QUuid &record)
 {
-    setErrorMessage({});
-    if (m_downloads.contains(book.id))
-        return;
-    Download download{std::make_unique<QObject>(), record, {}};
-    QObject *const owner = download.owner.get();
-    m_downloads.emplace(book.id, std::move(download));
-    showResults();
-    const auto progress = [this, number = book.id](qint64 received, qint64 total) {
-        QString text = CatalogueRow::progressOf(received, total);
-        m_results.changeRow(number, [&text](CatalogueRow &row) { row.progressText = text; });
-        m_downloads.at(number).progressText = std::move(text);
-    };
-    m_client->download(book, owner, progress,
-                       [this, book](const std::expected<QString, QString> &text) { finish(book, text); });
+    m_awaited.insert(book.id);
+    m_downloads->begin(book, record);
 }
 
-void DiscoverViewModel::cancel(qint64 number)
+void DiscoverViewModel::finish(qint64 number, const QUuid &bookID)
 {
-    m_downloads.erase(number);
-    showResults();
-}
-
-void DiscoverViewModel::finish(const GutenbergBook &book, const std::expected<QString, QString> &text)
-{
-    if (text && !text->isEmpty()) {
-        keep(book, *text);
-        return;
-    }
-    setErrorMessage(text ? tr("That book didn't return any text.") : text.error());
-    m_downloads.erase(book.id);
-    showResults();
-}
-
-void DiscoverViewModel::keep(const GutenbergBook &book, const QString &text)
-{
-    const QUuid record = m_downloads.at(book.id).record;
-    const QUuid id = record.isNull() ? store().makeId() : record;
-    m_background.start([this, id, isNew = record.isNull(), book, text, library = store().bookLibrary()] {
-        // A book whose text can't be written says so when it is opened.
-        (void)library.write(id, text);
-        const auto end = [this, id, isNew, book] { finishKeeping(book, id, isNew); };
-        QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
-    });
-}
-
-void DiscoverViewModel::finishKeeping(const GutenbergBook &book, const QUuid &id, bool isNew)
-{
-    // It may have been cancelled, or the record removed, in this last moment.
-    const bool isWanted = m_downloads.erase(book.id) > 0;
-    if (isWanted && isNew)
-        BookOperations::add(store(), book.makeBook(id, store().now()));
-    const bool isKept = store().list<Book>().contains(id);
-    if (!isKept)
-        store().bookLibrary().deleteText(id);
-    showResults();
-    if (isWanted && isKept)
-        emit bookReady(id);
-}
-
-void DiscoverViewModel::setErrorMessage(const QString &message)
-{
-    if (m_errorMessage == message)
-        return;
-    m_errorMessage = message;
-    emit errorMessageChanged();
+    if (m_awaited.remove(number))
+        emit bookReady(bookID);
 }

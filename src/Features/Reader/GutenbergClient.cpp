@@ -62,6 +62,8 @@ std::optional<QUrl> GutenbergClient::searchURL(const QString &query) const
 void GutenbergClient::search(const QString &query)
 {
     const QString wanted = query.trimmed();
+    // An answer to an earlier query, which may come late, says nothing of this one.
+    m_search.reset();
     if (wanted.isEmpty()) {
         setResults({});
         setPhase(Phase::idle);
@@ -74,7 +76,8 @@ void GutenbergClient::search(const QString &query)
                  QCoreApplication::translate("GutenbergClient", "That search couldn't be built."));
         return;
     }
-    Http::get({.url = *url}, m_options.searchLimits, this, [this](const HttpResult &result) {
+    m_search = std::make_unique<QObject>();
+    Http::get({.url = *url}, m_options.searchLimits, m_search.get(), [this](const HttpResult &result) {
         const auto response = result ? decodeResponse(result->body) : std::nullopt;
         if (!response) {
             setPhase(Phase::failed, QCoreApplication::translate(

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 /// Searches the catalogue of Project Gutenberg and downloads the texts of its books.
 class GutenbergClient : public QObject
 {
@@ -30,8 +32,7 @@ public:
     /// What the last answered search found, in the catalogue's order; a failed search leaves it as it was.
     const QList<GutenbergBook> &results() const { return m_results; }
 
-    /// Looks for English books. A blank query clears the results. Searches may overlap: the one that is
-    /// answered last decides what is shown.
+    /// Looks for English books, in the place of a search that is under way. A blank query clears the results.
     void search(const QString &query);
 
     /// Bytes that have come, and of how many; -1 while that is not known.
@@ -55,6 +56,8 @@ private:
     void setResults(const QList<GutenbergBook> &results);
 
     Options m_options;
+    /// Ends the exchange of the search that is under way when it goes.
+    std::unique_ptr<QObject> m_search;
     Phase m_phase = Phase::idle;
     QString m_failure;
     QList<GutenbergBook> m_results;

@@ -68,6 +68,10 @@ FocusScope {
             width: parent.width
             wrapMode: Text.Wrap
         }
+
+        BookDownloadRows {
+            width: parent.width
+        }
     }
 
     ListView {

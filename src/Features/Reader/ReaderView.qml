@@ -34,11 +34,20 @@ FocusScope {
             rail.focusBooks()
     }
 
+    /// A download may have failed while another screen was shown.
+    function showError() {
+        if (visible && BookDownloads.errorMessage !== "")
+            alert.open()
+    }
+
     /// What had the focus may be hidden now.
     function keepFocus() {
         if (activeFocus && !rail.activeFocus)
             focusPane()
     }
+
+    Component.onCompleted: showError()
+    onVisibleChanged: showError()
 
     ReaderViewModel {
         id: reader
@@ -58,17 +67,28 @@ FocusScope {
     DiscoverViewModel {
         id: discover
         active: root.visible
+        downloads: BookDownloads
         session: Orvel
         onBookReady: bookID => {
-            // A book whose text has just come may be open already.
-            if (reader.selectedBookID === bookID)
-                openBook.reload()
+            // Who reads another book by now reads on.
+            if (!root.isDiscovering && reader.hasSelection && reader.selectedBookID !== bookID)
+                return
             reader.open(bookID)
             root.focusPane()
         }
-        onErrorMessageChanged: {
-            if (errorMessage !== "")
-                alert.open()
+    }
+
+    Connections {
+        target: BookDownloads
+
+        function onBookReady(number, bookID) {
+            // A book whose text has just come may be open already.
+            if (reader.selectedBookID === bookID)
+                openBook.reload()
+        }
+
+        function onErrorMessageChanged() {
+            root.showError()
         }
     }
 
@@ -141,8 +161,9 @@ FocusScope {
     OVDialog {
         id: alert
         acceptText: qsTr("OK")
-        message: discover.errorMessage
-        title: qsTr("The book was not added")
-        onClosed: discover.dismissError()
+        message: BookDownloads.errorMessage
+        title: BookDownloads.failedTitle === "" ? qsTr("The book was not downloaded")
+                                                : qsTr("“%1” was not downloaded").arg(BookDownloads.failedTitle)
+        onClosed: BookDownloads.dismissError()
     }
 }

@@ -190,7 +190,7 @@ private slots:
         QCOMPARE(nobody.failure(), unreachable);
     }
 
-    void theLastAnswerDecides()
+    void anEarlierAnswerIsDropped()
     {
         GutenbergClient client(options(m_catalogue.url()));
         const Answer first{.body = responseJson({bookJson(1, u"First"_s)}), .pace = Pace::onRelease};
@@ -201,10 +201,19 @@ private slots:
         client.search(u"second"_s);
         QTRY_COMPARE(client.phase(), Phase::loaded);
         QCOMPARE(client.results().first().title, u"Second"_s);
-
         m_catalogue.release(u"/books"_s);
-        QTRY_COMPARE(client.results().first().title, u"First"_s);
-        QCOMPARE(client.phase(), Phase::loaded);
+        QTRY_COMPARE(m_catalogue.openConnections(), 0);
+
+        // Nor does it fill the list again that a blank query has emptied.
+        m_catalogue.answer(u"/books"_s, first);
+        client.search(u"third"_s);
+        QTRY_COMPARE(m_catalogue.requests().size(), 3);
+        client.search(QString());
+        m_catalogue.release(u"/books"_s);
+        QTRY_COMPARE(m_catalogue.openConnections(), 0);
+        QCoreApplication::processEvents();
+        QVERIFY(client.results().isEmpty());
+        QCOMPARE(client.phase(), Phase::idle);
     }
 
     void goesAwayWhileWaiting()

@@ -225,6 +225,11 @@ Item {
             Workspace.addBook("Emma", "Austen, Jane", "")
             open()
             shown("This book's text isn't on disk yet.")
+            // There is no address to ask, which is told with the name of the book.
+            mouseClick(shown("Download it"))
+            tryVerify(() => find("“Emma” was not downloaded", root.Window.contentItem))
+            keyClick(Qt.Key_Return)
+            tryVerify(() => BookDownloads.errorMessage === "")
         }
 
         function test_assistiveTechnologyReadsParagraphs() {

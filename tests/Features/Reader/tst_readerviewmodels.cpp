@@ -62,6 +62,7 @@ private:
     {
         auto model = std::make_unique<DiscoverViewModel>();
         model->setCatalogue(m_catalogue.url());
+        model->setDownloads(&m_downloads);
         model->setSession(&m_session);
         return model;
     }
@@ -77,6 +78,7 @@ private:
 
     TestWorkspace m_workspace;
     OrvelSession m_session{&m_workspace.store(), &m_workspace.ui()};
+    BookDownloads m_downloads{&m_session};
     HttpTestServer m_catalogue;
     std::unique_ptr<HttpTestServer> m_files;
 
@@ -312,11 +314,36 @@ private slots:
         QTRY_COMPARE(model->phase(), Phase::found);
         model->read(1);
         QTRY_COMPARE(model->rowList()[0].progressText, u"50 %"_s);
-        model->cancel(1);
+        m_downloads.cancel(1);
         QVERIFY(!model->rowList()[0].isDownloading);
         QTRY_COMPARE(m_files->openConnections(), 0);
         QVERIFY(m_workspace.store().list<Book>().isEmpty());
-        QCOMPARE(model->errorMessage(), QString());
+        QCOMPARE(m_downloads.errorMessage(), QString());
+    }
+
+    void downloadsOutliveTheScreen()
+    {
+        answerSearch({found(1, u"/1.txt"_s)});
+        m_files->answer(u"/1.txt"_s, {.body = "First", .pace = Pace::onRelease});
+        auto model = discover();
+        model->setQuery(u"x"_s);
+        QTRY_COMPARE(model->phase(), Phase::found);
+        model->read(1);
+        QTRY_COMPARE(m_files->requests().size(), 1);
+        model.reset();
+        QVERIFY(m_downloads.find(1));
+
+        // Back again it goes on in the list, and does not open by itself.
+        model = discover();
+        QSignalSpy ready(model.get(), &DiscoverViewModel::bookReady);
+        model->setQuery(u"x"_s);
+        QTRY_COMPARE(model->phase(), Phase::found);
+        QVERIFY(model->rowList()[0].isDownloading);
+        m_files->release(u"/1.txt"_s);
+        QTRY_VERIFY(model->rowList()[0].isInLibrary);
+        QVERIFY(!m_downloads.find(1) && ready.isEmpty());
+        const Book &stored = m_workspace.store().list<Book>().at(0);
+        QCOMPARE(m_workspace.store().bookLibrary().text(stored.id), u"First"_s);
     }
 
     void tellsWhatWentWrong()
@@ -327,12 +354,12 @@ private slots:
         model->setQuery(u"x"_s);
         QTRY_COMPARE(model->phase(), Phase::found);
         model->read(1);
-        QTRY_COMPARE(model->errorMessage(),
+        QTRY_COMPARE(m_downloads.errorMessage(),
                      u"Couldn't download that book. Check your connection and try again."_s);
         QVERIFY(!model->rowList()[0].isDownloading);
         m_files->answer(u"/1.txt"_s, {.body = " \n "});
         model->read(1);
-        QTRY_COMPARE(model->errorMessage(), u"That book didn't return any text."_s);
+        QTRY_COMPARE(m_downloads.errorMessage(), u"That book didn't return any text."_s);
         QVERIFY(m_workspace.store().list<Book>().isEmpty());
     }
 

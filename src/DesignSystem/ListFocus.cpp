@@ -102,6 +102,9 @@ int ListFocus::stopFrom(int index, int step) const
 
 ListFocus::Motion ListFocus::motion(int key) const
 {
+    // The view learns of rows that went or came when it is next drawn; a key may be faster.
+    if (m_view)
+        QMetaObject::invokeMethod(m_view, "forceLayout");
     const int page = pageRows();
     const bool inRow = m_columns > 1 || m_horizontal;
     const auto stepBy = [this](int step, int edge) {

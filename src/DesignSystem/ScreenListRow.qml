@@ -21,6 +21,7 @@ FocusScope {
     readonly property bool visualFocus: activeFocus && list.keys.ringShown
     readonly property alias hovered: pointer.hovered
     default property alias content: appear.content
+    property OVRemoval leaving: null
 
     /// What Shift+Tab does here; false to leave it to others.
     function leaveBackwards(): bool {
@@ -31,6 +32,17 @@ FocusScope {
     /// What Tab does here; false to leave it to others.
     function leaveForwards(): bool {
         return list.exitForwards()
+    }
+
+    /// Takes back what a removal has done to the row, which the view may use for another one.
+    function restore() {
+        if (!leaving)
+            return
+        leaving.destroy()
+        leaving = null
+        appear.opacity = 1
+        clip = false
+        height = Qt.binding(() => rowHeight)
     }
 
     activeFocusOnTab: activeFocus
@@ -49,9 +61,17 @@ FocusScope {
     ListView.onRemove: {
         if (!collapses)
             return
-        row.ListView.delayRemove = true;
-        (removal.createObject(row) as OVRemoval).begin()
+        row.ListView.delayRemove = true
+        leaving = removal.createObject(row) as OVRemoval
+        leaving.begin()
     }
+
+    // Neither pointer nor assistive technology meets a row that waits to be used again.
+    ListView.onPooled: {
+        visible = false
+        restore()
+    }
+    ListView.onReused: visible = true
 
     Keys.onBacktabPressed: event => event.accepted = leaveBackwards()
     Keys.onTabPressed: event => event.accepted = leaveForwards()

@@ -108,7 +108,7 @@ Item {
             tryCompare(grid, "opening", false)
             list.positionViewAtBeginning()
             grid.positionViewAtBeginning()
-            waitForRendering(list)
+            tryVerify(() => rests(0, list) && rests(0, grid))
             mouseMove(root, 899, 699)
         }
 
@@ -121,6 +121,22 @@ Item {
                     return found
             }
             return null
+        }
+
+        function findRemoval(item) {
+            for (let i = 0; i < item.children.length; ++i) {
+                if (item.children[i] instanceof OVRemoval)
+                    return item.children[i]
+            }
+            return null
+        }
+
+        // Whether an item stands where it will stay.
+        function rests(index, view) {
+            const item = view.itemAtIndex(index)
+            const columns = view.keys.columns
+            return item !== null && item.x === index % columns * item.width
+                   && item.y === view.originY + view.headerItem.height + Math.floor(index / columns) * item.height
         }
 
         function focused() {
@@ -182,6 +198,18 @@ Item {
             verify(top >= 0 && top + item.height <= data.view.height, top)
         }
 
+        // The view has not been drawn since the row went.
+        function test_keysAfterARowWent() {
+            list.keys.focus(2)
+            rows.remove(1)
+            keyClick(Qt.Key_Up)
+            compare(focused(), "item 0")
+            rows.remove(1)
+            rows.remove(1)
+            keyClick(Qt.Key_Down)
+            compare(focused(), "item 4")
+        }
+
         function test_keysPassWhatTakesNoFocus() {
             list.keys.stopsAt = index => index % 5 !== 0
             list.keys.focus(4)
@@ -207,6 +235,7 @@ Item {
             ]
         }
         function test_deletingByMouseKeepsThePlace(data) {
+            tryVerify(() => rests(1, data.view) && rests(2, data.view))
             const item = data.view.itemAtIndex(1)
             const button = findButton(item)
             const place = button.mapToItem(root, 20, 20)
@@ -215,16 +244,15 @@ Item {
             mouseMove(root, x, place.y)
             const after = data.view.itemAtIndex(2)
             const where = Qt.point(after.x, after.y)
+            const free = Qt.point(item.x, item.y)
             mouseClick(root, x, place.y)
             compare(rows.count, 19)
-            wait(Theme.durationRemoval + 100)
-            if (data.view === list)
-                compare(after.y, where.y)
+            tryVerify(() => findRemoval(item)?.content.opacity === 0)
+            compare(Qt.point(after.x, after.y), where)
             mouseClick(root, x, place.y)
             compare(rows.count, 19)
             mouseMove(root, x + 3, place.y)
-            tryVerify(() => after.x !== where.x || after.y !== where.y)
-            wait(Theme.durationRemoval + 100)
+            tryVerify(() => after.x === free.x && after.y === free.y)
             mouseClick(root, x + 3, place.y)
             tryCompare(rows, "count", 18)
         }

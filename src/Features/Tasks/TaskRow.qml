@@ -79,6 +79,8 @@ ScreenListRow {
         if (!focus)
             titleItem.editing = false
     }
+    ListView.onPooled: mark.moves = false
+    ListView.onReused: mark.moves = true
 
     Keys.onPressed: event => {
         const plain = !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
@@ -140,6 +142,7 @@ ScreenListRow {
 
         contentItem: Item {
             TaskStatusMark {
+                id: mark
                 anchors.centerIn: parent
                 isDone: row.isDone
                 symbol: row.status.symbol

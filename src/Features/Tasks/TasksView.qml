@@ -26,6 +26,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         model: tasks.rows
+        reuseItems: true
         screen: "tasks"
 
         above: TasksHeader {

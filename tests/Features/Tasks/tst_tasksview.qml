@@ -272,6 +272,39 @@ Item {
             tryVerify(() => find("Due: Mar 13, Plan"))
         }
 
+        function test_rowsAreUsedAgain() {
+            for (let i = 0; i < 40; ++i)
+                Workspace.addTask("Task " + i, i % 2 ? "done" : "todo")
+            open()
+            focusRow("Task 0")
+            for (const number of [2, 6]) {
+                keyClick(Qt.Key_Down)
+                keyClick(Qt.Key_Delete)
+                compare(saved().length, number === 2 ? 39 : 38)
+                mouseMove(root.view, 1, number)
+                tryVerify(() => !find("Task " + number))
+            }
+            for (let i = 0; i < 8; ++i)
+                keyClick(i % 4 < 2 ? Qt.Key_PageDown : Qt.Key_PageUp)
+            keyClick(Qt.Key_Home)
+            const rows = root.view.children[0].contentItem.children
+            for (let i = 0; i < rows.length; ++i) {
+                if (!rows[i].visible || !rows[i].taskID)
+                    continue
+                const number = Number(rows[i].title.slice(5))
+                compare(rows[i].isDone, number % 2 === 1)
+                compare(rows[i].height, rows[i].rowHeight)
+                verify(find("Status: " + (number % 2 ? "Done" : "To do") + ", Task " + number, rows[i]), rows[i].title)
+            }
+            // A row that was removed before takes the pointer again.
+            for (const number of [0, 4, 8, 10]) {
+                mouseMove(find("Task " + number))
+                tryVerify(() => find("Delete: Task " + number))
+            }
+            const seen = Assistive.describeAll(root.Window.window).filter(text => text.startsWith("ListItem"))
+            compare(seen.length, new Set(seen).size)
+        }
+
         function test_tenThousandRows() {
             Workspace.addTasks(10000)
             open()

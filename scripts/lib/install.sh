@@ -18,6 +18,11 @@ packages_bench=(rapidjson-dev)
 packages_ci=(clang-tidy-19)
 packages_fuzz=(clang-19 libclang-rt-19-dev)
 
+# Not installed by any script, and not needed to build: what the relax screen plays videos with at run time, each
+# brought in when the first video is opened. Without them the stage says which one is missing, and their tests skip.
+#     qml6-module-qtmultimedia gstreamer1.0-plugins-good gstreamer1.0-libav    video files
+#     qml6-module-qtwebengine                                                 pages of the web
+
 # install_packages SET...: makes sure of the packages of these sets; without network when they are there.
 install_packages() {
     local wanted=() missing=() set

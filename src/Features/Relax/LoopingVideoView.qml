@@ -1,49 +1,44 @@
 import QtQuick
 import QtMultimedia
 import Orvel.DesignSystem
+import Orvel.Relax
 
-/// Loops a video file without sound. It fills the view, and tells after six seconds if the file can't be played.
+/// Loops a video file without sound. It fills the view, and says so if the file can't be played.
 Item {
     id: root
 
     property url url
     property bool isPlaying: true
-    property bool failed: false
-
-    function follow() {
-        if (isPlaying)
-            player.play()
-        else
-            player.pause()
-    }
+    readonly property alias failed: controller.failed
 
     clip: true
 
-    onIsPlayingChanged: follow()
-    onUrlChanged: {
-        failed = false
-        check.restart()
-        follow()
-    }
+    Component.onCompleted: controller.start(url)
+    Component.onDestruction: controller.stop()
+    onUrlChanged: controller.start(url)
 
     MediaPlayer {
-        id: player
-        loops: MediaPlayer.Infinite
-        source: root.url
+        id: mediaPlayer
         videoOutput: output
+    }
+
+    LoopingVideoController {
+        id: controller
+        isPlaying: root.isPlaying
+        player: mediaPlayer
     }
 
     VideoOutput {
         id: output
         anchors.fill: parent
         fillMode: VideoOutput.PreserveAspectCrop
+        visible: !root.failed
     }
 
-    Timer {
-        id: check
-        interval: 6000
-        onTriggered: root.failed = player.error !== MediaPlayer.NoError
-                                   || player.mediaStatus === MediaPlayer.InvalidMedia
+    VideoPicture {
+        anchors.fill: parent
+        sink: output.videoSink
+        visible: !root.failed && GraphicsInfo.api === GraphicsInfo.Software
     }
 
     Column {

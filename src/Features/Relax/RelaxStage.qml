@@ -12,6 +12,8 @@ Item {
     property bool live: true
     property int radius: 0
     property bool labelsShown: true
+    /// Whether a page of the web takes the mouse.
+    property bool pageIsInteractive: true
     property alias seconds: ambient.seconds
     readonly property bool showsVideo: relax.useVideo && video.hasSource
     readonly property int inset: Theme.space12
@@ -51,6 +53,7 @@ Item {
         anchors.fill: parent
 
         sourceComponent: VideoSurface {
+            isInteractive: root.pageIsInteractive
             isMedia: root.video.isMedia
             isPlaying: root.relax.isPlaying
             radius: root.radius

@@ -61,6 +61,7 @@ T.Popup {
             anchors.fill: parent
             labelsShown: root.showControls
             live: root.visible
+            pageIsInteractive: false
             relax: root.relax
             video: root.video
         }

@@ -1,63 +1,79 @@
 #include "Session/BackgroundWork.h"
 
+#include <thread>
+#include <utility>
+
+using namespace std::chrono_literals;
+
 bool BackgroundWork::Job::goOn(double share)
 {
     const int next = int(share * 100);
     if (m_percent.exchange(next) != next)
-        m_advanced();
+        tell([next](BackgroundWork &owner) {
+            owner.m_progress = next / 100.0;
+            emit owner.changed();
+        });
     return !m_isCanceled;
+}
+
+void BackgroundWork::Job::tell(std::function<void(BackgroundWork &)> function)
+{
+    // The owner can't go while this is held, and what was posted to it goes with it.
+    const QMutexLocker lock(&m_mutex);
+    if (!m_owner)
+        return;
+    QMetaObject::invokeMethod(
+        m_owner,
+        [job = shared_from_this(), owner = m_owner, function = std::move(function)] {
+            if (owner->m_job == job)
+                function(*owner);
+        },
+        Qt::QueuedConnection);
+}
+
+void BackgroundWork::Job::giveUp()
+{
+    m_isCanceled = true;
+    const QMutexLocker lock(&m_mutex);
+    m_owner = nullptr;
 }
 
 BackgroundWork::~BackgroundWork()
 {
-    end();
+    static constexpr auto patience = 500ms;
+    const auto job = m_job;
+    giveUp();
+    if (job)
+        (void)job->m_ended.try_acquire_for(patience);
 }
 
 void BackgroundWork::start(Work work)
 {
-    end();
-    m_isBusy = true;
+    giveUp();
     m_progress = 0;
-    auto job = std::make_shared<Job>();
-    job->m_advanced = [this, job = job.get()] {
-        QMetaObject::invokeMethod(
-            this,
-            [this, percent = job->m_percent.load()] {
-                m_progress = percent / 100.0;
-                emit changed();
-            },
-            Qt::QueuedConnection);
-    };
+    const std::shared_ptr<Job> job(new Job(this));
     m_job = job;
-    m_worker = std::thread([this, job, work = std::move(work)] {
-        const std::function<void()> done = work(*job);
-        QMetaObject::invokeMethod(
-            this,
-            [this, job, done] {
-                if (job->m_isCanceled || m_job != job)
-                    return;
-                m_isBusy = false;
-                done();
-                emit changed();
-            },
-            Qt::QueuedConnection);
-    });
+    std::thread([job, work = std::move(work)] {
+        job->tell([done = work(*job)](BackgroundWork &owner) {
+            owner.m_job.reset();
+            done();
+            emit owner.changed();
+        });
+        job->m_ended.release();
+    }).detach();
     emit changed();
 }
 
 void BackgroundWork::cancel()
 {
-    if (!m_isBusy)
+    if (!isBusy())
         return;
-    m_job->m_isCanceled = true;
-    m_isBusy = false;
+    giveUp();
     emit changed();
 }
 
-void BackgroundWork::end()
+void BackgroundWork::giveUp()
 {
-    if (m_job)
-        m_job->m_isCanceled = true;
-    if (m_worker.joinable())
-        m_worker.join();
+    if (const auto job = std::exchange(m_job, nullptr))
+        job->giveUp();
 }

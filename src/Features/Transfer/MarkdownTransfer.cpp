@@ -93,12 +93,11 @@ void MarkdownTransfer::readPlace(const QString &place)
 void MarkdownTransfer::readPaths(const QStringList &paths)
 {
     begin();
-    for (const QString &path : paths)
-        if (!QFileInfo::exists(path))
-            return fail(tr("“%1” is not there.").arg(path));
-    m_work.start([this, paths, now = store().now(), makeId = [this] { return store().makeId(); }](
-                     BackgroundWork::Job &job) -> std::function<void()> {
-        const auto reading = std::make_shared<Reading>(readAll(paths, makeId, now, job));
+    m_work.start([this, paths, now = store().now()](BackgroundWork::Job &job) -> std::function<void()> {
+        for (const QString &path : paths)
+            if (!QFileInfo::exists(path))
+                return [this, path] { fail(tr("“%1” is not there.").arg(path)); };
+        const auto reading = std::make_shared<Reading>(readAll(paths, &QUuid::createUuid, now, job));
         return [this, reading] { take(*reading); };
     });
 }

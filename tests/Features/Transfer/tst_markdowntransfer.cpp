@@ -74,7 +74,7 @@ private slots:
         read(put(u"a.txt"_s, "x"));
         QCOMPARE(m_transfer->error(), u"There are no Markdown files in there."_s);
         m_transfer->readPlace(m_folder->filePath(u"gone"_s));
-        QVERIFY(m_transfer->error().endsWith(u"is not there."_s));
+        QTRY_VERIFY(m_transfer->error().endsWith(u"is not there."_s));
         m_transfer->addPages();
         QVERIFY(store().pages().isEmpty() && !m_session.undo()->canUndo());
     }

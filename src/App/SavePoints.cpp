@@ -12,6 +12,7 @@ using namespace std::chrono_literals;
 namespace
 {
 SavePoints *current = nullptr;
+QtMessageHandler handlerBefore = nullptr;
 
 void saveOrEnd(WorkspaceStore &store)
 {
@@ -40,10 +41,19 @@ SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplicatio
     if (!isRegistered)
         qWarning("A lost connection to the display will lose the last changes.");
     current = this;
+    // On Wayland the toolkit ends the process by `_exit`, which calls nobody. This is all that it says
+    // before.
+    handlerBefore =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
+            handlerBefore(type, context, message);
+            if (current && message.startsWith(QLatin1String("The Wayland connection ")))
+                current->saveAtExit();
+        });
 }
 
 SavePoints::~SavePoints()
 {
+    qInstallMessageHandler(handlerBefore);
     current = nullptr;
 }
 

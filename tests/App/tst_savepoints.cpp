@@ -104,6 +104,37 @@ private slots:
         QVERIFY(savedName("Ada"));
     }
 
+    void aLostWaylandCompositorSavesFirst()
+    {
+        const QTemporaryDir runtime;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_RUNTIME_DIR"_s, runtime.path());
+        environment.insert(u"WAYLAND_DISPLAY"_s, u"orvel-test"_s);
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
+        QProcess compositor;
+        compositor.setProcessEnvironment(environment);
+        compositor.start(u"weston"_s,
+                         {u"--backend=headless-backend.so"_s, u"--socket=orvel-test"_s, u"--idle-time=0"_s});
+        if (!compositor.waitForStarted())
+            QSKIP("there is no weston");
+        QTRY_VERIFY(QFile::exists(runtime.filePath(u"orvel-test"_s)));
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(SAVE_POINTS_PROBE), {path()});
+        while (!program.canReadLine() && program.waitForReadyRead()) {
+        }
+        const QByteArray errors = program.readAllStandardError();
+        if (errors.contains("Could not find the Qt platform plugin"))
+            QSKIP("the toolkit has no plugin for Wayland");
+        QVERIFY2(program.canReadLine(), errors.constData());
+        QVERIFY(!QFile::exists(path()));
+        compositor.kill();
+        QVERIFY(compositor.waitForFinished());
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QVERIFY(savedName("Ada"));
+    }
+
     void aDiskThatHangsHoldsNobodyUp()
     {
         const QTemporaryDir temporary(u"/dev/shm/orvel-XXXXXX"_s);

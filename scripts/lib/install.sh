@@ -12,7 +12,7 @@ packages_build=(
 packages_picture=(imagemagick xauth xvfb)
 packages_test=(
     appstream at-spi2-core clang-format-19 dbus-daemon desktop-file-utils nodejs openssl poppler-utils python3
-    qml6-module-qttest sqlite3 unzip xvfb
+    qml6-module-qttest qt6-wayland sqlite3 unzip weston xvfb
 )
 packages_bench=(rapidjson-dev)
 packages_ci=(clang-tidy-19)

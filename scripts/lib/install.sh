@@ -2,7 +2,7 @@
 
 packages_build=(
     ca-certificates ccache cmake g++ git mold ninja-build
-    libarchive-dev libcsv-dev libcurl4-openssl-dev libgl-dev libical-dev libmd4c-dev libsimdjson-dev libssl-dev zlib1g-dev
+    libarchive-dev libcsv-dev libcurl4-openssl-dev libgl-dev libhunspell-dev libical-dev libmd4c-dev libsimdjson-dev libssl-dev zlib1g-dev
     qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev
     qml6-module-qt-labs-qmlmodels qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts

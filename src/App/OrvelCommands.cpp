@@ -1,6 +1,7 @@
 #include "App/OrvelCommands.h"
 
 #include "DesignSystem/KeyText.h"
+#include "Features/Pages/SpellChecker.h"
 #include "Store/TaskOperations.h"
 #include "Support/OVQuotes.h"
 
@@ -99,6 +100,7 @@ const QList<OrvelCommands::Entry> &OrvelCommands::table()
          same,
          workspace,
          ofScreen},
+        {edit, "spelling", QT_TR_NOOP("Check Spelling"), {}, &Self::toggleSpelling, next},
         {navigate, "dashboard", QT_TR_NOOP("Dashboard"), {"Ctrl+1"}, Kind::dashboard},
         {navigate, "today", QT_TR_NOOP("Today"), {"Ctrl+2"}, Kind::today},
         {navigate, "focus", QT_TR_NOOP("Focus"), {"Ctrl+3"}, Kind::focus},
@@ -170,6 +172,8 @@ void OrvelCommands::prepare(QQuickItem *focusItem)
             command.show(m_session->undo()->undoText(), m_session->undo()->canUndo());
         else if (command.id == u"redo")
             command.show(m_session->undo()->redoText(), m_session->undo()->canRedo());
+        else if (command.id == u"spelling")
+            command.show(checksSpelling() ? tr("Stop Checking Spelling") : tr("Check Spelling"), true);
         else if (command.id == u"back")
             command.show(command.title, m_session->visits()->canGoBack());
         else if (command.id == u"forward")
@@ -232,6 +236,17 @@ void OrvelCommands::findPrevious()
 {
     if (TextFinder *const finder = m_session->finder())
         finder->previous();
+}
+
+bool OrvelCommands::checksSpelling() const
+{
+    return m_session->preferences().value(SpellChecker::enabledKey, true).toBool();
+}
+
+void OrvelCommands::toggleSpelling()
+{
+    m_session->preferences().setValue(SpellChecker::enabledKey, !checksSpelling());
+    prepare();
 }
 
 void OrvelCommands::newTask()

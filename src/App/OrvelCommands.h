@@ -107,6 +107,8 @@ private:
     void replace();
     void findNext();
     void findPrevious();
+    bool checksSpelling() const;
+    void toggleSpelling();
     void goBack() { m_session->visits()->back(); }
     void goForward() { m_session->visits()->forward(); }
     void cycleNavigation();

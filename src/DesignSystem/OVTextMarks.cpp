@@ -30,9 +30,25 @@ void OVTextMarks::setDocument(QQuickTextDocument *document)
     update();
 }
 
+void OVTextMarks::setMarks(const TextMarkList &marks)
+{
+    if (m_marks == marks)
+        return;
+    m_marks = marks;
+    emit looksChanged();
+}
+
 QList<QRectF> OVTextMarks::rectsOf(const TextMark &mark) const
 {
     QList<QRectF> rects;
+    for (const Line &line : linesOf(mark))
+        rects.append(line.rect);
+    return rects;
+}
+
+QList<OVTextMarks::Line> OVTextMarks::linesOf(const TextMark &mark) const
+{
+    QList<Line> lines;
     const QTextDocument *const document = m_document->textDocument();
     const int end = std::min(mark.start + mark.length, document->characterCount() - 1);
     for (QTextBlock block = document->findBlock(mark.start); block.isValid() && block.position() < end;
@@ -47,11 +63,25 @@ QList<QRectF> OVTextMarks::rectsOf(const TextMark &mark) const
                 continue;
             const qreal x1 = line.cursorToX(from);
             const qreal x2 = line.cursorToX(to);
-            rects.append(QRectF(corner.x() + std::min(x1, x2), corner.y() + line.y(), std::abs(x2 - x1),
-                                line.ascent() + line.descent()));
+            const qreal top = corner.y() + line.y();
+            lines.append({QRectF(corner.x() + std::min(x1, x2), top, std::abs(x2 - x1),
+                                 line.ascent() + line.descent()),
+                          top + line.ascent()});
         }
     }
-    return rects;
+    return lines;
+}
+
+void OVTextMarks::drawUnderline(QPainter *painter, const Line &line) const
+{
+    constexpr qreal dot = 2;
+    constexpr qreal step = 4;
+    painter->setBrush(m_color);
+    const qreal y = std::round(line.baseline) + dot;
+    const int count = std::max(1, int((line.rect.width() - dot) / step) + 1);
+    const qreal first = line.rect.center().x() - ((count - 1) * step + dot) / 2;
+    for (int i = 0; i < count; ++i)
+        painter->drawEllipse(QRectF(first + i * step, y, dot, dot));
 }
 
 void OVTextMarks::paint(QPainter *painter)
@@ -70,9 +100,13 @@ void OVTextMarks::paint(QPainter *painter)
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     for (; mark != m_marks.marks.end() && mark->start <= last; ++mark) {
-        for (const QRectF &rect : rectsOf(*mark)) {
+        for (const Line &line : linesOf(*mark)) {
+            if (m_shape == Shape::Underline) {
+                drawUnderline(painter, line);
+                continue;
+            }
             painter->setBrush(mark->isCurrent ? m_currentColor : m_color);
-            painter->drawRoundedRect(rect, 2, 2);
+            painter->drawRoundedRect(line.rect, 2, 2);
         }
     }
 }

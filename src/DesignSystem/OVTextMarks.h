@@ -29,7 +29,7 @@ public:
     bool operator==(const TextMarkList &) const = default;
 };
 
-/// Draws marks behind the text of a TextEdit, without touching the text or its layout. Of
+/// Draws marks behind or below the text of a TextEdit, without touching the text or its layout. Of
 /// a long text only what is in view costs anything.
 class OVTextMarks : public QQuickPaintedItem
 {
@@ -40,13 +40,20 @@ class OVTextMarks : public QQuickPaintedItem
         QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged REQUIRED FINAL)
     /// Where the text begins in this item, in pixels.
     Q_PROPERTY(QPointF origin MEMBER m_origin NOTIFY looksChanged FINAL)
-    Q_PROPERTY(TextMarkList marks MEMBER m_marks NOTIFY looksChanged FINAL)
+    Q_PROPERTY(TextMarkList marks READ marks WRITE setMarks NOTIFY looksChanged FINAL)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY looksChanged FINAL)
     /// Behind the mark that the user is at.
     Q_PROPERTY(QColor currentColor MEMBER m_currentColor NOTIFY looksChanged FINAL)
 
 public:
+    /// How a mark is drawn: behind its words, or as a row of dots below them.
+    enum class Shape { Box, Underline };
+
     explicit OVTextMarks(QQuickItem *parent = nullptr);
+
+    const TextMarkList &marks() const { return m_marks; }
+    void setMarks(const TextMarkList &marks);
+    void setShape(Shape shape) { m_shape = shape; }
 
     QQuickTextDocument *document() const { return m_document; }
     void setDocument(QQuickTextDocument *document);
@@ -61,6 +68,15 @@ signals:
     void looksChanged();
 
 private:
+    struct Line {
+        QRectF rect;
+        /// Below which the letters hang.
+        qreal baseline = 0;
+    };
+    QList<Line> linesOf(const TextMark &mark) const;
+    void drawUnderline(QPainter *painter, const Line &line) const;
+
+    Shape m_shape = Shape::Box;
     QPointer<QQuickTextDocument> m_document;
     QPointF m_origin;
     TextMarkList m_marks;

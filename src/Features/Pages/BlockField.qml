@@ -16,6 +16,7 @@ TextEdit {
     readonly property int extraHeight: lineHeight - Math.ceil(metrics.lineSpacing)
     /// The spacing lies below each line; half of it goes above the first.
     readonly property int lead: Math.floor(extraHeight / 2)
+    readonly property alias spelling: spelling
     /// Free room above and below the lines.
     property int gapAbove: Theme.space4
     property int gapBelow: Theme.space4
@@ -59,6 +60,17 @@ TextEdit {
         editor: field.editor
         origin: Qt.point(field.leftPadding, field.topPadding)
         storedText: field.storedText
+        z: -1
+    }
+
+    SpellingMarks {
+        id: spelling
+        anchors.fill: parent
+        caret: field.activeFocus ? field.cursorPosition : -1
+        checker: Spelling
+        color: Theme.inkMode ? Theme.ovInkSecondary : Theme.ovDanger
+        document: field.textDocument
+        origin: Qt.point(field.leftPadding, field.topPadding)
         z: -1
     }
 

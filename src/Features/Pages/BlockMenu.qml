@@ -7,6 +7,8 @@ OVMenu {
     id: root
 
     required property PageEditorViewModel editor
+    /// The word that the caret is in.
+    required property SpelledWord word
     /// The row whose menu it is.
     property BlockRow row: null
     property bool hadFocus: false
@@ -27,7 +29,7 @@ OVMenu {
             openBeside(row, row.list.columnX, 0, Math.min(row.rowHeight, 2 * row.part.firstLineCenter))
         else
             openBeside(from, 0, 0, from.height)
-        currentIndex = byKeys ? 0 : -1
+        currentIndex = byKeys ? spelling.firstIndex : -1
     }
 
     /// Makes a selection of the block that the menu is of, if it is not of one.
@@ -41,6 +43,12 @@ OVMenu {
             selection.move(direction)
         else
             editor.moveBlock(row?.blockID, direction)
+    }
+
+    SpellingEntries {
+        id: spelling
+        menu: root
+        word: root.word
     }
 
     OVMenu {

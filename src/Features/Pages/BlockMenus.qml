@@ -13,9 +13,14 @@ Item {
     readonly property bool menuOpen: (menu.item as BlockMenu)?.visible ?? false
     readonly property BlockRow menuRow: (menu.item as BlockMenu)?.row ?? null
 
+    /// Opens the menu of a block; by keys from the row itself, with the word that the caret is in.
     function openMenu(row: var, from: Item) {
-        menu.active = true;
-        (menu.item as BlockMenu).openFor(row, from)
+        const field = row.part.input as BlockField
+        const isInText = from === row && field?.activeFocus && !list.selection.active
+        spelled.look(isInText ? field : null, field?.cursorPosition ?? 0, () => {
+            menu.active = true;
+            (menu.item as BlockMenu).openFor(row, from)
+        })
     }
 
     /// Opens the menu of what is at this point: of the selected blocks or of a text.
@@ -37,10 +42,13 @@ Item {
             return
         field.forceActiveFocus(Qt.MouseFocusReason)
         menuField = field
-        textMenu.active = true
-        const shown = textMenu.item as BlockTextMenu
-        shown.link = editor.linkIn(field.text, field.positionAt(place.x, place.y))
-        shown.popup(field, place.x, place.y)
+        const position = field.positionAt(place.x, place.y)
+        spelled.look(field, position, () => {
+            textMenu.active = true
+            const shown = textMenu.item as BlockTextMenu
+            shown.link = editor.linkIn(field.text, position)
+            shown.popup(field, place.x, place.y)
+        })
     }
 
     function openToneMenu(row: var, from: Item) {
@@ -55,6 +63,8 @@ Item {
         gesturePolicy: TapHandler.WithinBounds
         onTapped: eventPoint => root.openAt(eventPoint.position.x, eventPoint.position.y)
     }
+
+    SpelledWord { id: spelled }
 
     // Where a menu was asked for with the mouse.
     Item { id: pointMark }
@@ -72,7 +82,10 @@ Item {
     Loader {
         id: menu
         active: false
-        sourceComponent: BlockMenu { editor: root.editor }
+        sourceComponent: BlockMenu {
+            editor: root.editor
+            word: spelled
+        }
     }
 
     Loader {
@@ -93,6 +106,7 @@ Item {
         active: false
         sourceComponent: BlockTextMenu {
             target: root.menuField
+            word: spelled
             // Its text may go before the next one is asked for.
             onClosed: Qt.callLater(() => textMenu.active = false)
         }

@@ -1,3 +1,4 @@
+import QtQuick
 import Orvel.DesignSystem
 import Orvel.Pages
 import Orvel.Session
@@ -7,6 +8,7 @@ OVTextMenu {
     id: root
 
     readonly property BlockField field: target as BlockField
+    required property SpelledWord word
     /// The address that was clicked; empty for none.
     property string link: ""
 
@@ -17,6 +19,12 @@ OVTextMenu {
     storeBacked: true
     onRedoRequested: Orvel.undo.redo()
     onUndoRequested: Orvel.undo.undo()
+
+    SpellingEntries {
+        id: spelling
+        menu: root
+        word: root.word
+    }
 
     OVMenuSeparator {
         height: root.link !== "" ? implicitHeight : 0

@@ -55,6 +55,19 @@ bool PageEditorViewModel::paste(const QUuid &blockID, int selectionStart, int se
     return true;
 }
 
+void PageEditorViewModel::correctWord(const QUuid &blockID, int begin, int end, const QString &word)
+{
+    const Block *const target = block(blockID);
+    if (!target)
+        return;
+    const ShownParts::Part part = m_parts.of(*target);
+    if (begin < 0 || begin > end || part.begin + end > target->text.size())
+        return;
+    const Action action(store(), tr("Correct Spelling"));
+    const Place caret = editText(*target, {part.begin + begin, part.begin + end, word}, -1);
+    requestFocus(caret.blockID, caret.position);
+}
+
 void PageEditorViewModel::pasteText(const Block &target, PageBlocks::TextEdit edit)
 {
     // Between lines of text an empty one only sets apart.

@@ -32,6 +32,8 @@ OVMenu {
         onTriggered: root.header.convert()
     }
 
+    SpellingMenu { }
+
     OVMenuSeparator { }
 
     OVMenuItem {

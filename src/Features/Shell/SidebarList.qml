@@ -54,6 +54,14 @@ FocusScope {
             list.contentY = Math.min(lowest, item.y + item.height + margin - list.height)
     }
 
+    /// Shows the beginning, as far as the current row leaves it. A window gets its size in several steps.
+    function settle() {
+        if (list.scrolledByUser || list.activeFocus)
+            return
+        list.contentY = list.originY - list.topMargin
+        reveal(sidebar.currentRow)
+    }
+
     /// Opens the menu of an entry that has one, at a point of an item. The menus are made when one is first asked for.
     function openMenu(entry: var, from: Item, x: real, y: real) {
         if (!menus)
@@ -93,7 +101,7 @@ FocusScope {
     ListView {
         id: list
 
-        readonly property bool hasHeight: height > 0
+        property bool scrolledByUser: false
 
         anchors.fill: parent
         anchors.leftMargin: Theme.space12
@@ -110,7 +118,8 @@ FocusScope {
         Accessible.name: qsTr("Pages and places")
         Accessible.role: Accessible.List
         T.ScrollBar.vertical: scrollBar
-        onHasHeightChanged: Qt.callLater(root.reveal, root.sidebar.currentRow)
+        onHeightChanged: Qt.callLater(root.settle)
+        onMovementStarted: scrolledByUser = true
 
         Keys.enabled: !root.sidebar.isNaming
         Keys.onPressed: event => {
@@ -154,6 +163,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.right: parent.right
         anchors.top: parent.top
+        onPressedChanged: list.scrolledByUser = true
     }
 
     DelegateChooser {

@@ -451,6 +451,18 @@ Item {
             tryVerify(() => list.contentY < place)
         }
 
+        // A window is low for a moment while it opens.
+        function test_theSidebarBeginsAtItsTop() {
+            start()
+            const list = all(view, item => item instanceof SidebarList)[0].list
+            view.anchors.fill = null
+            view.height = 160
+            tryVerify(() => list.contentY > list.originY)
+            view.height = window.height
+            tryVerify(() => list.atYBeginning)
+            one("Search")
+        }
+
         function test_aSelectedPageOpensItsFolder() {
             const plan = Workspace.addPage("Plan", false, Workspace.addFolder("Travel"))
             start()

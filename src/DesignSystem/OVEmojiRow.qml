@@ -14,6 +14,8 @@ Column {
     required property string icon
     /// Whether it stays one row, which scrolls sideways where it is too long; else it breaks into two.
     property bool scrolls: false
+    /// Whether the row is where the user sees it. The emoji take another size only then, since that takes long.
+    property bool inView: true
     readonly property int tile: Theme.iconTile + Theme.space16
     readonly property real oneRow: (tile + Theme.space8) * icons.length - Theme.space8
     /// Room for the ring around a tile.
@@ -110,8 +112,13 @@ Column {
                     contentItem: Item {
                         OVEmoji {
                             anchors.centerIn: parent
-                            size: Theme.iconTile
                             text: choice.text
+
+                            Binding on size {
+                                restoreMode: Binding.RestoreNone
+                                value: Theme.iconTile
+                                when: root.inView
+                            }
                         }
                     }
                 }

@@ -30,12 +30,28 @@ RowLayout {
             }
 
             OVText {
+                /// Whether it is too long for one line even in the smaller size.
+                readonly property bool breaks: oneLine.advanceWidth * Theme.sizeCardTitle > width * Theme.sizeScreenTitle
+
                 Layout.fillWidth: true
-                fontSizeMode: Text.HorizontalFit
+                // Else it counts on the one line that it had before.
+                elide: breaks ? Text.ElideNone : Text.ElideRight
+                fontSizeMode: breaks ? Text.FixedSize : Text.HorizontalFit
+                lineHeight: 1
+                maximumLineCount: breaks ? 3 : 1
                 minimumPixelSize: Theme.sizeCardTitle
-                role: OVText.ScreenTitle
+                role: breaks ? OVText.CardTitle : OVText.ScreenTitle
                 text: root.title
+                wrapMode: breaks ? Text.Wrap : Text.NoWrap
                 Accessible.role: Accessible.Heading
+
+                TextMetrics {
+                    id: oneLine
+                    font.family: Theme.fontFamily
+                    font.pixelSize: Theme.sizeScreenTitle
+                    font.weight: Font.DemiBold
+                    text: root.title
+                }
             }
         }
 

@@ -22,15 +22,16 @@ QList<Picture> planningPictures()
             pictures.append({name + u'-' + state, calendar, size, with(fill), look, key});
         };
         add(u"empty"_s, [](WorkspaceStore &) {}, windowSize, light);
-        add(u"ordinary"_s, SampleMonth::fill, windowSize, dark);
+        for (const auto &[lookName, look] : looks())
+            add(u"ordinary-"_s + lookName, SampleMonth::fill, windowSize, look);
         add(u"crowded"_s, SampleMonth::crowd, windowSize, light);
         add(u"crowded-small-huge"_s, SampleMonth::crowd, smallSize, smallHuge);
     }
     pictures.append({u"planning-projects-sixty"_s, projects, windowSize, with(SampleMonth::crowd), light});
     for (const auto &[name, look] : looks())
         pictures.append(
-            {u"planning-settings-"_s + name, settings, {1240, 3600}, with(SampleMonth::fill), look});
+            {u"planning-settings-"_s + name, settings, {1240, 4300}, with(SampleMonth::fill), look});
     pictures.append(
-        {u"planning-settings-small-huge"_s, settings, {900, 5200}, with(SampleMonth::fill), smallHuge});
+        {u"planning-settings-small-huge"_s, settings, {900, 7000}, with(SampleMonth::fill), smallHuge});
     return pictures;
 }

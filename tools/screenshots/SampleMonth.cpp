@@ -133,7 +133,7 @@ void addBooks(WorkspaceStore &store)
 const Project *projectWith(const WorkspaceStore &store, bool isFull)
 {
     const auto found = std::ranges::find_if(store.projects(), [isFull](const Project &project) {
-        return project.milestones.isEmpty() != isFull;
+        return project.milestones.isEmpty() != isFull && project.dueDate.has_value() == isFull;
     });
     return found == store.projects().end() ? nullptr : &*found;
 }
@@ -158,8 +158,10 @@ void SampleMonth::crowd(WorkspaceStore &store)
 {
     fill(store);
     const Action action(store, QString());
-    for (int i = 0; i < 30; ++i)
-        addEvent(store, i == 3 ? longTitle() : u"Appointment %1"_s.arg(i), 0, 8 * 60 + i * 20);
+    for (int day = -35; day <= 35; ++day)
+        for (int i = 0; i < 30; ++i)
+            addEvent(store, i % 5 == 3 ? longTitle() : u"Appointment %1"_s.arg(i), day, 8 * 60 + i * 20,
+                     enumCases<EventKind>().at(std::size_t(i + day + 35) % 3).value);
     for (int i = 0; i < 60; ++i)
         ProjectOperations::createBlank(store, i == 3 ? longTitle() : u"Project %1"_s.arg(i));
     for (int i = 0; i < 20; ++i)

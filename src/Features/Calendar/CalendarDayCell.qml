@@ -42,7 +42,7 @@ Item {
         color: cell.isToday ? Theme.accent : "transparent"
         height: Math.ceil(numberText.implicitHeight) + 2
         radius: height / 2
-        width: Math.max(height, Math.ceil(numberText.implicitWidth) + Theme.space8)
+        width: Math.max(height, numberText.width + Theme.space8)
         x: Theme.space4 + 2
         y: Theme.space4 + 1
 
@@ -51,8 +51,11 @@ Item {
             anchors.centerIn: parent
             color: cell.isToday ? Theme.onAccent : cell.isInPeriod ? Theme.ovInk : Theme.ovInkTertiary
             font.weight: cell.isToday || cell.isSelected ? Font.DemiBold : Font.Normal
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Math.round(0.75 * Theme.sizeCaption)
             role: OVText.Caption
             text: cell.number
+            width: Math.min(Math.ceil(implicitWidth), cell.width - 2 * mark.x - (cell.isToday ? Theme.space8 : 0))
             Accessible.ignored: true
         }
     }
@@ -85,7 +88,9 @@ Item {
 
         sourceComponent: OVText {
             color: moreHover.hovered ? Theme.ovInk : Theme.ovInkSecondary
+            fontSizeMode: Text.HorizontalFit
             leftPadding: Theme.space4 + 1
+            minimumPixelSize: Math.round(0.75 * Theme.sizeCaption)
             role: OVText.Caption
             text: cell.moreText
             Accessible.ignored: true

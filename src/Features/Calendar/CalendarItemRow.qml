@@ -109,6 +109,8 @@ ScreenListRow {
         id: timeLabel
         anchors.verticalCenter: parent.verticalCenter
         color: Theme.ovInkSecondary
+        // Not every font has digits of one width.
+        elide: Text.ElideNone
         role: OVText.Dense
         text: row.timeText
         width: Math.ceil(widest.advanceWidth)

@@ -115,7 +115,7 @@ icaltimetype ICalendarSeries::endOf(const Event &event, icaltimetype until) cons
         return until;
     }
     if (event.start.is_date && !until.is_date && icaltime_is_utc(until)) {
-        // Midnight of the last day, or its last second, in the time zone of whoever wrote it.
+        // Midnight of the last day, or its last second, in the time zone of the program that wrote it.
         const QDateTime utc(QDate(until.year, until.month, until.day),
                             QTime(until.hour, until.minute, qMin(until.second, 59)), Qt::UTC);
         const bool isEdge =

@@ -16,6 +16,10 @@ Column {
         session: Orvel
     }
 
+    /// What the user sees of the column.
+    property real viewTop: 0
+    property real viewBottom: height
+
     /// Something may have another place now.
     signal laidOut
 
@@ -30,7 +34,14 @@ Column {
     SurfacesSection { id: surfaces; onLaidOut: root.laidOut() }
     AppearanceSection { id: appearance; onLaidOut: root.laidOut() }
     ModulesSection { id: modules; onLaidOut: root.laidOut() }
-    WorkspaceSection { id: workspace; viewModel: root.viewModel; onLaidOut: root.laidOut() }
+
+    WorkspaceSection {
+        id: workspace
+
+        inView: y < root.viewBottom && y + height > root.viewTop
+        viewModel: root.viewModel
+        onLaidOut: root.laidOut()
+    }
 
     SettingsSection {
         id: focusTimer

@@ -186,6 +186,8 @@ FocusScope {
         SettingsColumn {
             id: column
 
+            viewBottom: viewTop + flickable.height
+            viewTop: flickable.contentY - y
             width: root.columnWidth
             x: Math.max(Math.round((root.width - width) / 2), root.hasIndex ? root.padding + root.indexWidth + Theme.space24 : 0)
             y: header.y + header.height + Theme.space32

@@ -8,6 +8,7 @@ SettingsSection {
     id: root
 
     required property SettingsViewModel viewModel
+    property bool inView: true
     readonly property Setting icon: Setting {
         field: "workspaceIcon"
         session: Orvel
@@ -30,6 +31,7 @@ SettingsSection {
     OVEmojiRow {
         icon: root.icon.value ?? ""
         icons: root.viewModel.workspaceIcons
+        inView: root.inView
         label: qsTr("Workspace icon")
         width: parent.width
         onChosen: icon => root.icon.set(icon)

@@ -22,6 +22,12 @@ Item {
         }
     }
 
+    Setting {
+        id: textSize
+        field: "theme.fontScale"
+        session: Orvel
+    }
+
     ScreenTestCase {
         id: test
 
@@ -32,6 +38,7 @@ Item {
             Workspace.reset()
             Workspace.stopMotion()
             root.height = 800
+            root.width = 1000
         }
 
         function open() {
@@ -271,6 +278,27 @@ Item {
             tryVerify(() => !find("Already in your calendar: 110", overlay()))
             Orvel.undo.undo()
             compare(saved().length, 0)
+        }
+
+        function test_hugeTextInASmallWindowIsReadable() {
+            for (let i = 0; i < 30; ++i)
+                Workspace.addEvent("e" + i, 0, 524 + i)
+            textSize.set(1.4)
+            root.width = 540
+            root.height = 600
+            open()
+            const day = find("Friday, March 13, 2026, 30 items")
+            const more = find("27 more", day)
+            verify(!more.truncated)
+            keyClick(Qt.Key_W)
+            tryVerify(() => find("Week of Mar 8") && !find("Week of Mar 8").truncated)
+            const number = find("13 Fri", root.view)
+            verify(!number.truncated)
+            compare(find("Week of Mar 8").lineCount, 1)
+            keyClick(Qt.Key_D)
+            tryVerify(() => find("Friday, March 13, 2026").lineCount > 1)
+            verify(!find("Friday, March 13, 2026").truncated)
+            verify(!find("08:44").truncated)
         }
 
         function test_midnight() {

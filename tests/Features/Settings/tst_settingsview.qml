@@ -1,4 +1,5 @@
 import QtQuick
+import Orvel.DesignSystem
 import Orvel.Session
 import Orvel.Settings
 import Orvel.Testing
@@ -208,6 +209,17 @@ Item {
                 const top = item.mapToItem(root.view, 0, 0).y
                 verify(top >= 0 && top + item.height <= root.view.height, item.Accessible.name)
             }
+        }
+
+        function test_emojiGrowOnceTheyAreSeen() {
+            const emoji = Array.from(find("🚀").contentItem.children)[0]
+            const before = emoji.size
+            findIn("Typography", "Huge").clicked()
+            waitForRendering(root.view)
+            compare(emoji.size, before)
+            find("🚀").forceActiveFocus(Qt.TabFocusReason)
+            tryCompare(emoji, "size", Theme.iconTile)
+            verify(emoji.size > before)
         }
 
         function test_resetAsksFirst() {

@@ -28,6 +28,9 @@ QList<Picture> deckPictures()
     const auto every = [](WorkspaceStore &store) {
         return SampleDecks::everyKind(store, SlideTheme::catalog().at(3));
     };
+    const auto many = [](WorkspaceStore &store) { return SampleDecks::many(store, 300); };
+    // So many that the export is still under way when the picture is taken; its end leaves no file.
+    const auto endless = [](WorkspaceStore &store) { return SampleDecks::many(store, 5'000); };
     QList<Picture> pictures;
     const auto add = [&](const QString &name, const QByteArray &script, QSize size, const Content &content,
                          const Look &look) {
@@ -44,15 +47,15 @@ QList<Picture> deckPictures()
     const QByteArray notes = "PresenterStyle.showingNotes = true; talk.presenter.advance(3)";
     for (const auto &[name, look] : looks()) {
         add(QStringLiteral("editing-") + name, bullet, windowSize, on(every), look);
-        add(QStringLiteral("exporting-") + name, "view.deckExport.exportAs('pdf')", windowSize,
-            on(SampleDecks::many), look);
+        add(QStringLiteral("exporting-") + name, "view.deckExport.exportAs('pdf')", windowSize, on(endless),
+            look);
         add(QStringLiteral("notes-") + name, notes, windowSize, on(every, true), look);
     }
     for (int i = 0; i < 8; ++i)
         add(QStringLiteral("overflow-%1").arg(i + 1), "view.editor.selectAt(" + QByteArray::number(i) + ")",
             windowSize, on(SampleDecks::crowded), light);
     add(QStringLiteral("bare"), {}, windowSize, on(SampleDecks::bare), light);
-    add(QStringLiteral("many"), "view.editor.selectAt(150)", windowSize, on(SampleDecks::many), dark);
+    add(QStringLiteral("many"), "view.editor.selectAt(150)", windowSize, on(many), dark);
     add(QStringLiteral("small"), bullet, smallSize, on(every), dark);
     add(QStringLiteral("small-huge"), bullet, smallSize, on(SampleDecks::crowded), both(light, huge));
     add(QStringLiteral("blanked"), "talk.presenter.blanked = true", windowSize, on(every, true), light);

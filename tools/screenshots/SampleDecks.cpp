@@ -62,10 +62,10 @@ QUuid SampleDecks::crowded(WorkspaceStore &store)
     return add(store, sentence.repeated(3).trimmed(), SlideTheme::catalog().at(3), slides);
 }
 
-QUuid SampleDecks::many(WorkspaceStore &store)
+QUuid SampleDecks::many(WorkspaceStore &store, int count)
 {
     QList<Slide> slides;
-    while (slides.size() < 300)
+    while (slides.size() < count)
         slides.append(slide(enumCases<SlideKind>()[std::size_t(slides.size()) % 8].value));
     return add(store, QStringLiteral("A whole year"), SlideTheme::catalog().at(7), slides);
 }

@@ -13,8 +13,7 @@ namespace SampleDecks
 QUuid everyKind(WorkspaceStore &store, const SlideTheme &theme);
 /// The same with more text than the slides have room for.
 QUuid crowded(WorkspaceStore &store);
-/// Three hundred slides.
-QUuid many(WorkspaceStore &store);
+QUuid many(WorkspaceStore &store, int count);
 /// None at all.
 QUuid bare(WorkspaceStore &store);
 } // namespace SampleDecks

@@ -77,6 +77,7 @@ void DeckEditorViewModel::refresh(const ChangeSet &)
     const Deck *const deck = stored();
     const Deck next = deck ? *deck : noDeck();
     const bool isOther = next != m_deck;
+    selectAdded(next);
     m_deck = next;
     if (isOther) {
         QList<SlideRow> rows;
@@ -87,6 +88,14 @@ void DeckEditorViewModel::refresh(const ChangeSet &)
         emit deckChanged();
     }
     showSlide();
+}
+
+void DeckEditorViewModel::selectAdded(const Deck &next)
+{
+    if (next.id != m_deck.id || next.slides.size() <= m_deck.slides.size())
+        return;
+    const auto added = std::ranges::mismatch(next.slides, m_deck.slides, {}, &Slide::id, &Slide::id).in1;
+    m_slideID = added->id;
 }
 
 void DeckEditorViewModel::showSlide()

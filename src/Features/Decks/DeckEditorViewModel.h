@@ -96,6 +96,8 @@ protected:
 
 private:
     const Deck *stored() const { return store().list<Deck>().first(m_deckID); }
+    /// A slide that has come, such as one that undo brought back, is where the user looks next.
+    void selectAdded(const Deck &next);
     void showSlide();
 
     QUuid m_deckID;

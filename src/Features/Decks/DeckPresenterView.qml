@@ -90,6 +90,8 @@ FocusScope {
     MouseArea {
         id: pointer
 
+        readonly property bool isShown: cursorShape !== Qt.BlankCursor
+
         function wake() {
             rest.restart()
             cursorShape = Qt.ArrowCursor
@@ -140,6 +142,7 @@ FocusScope {
         PresenterZone {
             anchors.left: parent.left
             forward: false
+            pointerShown: pointer.isShown
             presenter: root.presenter
             onMoved: pointer.wake()
         }
@@ -147,6 +150,7 @@ FocusScope {
         PresenterZone {
             anchors.right: parent.right
             forward: true
+            pointerShown: pointer.isShown
             presenter: root.presenter
             onMoved: pointer.wake()
         }
@@ -155,7 +159,7 @@ FocusScope {
     PresenterNotes {
         id: notes
 
-        readonly property real notesHeight: Math.min(PresenterStyle.notesHeight, maxHeight)
+        readonly property real notesHeight: Math.min(wantedHeight, maxHeight)
 
         anchors.bottom: bar.top
         height: notesHeight + 90 - Theme.space16

@@ -1,6 +1,7 @@
 #include "Features/Decks/DeckPresenterViewModel.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace std::chrono_literals;
 
@@ -11,6 +12,14 @@ constexpr double barsHeight = 120;
 /// What the panel of notes takes beside the notes themselves.
 constexpr double notesFrame = 90;
 constexpr double leastSlideHeight = 160;
+constexpr double ordinaryNotesHeight = 130;
+constexpr double leastNotesHeight = 48;
+
+const QString &notesHeightKey()
+{
+    static const QString key = QStringLiteral("orvel.presenter.notesHeight");
+    return key;
+}
 constexpr double slideRatio = 16.0 / 9;
 } // namespace
 
@@ -27,6 +36,11 @@ void DeckPresenterViewModel::start()
         requestRefresh();
         flush();
     });
+    connect(&session()->preferences(), &Preferences::changed, this, [this](const QString &key) {
+        if (key == notesHeightKey())
+            emit notesHeightChanged();
+    });
+    emit notesHeightChanged();
 }
 
 void DeckPresenterViewModel::refresh(const ChangeSet &)
@@ -62,6 +76,19 @@ QString DeckPresenterViewModel::positionText() const
 QString DeckPresenterViewModel::notesText() const
 {
     return hasSlide() ? m_deck->slides[m_index].notes.trimmed() : QString();
+}
+
+double DeckPresenterViewModel::notesHeight() const
+{
+    if (!session())
+        return ordinaryNotesHeight;
+    const double height = session()->preferences().value(notesHeightKey(), ordinaryNotesHeight).toDouble();
+    return height >= leastNotesHeight ? height : ordinaryNotesHeight;
+}
+
+void DeckPresenterViewModel::setNotesHeight(double height)
+{
+    session()->preferences().setValue(notesHeightKey(), std::max(leastNotesHeight, std::round(height)));
 }
 
 void DeckPresenterViewModel::setBlanked(bool blanked)

@@ -26,6 +26,8 @@ class DeckPresenterViewModel : public ViewModel
     Q_PROPERTY(QString positionText READ positionText NOTIFY slideChanged FINAL)
     /// Trimmed; empty if the slide has none.
     Q_PROPERTY(QString notesText READ notesText NOTIFY slideChanged FINAL)
+    /// The height of the notes' text, in pixels, kept from one start of the program to the next.
+    Q_PROPERTY(double notesHeight READ notesHeight WRITE setNotesHeight NOTIFY notesHeightChanged FINAL)
     Q_PROPERTY(bool blanked READ isBlanked WRITE setBlanked NOTIFY blankedChanged FINAL)
     Q_PROPERTY(QString elapsedText READ elapsedText NOTIFY elapsedTextChanged FINAL)
 
@@ -43,6 +45,8 @@ public:
     double progress() const { return count() > 0 ? double(m_index + 1) / count() : 0; }
     QString positionText() const;
     QString notesText() const;
+    double notesHeight() const;
+    void setNotesHeight(double height);
     bool isBlanked() const { return m_isBlanked; }
     void setBlanked(bool blanked);
     const QString &elapsedText() const { return m_elapsedText; }
@@ -63,6 +67,7 @@ public:
 signals:
     void isPresentingChanged();
     void slideChanged();
+    void notesHeightChanged();
     void blankedChanged();
     void elapsedTextChanged();
 

@@ -31,6 +31,10 @@ ListView {
         forceActiveFocus(focusByKeys ? Qt.TabFocusReason : Qt.MouseFocusReason)
     }
 
+    function showCurrent() {
+        positionViewAtIndex(currentIndex, ListView.Contain)
+    }
+
     function press(event: KeyEvent): bool {
         const control = (event.modifiers & Qt.ControlModifier) !== 0
         switch (event.key) {
@@ -91,7 +95,8 @@ ListView {
             menuArea.handleKey(event)
     }
     onActiveFocusChanged: focusByKeys = true
-    onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+    // The row of a slide that has just come is laid out later.
+    onCurrentIndexChanged: Qt.callLater(list.showCurrent)
 
     delegate: FilmstripSlide {
         editor: list.editor

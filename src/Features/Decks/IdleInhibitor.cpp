@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QPointer>
 
 namespace
 {
@@ -47,18 +48,19 @@ void IdleInhibitor::inhibit()
         return;
     QDBusMessage message = request(QStringLiteral("Inhibit"));
     message << QCoreApplication::applicationName() << m_reason;
-    auto *const watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *call) {
+    auto *const watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), QCoreApplication::instance());
+    const auto take = [self = QPointer(this)](QDBusPendingCallWatcher *call) {
         call->deleteLater();
         const QDBusPendingReply<uint> reply = *call;
         if (reply.isError())
             return;
-        // It may have become unwanted before the answer came.
-        if (m_isActive && m_cookie == 0)
-            m_cookie = reply.value();
+        // It may have become unwanted, or gone, before the answer came.
+        if (self && self->m_isActive && self->m_cookie == 0)
+            self->m_cookie = reply.value();
         else
             releaseCookie(reply.value());
-    });
+    };
+    connect(watcher, &QDBusPendingCallWatcher::finished, watcher, take);
 }
 
 void IdleInhibitor::release()

@@ -10,6 +10,8 @@ Item {
     required property DeckPresenterViewModel presenter
     /// The most that its notes can take.
     required property real maxHeight
+    /// What the user wants them to take, also while dragging.
+    readonly property real wantedHeight: drag.active ? drag.heightNow : presenter.notesHeight
 
     /// Scrolls the notes by so many pages.
     function scroll(pages: real) {
@@ -45,17 +47,19 @@ Item {
             id: drag
 
             property real heightBefore: 0
+            property real heightNow: 0
 
             target: null
             xAxis.enabled: false
             onActiveChanged: {
                 if (active)
-                    heightBefore = PresenterStyle.notesHeight
+                    heightBefore = heightNow = Math.min(root.presenter.notesHeight, root.maxHeight)
+                else
+                    root.presenter.notesHeight = heightNow
             }
             onTranslationChanged: {
                 if (active)
-                    PresenterStyle.notesHeight = Math.max(Theme.space48,
-                                                          Math.min(root.maxHeight, heightBefore - translation.y))
+                    heightNow = Math.max(Theme.space48, Math.min(root.maxHeight, heightBefore - translation.y))
             }
         }
     }

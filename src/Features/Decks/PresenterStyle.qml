@@ -14,6 +14,5 @@ QtObject {
     /// How long the pointer rests before it is hidden, in milliseconds.
     readonly property int pointerRest: 3000
 
-    property real notesHeight: 130
     property bool showingNotes: false
 }

@@ -8,11 +8,13 @@ MouseArea {
 
     required property DeckPresenterViewModel presenter
     required property bool forward
+    /// Whether the pointer has moved of late; one that rests is hidden.
+    required property bool pointerShown
     readonly property bool leads: forward ? presenter.hasNext : presenter.index > 0
 
     signal moved()
 
-    cursorShape: leads ? Qt.PointingHandCursor : Qt.ArrowCursor
+    cursorShape: !pointerShown ? Qt.BlankCursor : leads ? Qt.PointingHandCursor : Qt.ArrowCursor
     height: parent.height
     hoverEnabled: true
     width: Math.round(parent.width * 0.16)
@@ -23,7 +25,7 @@ MouseArea {
         anchors.centerIn: parent
         color: PresenterStyle.stage
         height: Theme.space48
-        opacity: zone.containsMouse && zone.leads ? 0.5 : 0
+        opacity: zone.containsMouse && zone.pointerShown && zone.leads ? 0.5 : 0
         radius: height / 2
         width: height
 

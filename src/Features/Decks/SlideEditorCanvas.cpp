@@ -12,7 +12,7 @@ namespace
 {
 /// How far beside a text a click still means it, on the reference canvas.
 constexpr double reach = 28;
-constexpr double promptOpacity = 0.42;
+constexpr double promptOpacity = 0.55;
 constexpr double faintestPrompt = 0.1;
 constexpr double selectionOpacity = 0.22;
 /// Where the cards of a stats slide stand.

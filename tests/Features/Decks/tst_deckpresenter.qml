@@ -101,6 +101,24 @@ Item {
             verify(!find("No notes on this slide."))
         }
 
+        function test_keepsTheHeightOfTheNotes() {
+            const slides = [{ title: "a", notes: "Breathe" }]
+            present(slides)
+            keyClick(Qt.Key_N)
+            const before = find("Slide 1").height
+            const edge = find("Notes").parent.mapToItem(root, 0, 0).y + 6
+            mouseDrag(root, 500, edge, 0, -60)
+            verify(find("Slide 1").height < before)
+            const dragged = root.talk.presenter.notesHeight
+            verify(dragged > 150)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => !root.talk.view)
+            const later = createTemporaryObject(screen, root)
+            compare(later.presenter.notesHeight, dragged)
+            root.talk.presenter.notesHeight = 130
+            PresenterStyle.showingNotes = false
+        }
+
         function test_hidesThePointerThatRests() {
             present([{ title: "a" }])
             const view = find("Presentation of Talk")

@@ -200,6 +200,18 @@ private slots:
         QCOMPARE(m_editor->shown().slide.title, u"a"_s);
     }
 
+    void aSlideThatUndoBringsBackIsSelected()
+    {
+        open(addDeck(u"Plan"_s, {u"a"_s, u"b"_s, u"c"_s}));
+        m_editor->selectAt(1);
+        m_editor->deleteSlide();
+        m_editor->selectAt(0);
+        m_session->undo()->undo();
+        turn();
+        QCOMPARE(m_editor->selectedIndex(), 1);
+        QCOMPARE(m_editor->shown().slide.title, u"b"_s);
+    }
+
     void aChangeOfKindKeepsAllTexts()
     {
         open(addDeck(u"Plan"_s, {u"a"_s}));

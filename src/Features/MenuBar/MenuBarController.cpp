@@ -1,6 +1,5 @@
 #include "Features/MenuBar/MenuBarController.h"
 
-#include "DesignSystem/OVIconProvider.h"
 #include "DesignSystem/OrvelMark.h"
 #include "Features/MenuBar/PanelPlacement.h"
 
@@ -13,25 +12,42 @@ using namespace std::chrono_literals;
 
 namespace
 {
+const QColor paper(0xFFFDF7);
+const QColor ink(0x37352F);
+
 /// The program's mark on a light hexagon with a dark rim, which shows on light panels and on dark ones.
+/// Upright lines lie on whole pixels: blurred ones would be grey in the sizes of most panels.
+QImage drawImage(int side)
+{
+    const qreal stroke = std::max(1, qRound(side / 13.0));
+    const qreal middle = side / 2.0;
+    const qreal radius = middle - 1 - stroke / 2;
+    QPolygonF hexagon;
+    for (const auto &[x, y] :
+         {std::pair(0.0, -1.0), {1.0, -0.5}, {1.0, 0.5}, {0.0, 1.0}, {-1.0, 0.5}, {-1.0, -0.5}})
+        hexagon.append(QPointF(middle + x * radius, middle + y * (middle - stroke / 2)));
+    // Half of what lies between the upright lines of the mark.
+    const qreal half = std::floor(side * 0.15) + (int(stroke) % 2 ? 0.5 : 0);
+    const qreal markSide = 2 * half / OrvelMark::path({1, 1}).boundingRect().width();
+
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, stroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(paper);
+    painter.drawPolygon(hexagon);
+    painter.translate(middle - markSide / 2, middle - markSide / 2);
+    painter.strokePath(OrvelMark::path({markSide, markSide}), painter.pen());
+    return image;
+}
+
 QList<QImage> images()
 {
-    const QString paper = u"circle.hexagongrid.fill/FFFDF7"_s;
-    const QString rim = u"circle.hexagongrid/37352F"_s;
-    OVIconProvider icons;
-    QList<QImage> drawn;
-    for (const int side : {16, 22, 24, 32, 48, 64}) {
-        const QSize size(side, side);
-        QImage image = icons.requestImage(paper, nullptr, size);
-        QPainter painter(&image);
-        painter.drawImage(QPoint(), icons.requestImage(rim, nullptr, size));
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(side * 0.34, side * 0.32);
-        painter.strokePath(OrvelMark::path(QSizeF(size) * 0.34),
-                           QPen(QColor(0x37352F), side * 0.08, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        drawn.append(image);
-    }
-    return drawn;
+    QList<QImage> images;
+    for (const int side : {16, 22, 24, 32, 48, 64})
+        images.append(drawImage(side));
+    return images;
 }
 } // namespace
 
@@ -46,6 +62,9 @@ MenuBarController::MenuBarController(QObject *parent) : QObject(parent)
                 m_item->reassert();
         });
     }
+    m_nextMinute.setSingleShot(true);
+    m_nextMinute.setTimerType(Qt::PreciseTimer);
+    connect(&m_nextMinute, &QTimer::timeout, this, &MenuBarController::showRemainingTime);
 }
 
 void MenuBarController::setSession(OrvelSession *session)
@@ -93,8 +112,7 @@ void MenuBarController::makeItem()
         .service = u"org.kde.StatusNotifierItem-%1-1"_s.arg(QCoreApplication::applicationPid()),
         .bus = m_bus});
     connect(m_item.get(), &StatusItem::activated, this, &MenuBarController::toggleRequested);
-    connect(m_item.get(), &StatusItem::shownChanged, this,
-            [this] { m_session->focus()->setWatched(this, m_item->isShown()); });
+    connect(m_item.get(), &StatusItem::shownChanged, this, &MenuBarController::showRemainingTime);
     showRemainingTime();
 }
 
@@ -108,7 +126,7 @@ QList<StatusMenu::Entry> MenuBarController::menu()
     };
     QList<StatusMenu::Entry> entries;
     if (m_session->focus()->isRunning())
-        entries = {{focusText()}, {}};
+        entries = {{tr("Focus: %1").arg(m_session->focus()->timeText())}, {}};
     return entries + QList<StatusMenu::Entry>{
                          {tr("Open Orvel"), [this] { emit openRequested(); }},
                          {tr("Quick add a task"), [this] { emit toggleRequested({}); }},
@@ -121,11 +139,6 @@ QList<StatusMenu::Entry> MenuBarController::menu()
                          {tr("Settings"), open(u"settings"_s)},
                          {tr("Quit Orvel"), [this] { emit quitRequested(); }},
                      };
-}
-
-QString MenuBarController::focusText() const
-{
-    return tr("Focus: %1").arg(m_session->focus()->timeText());
 }
 
 void MenuBarController::scheduleReassert()
@@ -145,8 +158,19 @@ void MenuBarController::followFocus()
 
 void MenuBarController::showRemainingTime()
 {
-    if (m_item)
-        m_item->setToolTip(m_session->focus()->isRunning() ? focusText() : QString());
+    m_nextMinute.stop();
+    if (!m_item)
+        return;
+    if (!m_session->focus()->isRunning()) {
+        m_item->setToolTip({});
+        return;
+    }
+    const std::chrono::seconds remaining(m_session->focus()->remaining());
+    const auto minutes = std::chrono::ceil<std::chrono::minutes>(remaining);
+    m_item->setToolTip(minutes > 1min ? tr("Focus: %1 minutes left").arg(minutes.count())
+                                      : tr("Focus: less than a minute left"));
+    if (m_item->isShown() && minutes > 1min)
+        m_nextMinute.start(remaining - (minutes - 1min));
 }
 
 QPoint MenuBarController::place(const QPoint &icon, int width, int height) const

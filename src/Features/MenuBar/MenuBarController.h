@@ -48,8 +48,8 @@ signals:
 private:
     void makeItem();
     QList<StatusMenu::Entry> menu();
+    /// In whole minutes, so that neither the program nor the panel is woken each second for it.
     void showRemainingTime();
-    QString focusText() const;
     void followFocus();
 
     OrvelSession *m_session = nullptr;
@@ -57,4 +57,6 @@ private:
     std::unique_ptr<StatusItem> m_item;
     bool m_wasFocusing = false;
     std::array<QTimer, 2> m_reasserts;
+    /// Until the next minute of a session.
+    QTimer m_nextMinute{this};
 };

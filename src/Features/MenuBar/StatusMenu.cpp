@@ -26,7 +26,7 @@ uint StatusMenu::GetLayout(int parent, int depth, const QStringList &, StatusMen
 {
     layout = {.id = parent, .properties = properties(parent)};
     if (parent == 0 && depth != 0)
-        for (int id = 1; id <= m_entries.size(); ++id)
+        for (int id = int(m_entries.size()); id > 0; --id)
             layout.children.append(
                 QVariant::fromValue(StatusMenuLayout{.id = id, .properties = properties(id)}));
     return m_revision;
@@ -51,7 +51,7 @@ void StatusMenu::Event(int id, const QString &event, const QDBusVariant &, uint)
     if (event != u"clicked" || id < 1 || !has(id))
         return;
     // The action may end the program or change the entries.
-    if (const auto action = m_entries.at(id - 1).action)
+    if (const auto action = entry(id).action)
         action();
 }
 
@@ -90,7 +90,7 @@ QVariantMap StatusMenu::properties(int id) const
         return {{u"children-display"_s, u"submenu"_s}};
     if (!has(id))
         return {};
-    const Entry &entry = m_entries.at(id - 1);
+    const Entry &entry = this->entry(id);
     if (entry.label.isEmpty())
         return {{u"type"_s, u"separator"_s}};
     // A single underscore would mark the key of the entry.

@@ -23,7 +23,7 @@ public:
         /// Without one the entry only tells something.
         std::function<void()> action = {};
     };
-    /// Called each time before the menu is shown.
+    /// Called each time before the menu is shown. What comes and goes stands first.
     using Source = std::function<QList<Entry>()>;
 
     static constexpr char path[] = "/StatusNotifierItem/Menu";
@@ -58,9 +58,12 @@ signals:
 
 private:
     bool has(int id) const { return id >= 0 && id <= m_entries.size(); }
+    /// @param id of an entry, not of the menu
+    const Entry &entry(int id) const { return m_entries.at(m_entries.size() - id); }
     QVariantMap properties(int id) const;
     Source m_source;
-    /// Their ids begin at 1; 0 is the menu.
+    /// Their ids count from 1 for the last one up, so that an entry keeps its id while others come and go
+    /// before it: a click may arrive after they did. The menu is 0.
     QList<Entry> m_entries;
     uint m_revision = 1;
 };

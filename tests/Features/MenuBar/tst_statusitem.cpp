@@ -150,7 +150,8 @@ void StatusItemTest::init()
 {
     m_workspace = std::make_unique<TestWorkspace>();
     m_workspace->reset();
-    m_session = std::make_unique<OrvelSession>(&m_workspace->store(), &m_workspace->ui());
+    m_session = std::make_unique<OrvelSession>(&m_workspace->store(), &m_workspace->ui(), nullptr,
+                                               m_workspace->machine());
 }
 
 void StatusItemTest::cleanup()
@@ -241,7 +242,18 @@ void StatusItemTest::theToolTipShowsARunningSession()
     QCOMPARE(text(), QString());
     m_session->focus()->open(this);
     m_session->focus()->toggleRunning();
-    QTRY_VERIFY(text().startsWith(u"Focus: 2"_s));
+    QTRY_COMPARE(text(), u"Focus: 25 minutes left"_s);
+    // Nobody is woken before the minute is over.
+    const auto *const nextMinute = m_controller->findChild<QTimer *>();
+    QCOMPARE(nextMinute->intervalAsDuration(), std::chrono::minutes(1));
+    m_workspace->advanceSeconds(89);
+    m_session->focus()->check();
+    QTRY_COMPARE(text(), u"Focus: 24 minutes left"_s);
+    QCOMPARE(nextMinute->intervalAsDuration(), std::chrono::seconds(31));
+    m_workspace->advanceSeconds(23 * 60 - 28);
+    m_session->focus()->check();
+    QTRY_COMPARE(text(), u"Focus: less than a minute left"_s);
+    QVERIFY(!nextMinute->isActive());
     m_session->focus()->toggleRunning();
     QTRY_COMPARE(text(), QString());
 }
@@ -293,19 +305,24 @@ void StatusItemTest::thePlainMenuTellsTheTime()
     const auto isOutdated = [&panel] {
         return panel.menu(u"AboutToShow"_s, 0).arguments().value(0).toBool();
     };
-    const qsizetype count = panel.entries().size();
+    const auto before = panel.entries();
     QVERIFY(!isOutdated());
     // The line is there before the menu is shown, its time by then.
     m_session->focus()->open(this);
     m_session->focus()->toggleRunning();
-    QCOMPARE(panel.entries().size(), count + 2);
-    QVERIFY(panel.entries().first().first.startsWith(u"*Focus: 2"_s));
-    bool wasOutdated = false;
-    QTRY_VERIFY(wasOutdated = wasOutdated || isOutdated());
-    m_session->focus()->toggleRunning();
-    QCOMPARE(panel.entries().size(), count);
+    QCOMPARE(panel.entries().size(), before.size() + 2);
+    QCOMPARE(panel.entries().mid(2), before);
+    QCOMPARE(panel.entries().first().first, u"*Focus: 25:00"_s);
+    m_workspace->advanceSeconds(1);
+    QVERIFY(isOutdated());
     QVERIFY(!isOutdated());
-    const QDBusMessage group = panel.menu(u"GetGroupProperties"_s, QList<int>{1, 99}, QStringList());
+    QCOMPARE(panel.entries().first().first, u"*Focus: 24:59"_s);
+    m_session->focus()->toggleRunning();
+    QVERIFY(!isOutdated());
+    // A click that comes now still means the entry that was clicked.
+    QCOMPARE(panel.entries(), before);
+    const QDBusMessage group =
+        panel.menu(u"GetGroupProperties"_s, QList<int>{int(before.size()), 99}, QStringList());
     const auto known = qdbus_cast<QList<StatusMenuProperties>>(group.arguments().value(0));
     QCOMPARE(known.size(), 1);
     QCOMPARE(known.first().properties.value(u"label"_s).toString(), u"Open Orvel"_s);

@@ -11,15 +11,16 @@ FocusScope {
     /// Whether it is visible to the user.
     required property bool inSight
 
-    // Within it the ring moves by less than a pixel, so that it seems to glide.
-    readonly property int glideInterval: 500
+    // In milliseconds: within it the end of the ring moves by a pixel. The ring seems to glide if it is drawn as often;
+    // that is done each second anyhow.
+    readonly property real glideInterval: viewModel.minutes * 60000 / (Math.PI * ring.width * Screen.devicePixelRatio)
 
     implicitHeight: card.implicitHeight
 
     Timer {
-        interval: root.glideInterval
+        interval: Math.max(50, root.glideInterval)
         repeat: true
-        running: root.inSight && root.viewModel.isRunning && Theme.motionEnabled
+        running: root.inSight && root.viewModel.isRunning && Theme.motionEnabled && root.glideInterval < 1000
         onTriggered: root.viewModel.glide()
     }
 
@@ -33,6 +34,7 @@ FocusScope {
             spacing: Theme.space24
 
             OVProgressRing {
+                id: ring
                 Layout.alignment: Qt.AlignHCenter
                 value: root.viewModel.progress
                 Accessible.name: qsTr("%1, %2").arg(time.text).arg(stateWord.text)

@@ -11,6 +11,14 @@ GallerySection {
         "label": day, "shortLabel": day.slice(0, 3), "value": values[index], "valueText": String(values[index])
     }))
 
+    /// So many values in no order.
+    function many(count: int): var {
+        return Array.from({ "length": count }, (nothing, index) => ({
+            "label": "Label " + (index + 1), "shortLabel": String(index + 1),
+            "value": index * 7 % 11, "valueText": String(index * 7 % 11)
+        }))
+    }
+
     title: "Charts"
 
     GridLayout {
@@ -75,5 +83,36 @@ GallerySection {
                 ]
             }
         }
+
+        Frame { contentItem: OVLineChart { name: "Sixty labels"; points: section.many(60) } }
+        Frame { contentItem: OVBarChart { name: "Sixty bars"; points: section.many(60) } }
+
+        Frame {
+            contentItem: OVBarChart {
+                colors: points.map((point, index) => index % 2 ? Theme.ovInfo : Theme.ovSuccess)
+                name: "Twenty values"
+                points: section.many(20)
+                valuesShown: true
+            }
+        }
+
+        Frame {
+            contentItem: OVRingChart {
+                colors: [Theme.ovInkSecondary, Theme.ovInfo, Theme.ovSuccess]
+                name: "A single part"
+                points: [
+                    { "label": "To do", "value": 0, "valueText": "0", "symbol": "circle" },
+                    { "label": "In progress", "value": 0, "valueText": "0", "symbol": "circle.dotted" },
+                    { "label": "Done", "value": 1234567, "valueText": "1,234,567", "symbol": "checkmark.circle" }
+                ]
+                unit: "tasks"
+            }
+        }
+
+        Frame { contentItem: OVLineChart { name: "A single value"; points: section.points.slice(0, 1) } }
+        Frame { contentItem: OVBarChart { name: "A single bar"; points: section.points.slice(0, 1) } }
+        Frame { contentItem: OVRingChart { name: "No parts"; points: []; unit: "tasks" } }
+        Frame { contentItem: OVLineChart { name: "No values"; points: [] } }
+        Frame { contentItem: OVBarChart { name: "No bars"; points: [] } }
     }
 }

@@ -48,7 +48,8 @@ GridView {
     }
 
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: 200
+    // What is made ahead is asked for again by its index, which this Qt version warns of once rows are gone.
+    cacheBuffer: 0
     cellHeight: cardHeight + gap
     // The view fills its width with cells; each card draws itself within the column.
     cellWidth: Math.max(1, Math.floor(width / columns))

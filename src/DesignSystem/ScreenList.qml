@@ -54,7 +54,8 @@ ListView {
     }
 
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: 200
+    // What is made ahead is asked for again by its index, which this Qt version warns of once rows are gone.
+    cacheBuffer: 0
     currentIndex: -1
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false

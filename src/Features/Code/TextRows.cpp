@@ -21,12 +21,15 @@ void TextRows::setDocument(QQuickTextDocument *document)
         RowLayout *const rows = RowLayout::of(m_document->textDocument());
         connect(rows, &RowLayout::update, this, &QQuickItem::polish);
         connect(rows, &RowLayout::documentSizeChanged, this, &TextRows::textSizeChanged);
+        connect(rows, &RowLayout::documentSizeChanged, this, &TextRows::textWidthChanged,
+                Qt::QueuedConnection);
         connect(rows, &RowLayout::corrected, this, &TextRows::tellCorrection);
         if (auto *const editor = qobject_cast<QQuickItem *>(m_document->parent()))
             editor->setFlag(QQuickItem::ItemHasContents, false);
     }
     emit documentChanged();
     emit textSizeChanged();
+    emit textWidthChanged();
     polish();
 }
 

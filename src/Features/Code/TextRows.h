@@ -25,7 +25,7 @@ class TextRows : public QQuickPaintedItem
     Q_PROPERTY(QColor selectedTextColor MEMBER m_selectedTextColor NOTIFY looksChanged FINAL)
     Q_PROPERTY(QColor selectionColor MEMBER m_selectionColor NOTIFY looksChanged FINAL)
     /// Of the whole text. It is only known by and by, as the text comes into view.
-    Q_PROPERTY(qreal textWidth READ textWidth NOTIFY textSizeChanged FINAL)
+    Q_PROPERTY(qreal textWidth READ textWidth NOTIFY textWidthChanged FINAL)
     Q_PROPERTY(qreal textHeight READ textHeight NOTIFY textSizeChanged FINAL)
 
 public:
@@ -43,6 +43,8 @@ signals:
     void placeChanged();
     void looksChanged();
     void textSizeChanged();
+    /// Told in the next turn, since the width of the editor, which follows it, lays the text out.
+    void textWidthChanged();
     /// Text above the view has turned out longer by so many pixels than was estimated.
     void shifted(qreal distance);
 

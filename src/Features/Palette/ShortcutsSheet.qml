@@ -77,8 +77,9 @@ Item {
                                 required property var modelData
 
                                 shortcuts: modelData
-                                visible: columns.places[index] === column.index
-                                width: column.width
+                                // Null while the columns are made anew.
+                                visible: columns.places[index] === column?.index
+                                width: column?.width ?? 0
                             }
                         }
                     }

@@ -55,7 +55,7 @@ private slots:
             (QStringList{u"&File: New Page New Note New Task | Import Markdown… Export All as "
                          "Markdown… | Settings… | Check for Updates… | Quit"_s,
                          u"&Edit: Undo Redo | Cut Copy Paste | Select All | Find… Replace… Find Next Find "
-                         "Previous"_s,
+                         "Previous | Stop Checking Spelling"_s,
                          u"&Navigate: Dashboard Today Focus Tasks Calendar Projects Notes Databases Habits "
                          "Insights Relax | Command Palette | Back Forward"_s,
                          u"&View: Cycle Navigation Style Cycle Appearance Cycle Accent Shuffle Daily Quote "
@@ -159,6 +159,14 @@ private slots:
             m_commands.run(command->id);
             QCOMPARE(m_ui.selection().text(), command->id);
         }
+    }
+
+    void spellingIsSwitched()
+    {
+        m_commands.run(u"spelling"_s);
+        QCOMPARE(command(u"spelling"_s)->title, u"Check Spelling"_s);
+        m_commands.run(u"spelling"_s);
+        QCOMPARE(command(u"spelling"_s)->title, u"Stop Checking Spelling"_s);
     }
 
     void theQuoteIsShuffled()

@@ -13,6 +13,7 @@ namespace
 {
 SavePoints *current = nullptr;
 QtMessageHandler handlerBefore = nullptr;
+constexpr char connectionLost[] = "The Wayland connection";
 
 void saveOrEnd(WorkspaceStore &store)
 {
@@ -46,7 +47,7 @@ SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplicatio
     handlerBefore =
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
             handlerBefore(type, context, message);
-            if (current && message.startsWith(QLatin1String("The Wayland connection ")))
+            if (current && message.startsWith(QLatin1String(connectionLost)))
                 current->saveAtExit();
         });
 }

@@ -1,9 +1,9 @@
 #include "Features/Databases/CsvColumns.h"
 
+#include "Features/Databases/CsvDays.h"
 #include "Features/Databases/DBValue.h"
 #include "Support/OVDate.h"
 
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -11,6 +11,17 @@
 namespace
 {
 using Type = DBPropertyType;
+
+QByteArrayView trimmed(QByteArrayView text)
+{
+    static constexpr QByteArrayView noBreakSpace("\xC2\xA0");
+    text = text.trimmed();
+    while (text.startsWith(noBreakSpace))
+        text = text.sliced(noBreakSpace.size()).trimmed();
+    while (text.endsWith(noBreakSpace))
+        text = text.chopped(noBreakSpace.size()).trimmed();
+    return text;
+}
 
 /// The texts of a column that are not blank.
 class Column
@@ -23,8 +34,8 @@ public:
     bool all(Test test) const
     {
         bool isEmpty = true;
-        for (const QStringList &row : m_table.rows) {
-            const QString text = row.at(m_column).trimmed();
+        for (qsizetype row = 0; row < m_table.rowCount(); ++row) {
+            const QByteArrayView text = trimmed(m_table.cell(row, m_column));
             if (text.isEmpty())
                 continue;
             if (!test(text))
@@ -38,23 +49,23 @@ public:
     QStringList distinct(qsizetype most) const
     {
         QStringList texts;
-        QSet<QString> seen;
-        for (const QStringList &row : m_table.rows) {
-            const QString text = row.at(m_column).trimmed();
+        QSet<QByteArrayView> seen;
+        for (qsizetype row = 0; row < m_table.rowCount() && texts.size() <= most; ++row) {
+            const QByteArrayView text = trimmed(m_table.cell(row, m_column));
             if (text.isEmpty() || seen.contains(text))
                 continue;
             seen.insert(text);
-            texts.append(text);
-            if (texts.size() > most)
-                break;
+            texts.append(QString::fromUtf8(text));
         }
         return texts;
     }
 
     qsizetype count() const
     {
-        return std::ranges::count_if(
-            m_table.rows, [this](const QStringList &row) { return !row.at(m_column).trimmed().isEmpty(); });
+        qsizetype count = 0;
+        for (qsizetype row = 0; row < m_table.rowCount(); ++row)
+            count += !trimmed(m_table.cell(row, m_column)).isEmpty();
+        return count;
     }
 
 private:
@@ -62,46 +73,37 @@ private:
     qsizetype m_column;
 };
 
-QDate parseDay(const QString &text, const QString &form)
+/// The form in which all texts write their days; empty if there is none.
+QByteArrayView dateForm(const Column &column, const QLocale &locale)
 {
-    if (form.isEmpty())
-        return {};
-    return QLocale::c().toDate(text, form);
-}
-
-/// The form in which all texts write their days; empty if there is none. Where day and month can't be told
-/// apart, the locale's own order comes first.
-QString dateForm(const Column &column, const QLocale &locale)
-{
-    QStringList forms{QStringLiteral("yyyy-MM-dd"), QStringLiteral("yyyy/M/d"), QStringLiteral("d.M.yyyy")};
-    const bool isMonthFirst = locale.dateFormat(QLocale::ShortFormat).indexOf(u'M') <
-                              locale.dateFormat(QLocale::ShortFormat).indexOf(u'd');
-    const QString dayFirst = QStringLiteral("d/M/yyyy"), monthFirst = QStringLiteral("M/d/yyyy");
-    forms += isMonthFirst ? QStringList{monthFirst, dayFirst} : QStringList{dayFirst, monthFirst};
-    forms += {QStringLiteral("d-M-yyyy"),    QStringLiteral("d MMM yyyy"),   QStringLiteral("MMM d, yyyy"),
-              QStringLiteral("d MMMM yyyy"), QStringLiteral("MMMM d, yyyy"), QStringLiteral("yyyyMMdd")};
-    for (const QString &form : std::as_const(forms))
-        if (column.all([&form](const QString &text) { return parseDay(text, form).isValid(); }))
+    const QList<QByteArrayView> forms = CsvDays::forms(locale);
+    for (const QByteArrayView form : forms)
+        if (column.all([form](QByteArrayView text) { return CsvDays::parse(text, form).has_value(); }))
             return form;
     return {};
 }
 
-bool isCheck(const QString &text)
+bool isCheck(QByteArrayView text)
 {
-    static const QSet<QString> words{QStringLiteral("true"), QStringLiteral("false"), QStringLiteral("yes"),
-                                     QStringLiteral("no"), QStringLiteral("✓")};
-    return words.contains(text.toLower());
+    static constexpr std::array<QByteArrayView, 5> words{"true", "false", "yes", "no", "\xE2\x9C\x93"};
+    return std::ranges::any_of(words, [text](QByteArrayView word) {
+        return text.size() == word.size() &&
+               qstrnicmp(text.data(), word.data(), std::size_t(word.size())) == 0;
+    });
 }
 
-bool isPercent(const QString &text)
+bool isPercent(QByteArrayView text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^\\d{1,3} ?%$"));
-    return pattern.match(text).hasMatch();
+    if (!text.endsWith('%'))
+        return false;
+    const QByteArrayView digits = text.chopped(1).trimmed();
+    return !digits.isEmpty() && digits.size() <= 3 &&
+           std::ranges::all_of(digits, [](char digit) { return digit >= '0' && digit <= '9'; });
 }
 
-bool isUrl(const QString &text)
+bool isUrl(QByteArrayView text)
 {
-    return text.startsWith(QLatin1String("http://")) || text.startsWith(QLatin1String("https://"));
+    return text.startsWith("http://") || text.startsWith("https://");
 }
 
 Type guessType(const Column &column, const QLocale &locale)
@@ -110,7 +112,7 @@ Type guessType(const Column &column, const QLocale &locale)
         return Type::checkbox;
     if (!dateForm(column, locale).isEmpty())
         return Type::date;
-    if (column.all([](const QString &text) { return DBValue::number(text).has_value(); }))
+    if (column.all([](QByteArrayView text) { return DBValue::number(text).has_value(); }))
         return Type::number;
     if (column.all(isPercent))
         return Type::progress;
@@ -126,7 +128,7 @@ Type guessType(const Column &column, const QLocale &locale)
 QList<DBProperty> CsvColumns::guess(const CsvTable &table, const QLocale &locale)
 {
     QList<DBProperty> properties;
-    for (qsizetype i = 0; i < table.names.size(); ++i) {
+    for (qsizetype i = 0; i < table.columnCount(); ++i) {
         DBProperty property;
         property.name = table.names.at(i).trimmed();
         if (property.name.isEmpty())
@@ -179,12 +181,36 @@ CsvColumns::Converter::Converter(const DBProperty &property, const CsvTable &tab
         m_dateForm = dateForm(Column(table, column), locale);
 }
 
-QString CsvColumns::Converter::value(const QString &text) const
+QString CsvColumns::Converter::value(QByteArrayView text)
 {
-    if (m_property.type == Type::date) {
-        const QDate day = parseDay(text.trimmed(), m_dateForm);
-        return day.isValid() ? OVDate::dayKey(day) : text;
+    if (text.isEmpty())
+        return {};
+    if (text.size() > maxKnownSize)
+        return made(text);
+    Known &known = m_known[qHash(text) % m_known.size()];
+    if (QByteArrayView(known.text.data(), known.size) != text) {
+        std::ranges::copy(text, known.text.begin());
+        known.size = text.size();
+        known.value = made(text);
+    }
+    return known.value;
+}
+
+QString CsvColumns::Converter::made(QByteArrayView text) const
+{
+    const QString whole = QString::fromUtf8(text);
+    switch (m_property.type) {
+    case Type::text:
+    case Type::url:
+        return whole;
+    case Type::date: {
+        const auto day = CsvDays::parse(trimmed(text), m_dateForm);
+        return day ? OVDate::dayKey(*day) : whole;
     }
     // A number in a form of its own is kept as it is written.
-    return m_property.type == Type::number ? text.trimmed() : DBValue::pasted(m_property, text);
+    case Type::number:
+        return whole.trimmed();
+    default:
+        return DBValue::pasted(m_property, whole);
+    }
 }

@@ -5,6 +5,8 @@
 
 #include <QLocale>
 
+#include <array>
+
 /// What becomes of the columns of a file in a database.
 namespace CsvColumns
 {
@@ -29,10 +31,23 @@ public:
     Converter(const DBProperty &property, const CsvTable &table, qsizetype column,
               const QLocale &locale = QLocale());
 
-    QString value(const QString &text) const;
+    /// @param text in UTF-8
+    QString value(QByteArrayView text);
 
 private:
+    static constexpr qsizetype maxKnownSize = 24;
+
+    /// A short text that has come before. Columns of few values share their strings by it.
+    struct Known {
+        std::array<char, std::size_t(maxKnownSize)> text{};
+        qsizetype size = 0;
+        QString value;
+    };
+
+    QString made(QByteArrayView text) const;
+
     DBProperty m_property;
-    QString m_dateForm;
+    QByteArrayView m_dateForm;
+    std::array<Known, 1024> m_known;
 };
 } // namespace CsvColumns

@@ -18,9 +18,9 @@ constexpr qsizetype pieceSize = 1000;
 DBEngine::Rows visibleRows(const CsvExport::Source &source)
 {
     DBEngine::Rows rows;
-    rows.reserve(source.records.size());
     for (const DBRow &record : source.records)
-        rows.append(&record);
+        if (record.tableID == source.tableID)
+            rows.append(&record);
     return DBEngine::applyView(rows, source.properties, source.view, source.zone, source.locale);
 }
 } // namespace

@@ -13,7 +13,9 @@ namespace CsvExport
 {
 /// What is written. It shares the records with the store and can be handed to another thread.
 struct Source {
+    QUuid tableID;
     QList<DBProperty> properties;
+    /// Of all databases.
     QList<DBRow> records;
     /// Says which records are written in which order.
     DBView view;

@@ -14,7 +14,7 @@ OVSheet {
 
     onClosed: {
         if (wanted)
-            transfer.cancel()
+            transfer.cancelExport()
     }
     onWantedChanged: {
         if (!wanted)

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <csv.h>
 #include <memory>
 
@@ -39,102 +38,55 @@ QString fromWindows1252(const QByteArray &file)
     return text;
 }
 
+/// Shares the text with the file where that is possible, and holds as long as it.
 QByteArray toUtf8(const QByteArray &file)
 {
     if (const auto encoding = QStringConverter::encodingForData(file);
         encoding && *encoding != QStringConverter::Utf8)
         return QString(QStringDecoder(*encoding).decode(file)).toUtf8();
-    const QByteArray text = file.startsWith("\xEF\xBB\xBF") ? file.mid(3) : file;
+    constexpr qsizetype markSize = 3;
+    const QByteArray text = file.startsWith("\xEF\xBB\xBF")
+                                ? QByteArray::fromRawData(file.constData() + markSize, file.size() - markSize)
+                                : file;
     return text.isValidUtf8() ? text : fromWindows1252(text).toUtf8();
 }
-
-/// Short texts that have come before, so that columns of few values share them.
-class KnownTexts
-{
-public:
-    QString text(const char *bytes, std::size_t length)
-    {
-        if (length == 0 || length > maxLength)
-            return made(bytes, length);
-        const auto unit = [bytes](std::size_t i) {
-            return std::size_t(static_cast<unsigned char>(bytes[i]));
-        };
-        Known &known =
-            m_known[(unit(0) * 31 + unit(length - 1) * 7 + unit(length / 2) + length) % m_known.size()];
-        if (known.length != length || std::memcmp(known.bytes.data(), bytes, length) != 0) {
-            std::memcpy(known.bytes.data(), bytes, length);
-            known.length = length;
-            known.text = made(bytes, length);
-        }
-        return known.text;
-    }
-
-private:
-    static constexpr std::size_t maxLength = 16;
-
-    struct Known {
-        std::array<char, maxLength> bytes{};
-        std::size_t length = 0;
-        QString text;
-    };
-
-    static QString made(const char *bytes, std::size_t length)
-    {
-        return CsvWriter::unguarded(QString::fromUtf8(bytes, qsizetype(length)));
-    }
-
-    std::array<Known, 1024> m_known;
-};
 
 /// Gathers what the parser finds.
 class Gatherer
 {
 public:
+    explicit Gatherer(qsizetype bytes) { m_table.reserve(bytes); }
+
     static void cell(void *text, std::size_t length, void *self)
     {
-        auto &gatherer = *static_cast<Gatherer *>(self);
-        gatherer.m_row.append(gatherer.m_texts.text(static_cast<const char *>(text), length));
+        const QByteArrayView cell(static_cast<const char *>(text), qsizetype(length));
+        static_cast<Gatherer *>(self)->add(CsvWriter::unguarded(cell));
     }
-    static void row(int, void *self)
-    {
-        auto &gatherer = *static_cast<Gatherer *>(self);
-        gatherer.endRow();
-    }
+    static void row(int, void *self) { static_cast<Gatherer *>(self)->endRow(); }
 
     bool isTooLarge() const { return m_isTooLarge; }
     CsvTable take() { return std::move(m_table); }
 
 private:
+    void add(QByteArrayView cell)
+    {
+        if (!m_hasNames)
+            m_table.names.append(QString::fromUtf8(cell));
+        else if (!m_isTooLarge)
+            m_table.appendCell(cell);
+    }
     void endRow()
     {
-        QStringList row = std::exchange(m_row, {});
         if (!m_hasNames) {
             m_hasNames = true;
-            m_isTooLarge = row.size() > maxColumns;
-            m_table.names = std::move(row);
-            return;
+            m_isTooLarge = m_table.columnCount() > maxColumns;
+        } else if (!m_isTooLarge) {
+            m_table.endRow();
+            m_isTooLarge = m_table.rowCount() * m_table.columnCount() > maxCells;
         }
-        const qsizetype width = m_table.names.size();
-        m_cells += width;
-        if (m_isTooLarge || m_cells > maxCells) {
-            m_isTooLarge = true;
-            return;
-        }
-        m_row.reserve(width);
-        if (row.size() != width) {
-            ++m_table.ragged;
-            while (row.size() > width)
-                row.removeLast();
-            while (row.size() < width)
-                row.append(QString());
-        }
-        m_table.rows.append(std::move(row));
     }
 
     CsvTable m_table;
-    QStringList m_row;
-    KnownTexts m_texts;
-    qsizetype m_cells = 0;
     bool m_hasNames = false;
     bool m_isTooLarge = false;
 };
@@ -172,13 +124,18 @@ char CsvReader::separatorOf(QByteArrayView text)
 std::expected<CsvTable, QString> CsvReader::read(const QByteArray &file, const Progress &progress)
 {
     const QByteArray text = toUtf8(file);
+    const auto tooLarge = [] {
+        return std::unexpected(CsvText::tr("The file has too many columns or cells."));
+    };
+    if (text.size() > CsvTable::maxBytes)
+        return tooLarge();
     csv_parser parser;
-    if (csv_init(&parser, CSV_APPEND_NULL) != 0)
+    if (csv_init(&parser, 0) != 0)
         return std::unexpected(CsvText::tr("There is not enough memory to read the file."));
     const std::unique_ptr<csv_parser, decltype(&csv_free)> cleanup(&parser, &csv_free);
     csv_set_delim(&parser, static_cast<unsigned char>(separatorOf(text)));
     csv_set_space_func(&parser, &noSpace);
-    Gatherer gatherer;
+    Gatherer gatherer(text.size());
     for (qsizetype from = 0; from < text.size(); from += pieceSize) {
         if (!progress(double(from) / double(text.size())))
             return std::unexpected(QString());
@@ -192,7 +149,7 @@ std::expected<CsvTable, QString> CsvReader::read(const QByteArray &file, const P
     }
     csv_fini(&parser, &Gatherer::cell, &Gatherer::row, &gatherer);
     if (gatherer.isTooLarge())
-        return std::unexpected(CsvText::tr("The file has too many columns or cells."));
+        return tooLarge();
     CsvTable table = gatherer.take();
     if (table.names.isEmpty())
         return std::unexpected(CsvText::tr("The file is empty."));

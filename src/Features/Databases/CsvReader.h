@@ -1,20 +1,11 @@
 #pragma once
 
+#include "Features/Databases/CsvTable.h"
+
 #include <QByteArray>
-#include <QStringList>
 
 #include <expected>
 #include <functional>
-
-/// A table as files of comma-separated values hold it.
-struct CsvTable {
-    /// The first row.
-    QStringList names;
-    /// Each as long as the names.
-    QList<QStringList> rows;
-    /// How many rows had fewer or more cells than there are names.
-    qsizetype ragged = 0;
-};
 
 /// Reads comma-separated values (RFC 4180): UTF-8 with or without its mark, UTF-16, or else Windows-1252;
 /// commas, semicolons or tabs, whichever divides the first row into most cells.

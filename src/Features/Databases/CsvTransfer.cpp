@@ -11,21 +11,11 @@
 
 #include <utility>
 
-/// What the worker and the window share.
-struct CsvTransfer::Job {
-    std::atomic<bool> isCanceled = false;
-    std::atomic<int> percent = 0;
-    /// Tells the window; called by the worker.
-    std::function<void()> advanced;
-
-    bool goOn(double share)
-    {
-        const int next = int(share * 100);
-        if (percent.exchange(next) != next)
-            advanced();
-        return !isCanceled;
-    }
-};
+namespace
+{
+/// The share of making the records in the time of an import; the other is adding them.
+constexpr double makingShare = 0.6;
+} // namespace
 
 CsvTransfer::CsvTransfer(QObject *parent)
     : ViewModel(parent),
@@ -33,52 +23,32 @@ CsvTransfer::CsvTransfer(QObject *parent)
                QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)),
       m_portal(QDBusConnection::sessionBus())
 {
+    connect(&m_work, &BackgroundWork::changed, this, &CsvTransfer::stateChanged);
+    connect(&m_adder, &RecordsAdder::advanced, this, &CsvTransfer::stateChanged);
+    connect(&m_adder, &RecordsAdder::finished, this, [this] {
+        m_file.reset();
+        emit stateChanged();
+        emit finished(m_added);
+    });
 }
 
 CsvTransfer::~CsvTransfer()
 {
-    if (m_job)
-        m_job->isCanceled = true;
-    if (m_worker.joinable())
-        m_worker.join();
+    if (isExporting())
+        session()->undo()->tell(tr("The CSV file is still being written."));
 }
 
-void CsvTransfer::run(std::function<std::function<void()>(Job &)> work)
+double CsvTransfer::progress() const
 {
-    cancel();
-    if (m_worker.joinable())
-        m_worker.join();
-    m_isBusy = true;
-    m_isExporting = false;
-    m_progress = 0;
-    m_error.clear();
-    auto job = std::make_shared<Job>();
-    job->advanced = [this, job = job.get()] {
-        QMetaObject::invokeMethod(this, [this, percent = job->percent.load()] {
-            m_progress = percent / 100.0;
-            emit progressChanged();
-        });
-    };
-    m_job = job;
-    m_worker = std::thread([this, job, work = std::move(work)] {
-        const std::function<void()> done = work(*job);
-        QMetaObject::invokeMethod(this, [this, job, done] {
-            if (job->isCanceled || m_job != job)
-                return;
-            m_isBusy = false;
-            done();
-            emit stateChanged();
-        });
-    });
-    emit stateChanged();
+    if (isExporting())
+        return m_export->progress();
+    return m_adder.isBusy() ? makingShare + (1 - makingShare) * m_adder.progress() : m_work.progress();
 }
 
 void CsvTransfer::cancel()
 {
-    if (!m_isBusy)
-        return;
-    m_job->isCanceled = true;
-    m_isBusy = false;
+    m_work.cancel();
+    m_adder.cancel();
     emit stateChanged();
 }
 
@@ -100,9 +70,10 @@ void CsvTransfer::read(const QString &place)
 {
     const QUrl url(place);
     const QString path = url.isLocalFile() ? url.toLocalFile() : place.trimmed();
-    m_table.reset();
+    m_file.reset();
+    m_error.clear();
     m_name = QFileInfo(path).completeBaseName();
-    run([this, path](Job &job) -> std::function<void()> {
+    m_work.start([this, path](BackgroundWork::Job &job) -> std::function<void()> {
         QFile file(path);
         const auto fail = [this](const QString &message) { return [this, message] { m_error = message; }; };
         // A pipe or a device may have no end.
@@ -116,7 +87,7 @@ void CsvTransfer::read(const QString &place)
         const auto shared = std::make_shared<const CsvTable>(std::move(*table));
         const QList<DBProperty> properties = CsvColumns::guess(*shared);
         return [this, shared, properties] {
-            m_table = shared;
+            m_file = shared;
             m_properties = properties;
             showColumns();
         };
@@ -127,10 +98,10 @@ QString CsvTransfer::summary() const
 {
     if (!isRead())
         return {};
-    const QString counts = tr("%1 records, %2 columns").arg(m_table->rows.size()).arg(m_table->names.size());
-    return m_table->ragged == 0
+    const QString counts = tr("%1 records, %2 columns").arg(m_file->rowCount()).arg(m_file->columnCount());
+    return m_file->ragged == 0
                ? counts
-               : tr("%1; %2 rows are longer or shorter than the first one").arg(counts).arg(m_table->ragged);
+               : tr("%1; %2 rows are longer or shorter than the first one").arg(counts).arg(m_file->ragged);
 }
 
 void CsvTransfer::showColumns()
@@ -138,8 +109,8 @@ void CsvTransfer::showColumns()
     QList<CsvColumnRow> rows;
     for (qsizetype i = 0; i < m_properties.size(); ++i) {
         QStringList sample;
-        for (qsizetype j = 0; j < std::min<qsizetype>(3, m_table->rows.size()); ++j)
-            if (const QString text = LineText::shown(m_table->rows.at(j).at(i), 40); !text.isEmpty())
+        for (qsizetype j = 0; j < std::min<qsizetype>(3, m_file->rowCount()); ++j)
+            if (const QString text = LineText::shown(m_file->text(j, i), 40); !text.isEmpty())
                 sample.append(text);
         const DBProperty &property = m_properties.at(i);
         rows.append({int(i), LineText::shownTitle(property.name), enumRawText(property.type),
@@ -153,7 +124,7 @@ void CsvTransfer::setType(int column, const QString &type)
     const auto value = enumFromRaw<DBPropertyType>(type);
     if (!value || !isRead() || column < 0 || column >= m_properties.size())
         return;
-    m_properties[column] = CsvColumns::withType(m_properties.at(column), *value, *m_table, column);
+    m_properties[column] = CsvColumns::withType(m_properties.at(column), *value, *m_file, column);
     showColumns();
 }
 
@@ -181,7 +152,7 @@ int CsvTransfer::matchCount(const QUuid &tableID) const
     const DatabaseTable *const table = session() ? store().list<DatabaseTable>().first(tableID) : nullptr;
     if (!table || !isRead())
         return 0;
-    const auto matches = CsvColumns::match(m_table->names, table->properties);
+    const auto matches = CsvColumns::match(m_file->names, table->properties);
     return int(std::ranges::count_if(matches, [](qsizetype property) { return property >= 0; }));
 }
 
@@ -189,46 +160,21 @@ void CsvTransfer::addTo(const QUuid &tableID)
 {
     const DatabaseTable *const table = store().list<DatabaseTable>().first(tableID);
     if (table && matchCount(tableID) > 0)
-        makeRecords(*table, CsvColumns::match(m_table->names, table->properties), false);
+        makeRecords(*table, CsvColumns::match(m_file->names, table->properties), false);
 }
 
 void CsvTransfer::makeRecords(const DatabaseTable &table, const QList<qsizetype> &propertyOf, bool isNew)
 {
-    const Timestamp now = store().now();
-    run([this, table, propertyOf, isNew, now, source = m_table](Job &job) -> std::function<void()> {
-        std::vector<std::pair<QString, CsvColumns::Converter>> converters;
-        QList<qsizetype> columns;
-        for (qsizetype i = 0; i < propertyOf.size(); ++i) {
-            if (propertyOf.at(i) < 0)
-                continue;
-            const DBProperty &property = table.properties.at(propertyOf.at(i));
-            converters.emplace_back(DBRow::valueKey(property.id),
-                                    CsvColumns::Converter(property, *source, i));
-            columns.append(i);
-        }
-        const auto records = std::make_shared<QList<DBRow>>();
-        for (qsizetype row = 0; row < source->rows.size(); ++row) {
-            if (row % 1000 == 0 && !job.goOn(double(row) / double(source->rows.size())))
-                return {};
-            DBRow record{QUuid(), table.id, {}, secondsSince1970(now), now, now};
-            for (qsizetype i = 0; i < columns.size(); ++i) {
-                const auto &[key, converter] = converters[std::size_t(i)];
-                if (const QString value = converter.value(source->rows.at(row).at(columns.at(i)));
-                    !value.isEmpty())
-                    record.values.insert(key, value);
-            }
-            records->append(std::move(record));
-        }
-        return [this, table, records, isNew] {
-            const Action action(store(), ActionText::tr("Import"));
-            if (isNew)
-                DatabaseOperations::create(store(), table);
-            for (DBRow &record : *records) {
-                record.id = store().makeId();
-                store().add(record);
-            }
-            m_table.reset();
-            emit finished(table.id);
+    const CsvRecords::Plan plan{table, propertyOf, store().now(), QLocale()};
+    m_work.start([this, plan, isNew, file = m_file](BackgroundWork::Job &job) -> std::function<void()> {
+        auto made =
+            CsvRecords::make(*file, plan, [&job](double share) { return job.goOn(share * makingShare); });
+        if (!made)
+            return {};
+        const auto records = std::make_shared<QList<DBRow>>(std::move(*made));
+        return [this, table = plan.table, records, isNew] {
+            m_added = table.id;
+            m_adder.start(store(), isNew ? std::optional(table) : std::nullopt, std::move(*records));
         };
     });
 }
@@ -238,9 +184,8 @@ void CsvTransfer::saveView(const QUuid &tableID, const QUuid &viewID)
     const DatabaseTable *const table = store().list<DatabaseTable>().first(tableID);
     if (!table)
         return;
-    CsvExport::Source source{table->properties, {}, {}, clock().timeZone(), QLocale()};
-    for (const DBRow *const record : DatabaseOperations::rows(store(), tableID))
-        source.records.append(*record);
+    CsvExport::Source source{tableID, table->properties,  store().list<DBRow>().all(),
+                             {},      clock().timeZone(), QLocale()};
     const auto view = std::ranges::find(table->views, viewID, &DBView::id);
     if (view != table->views.end())
         source.view = *view;
@@ -253,11 +198,23 @@ void CsvTransfer::saveView(const QUuid &tableID, const QUuid &viewID)
 
 void CsvTransfer::write(const CsvExport::Source &source, const QString &path)
 {
-    run([this, source, path](Job &job) -> std::function<void()> {
+    auto *const work = new BackgroundWork(session());
+    m_export = work;
+    connect(work, &BackgroundWork::changed, this, &CsvTransfer::stateChanged);
+    work->start([work, source, path, tells = session()->undo()](BackgroundWork::Job &job) {
         const auto result = CsvExport::write(source, path, [&job](double share) { return job.goOn(share); });
         const QString message = result ? tr("Saved to %1").arg(path) : result.error();
-        return [this, message] { emit saved(message); };
+        return [work, tells, message] {
+            tells->tell(message);
+            work->deleteLater();
+        };
     });
-    m_isExporting = true;
-    emit stateChanged();
+}
+
+void CsvTransfer::cancelExport()
+{
+    if (!isExporting())
+        return;
+    m_export->cancel();
+    m_export->deleteLater();
 }

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "Features/Databases/CsvExport.h"
-#include "Features/Databases/CsvReader.h"
+#include "Features/Databases/CsvRecords.h"
+#include "Features/Databases/RecordsAdder.h"
 #include "Foundation/KeyedListModel.h"
-#include "Models/DBRow.h"
+#include "Session/BackgroundWork.h"
 #include "Session/FilePortal.h"
 #include "Session/SaveFileDialog.h"
 #include "Session/ViewModel.h"
 
-#include <atomic>
+#include <QPointer>
+
 #include <memory>
-#include <thread>
 
 /// A column of a file that is imported, as its preview shows it.
 struct CsvColumnRow {
@@ -35,18 +36,19 @@ public:
 
 /// Takes files of comma-separated values in and writes them out. A file is read and made into records beside
 /// the window; nothing is added before that is done, and nothing at all if it is cancelled. Writing goes on
-/// beside the window as well.
+/// beside the window as well, also after this is gone.
 class CsvTransfer : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
+    /// Whether a file is being read or its records are being made.
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY stateChanged FINAL)
     /// Whether a file has been read and its columns can be chosen.
     Q_PROPERTY(bool isRead READ isRead NOTIFY stateChanged FINAL)
-    /// Whether that is the writing of a file.
+    /// Whether a file is being written.
     Q_PROPERTY(bool isExporting READ isExporting NOTIFY stateChanged FINAL)
     /// From 0 to 1.
-    Q_PROPERTY(double progress READ progress NOTIFY progressChanged FINAL)
+    Q_PROPERTY(double progress READ progress NOTIFY stateChanged FINAL)
     /// What went wrong; empty for nothing.
     Q_PROPERTY(QString error READ error NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString summary READ summary NOTIFY stateChanged FINAL)
@@ -57,10 +59,10 @@ public:
     explicit CsvTransfer(QObject *parent = nullptr);
     ~CsvTransfer() override;
 
-    bool isBusy() const { return m_isBusy; }
-    bool isExporting() const { return m_isBusy && m_isExporting; }
-    bool isRead() const { return !m_isBusy && m_table && !m_table->names.isEmpty(); }
-    double progress() const { return m_progress; }
+    bool isBusy() const { return m_work.isBusy() || m_adder.isBusy(); }
+    bool isExporting() const { return m_export && m_export->isBusy(); }
+    bool isRead() const { return !isBusy() && m_file; }
+    double progress() const;
     const QString &error() const { return m_error; }
     QString summary() const;
     QAbstractItemModel *columns() { return &m_columns; }
@@ -71,6 +73,7 @@ public:
     /// @param place a path or the address of a file
     Q_INVOKABLE void read(const QString &place);
     Q_INVOKABLE void cancel();
+    Q_INVOKABLE void cancelExport();
     Q_INVOKABLE void setType(int column, const QString &type);
     /// Makes a database of what was read, named after the file.
     Q_INVOKABLE void createDatabase();
@@ -85,33 +88,27 @@ public:
 
 signals:
     void stateChanged();
-    void progressChanged();
     /// The records are there; the null id if there were none to make.
     void finished(const QUuid &tableID);
-    /// What is to be told of a file that was written, or could not be.
-    void saved(const QString &message);
 
 protected:
     void refresh(const ChangeSet &) override {}
 
 private:
-    struct Job;
-
-    void run(std::function<std::function<void()>(Job &)> work);
     void showColumns();
     void write(const CsvExport::Source &source, const QString &path);
     void makeRecords(const DatabaseTable &table, const QList<qsizetype> &propertyOf, bool isNew);
 
-    bool m_isBusy = false;
-    bool m_isExporting = false;
-    double m_progress = 0;
     QString m_error;
     QString m_name;
-    std::shared_ptr<const CsvTable> m_table;
+    std::shared_ptr<const CsvTable> m_file;
     QList<DBProperty> m_properties;
     KeyedListModel<CsvColumnRow> m_columns;
-    std::shared_ptr<Job> m_job;
-    std::thread m_worker;
+    QUuid m_added;
+    BackgroundWork m_work;
+    RecordsAdder m_adder;
+    /// Belongs to the session.
+    QPointer<BackgroundWork> m_export;
     SaveFileDialog m_dialog;
     FilePortal m_portal;
 };

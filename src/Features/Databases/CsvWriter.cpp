@@ -4,18 +4,29 @@
 
 namespace
 {
-bool beginsFormula(QStringView text)
+char16_t unitOf(QChar character)
 {
-    return !text.isEmpty() && QStringView(u"=+-@\t\r").contains(text.front());
+    return character.unicode();
+}
+char16_t unitOf(char byte)
+{
+    return static_cast<unsigned char>(byte);
+}
+
+template <typename View>
+bool beginsFormula(View text)
+{
+    return !text.isEmpty() && QStringView(u"=+-@\t\r").contains(QChar(unitOf(text.front())));
 }
 
 /// Whether the text is "'" once or more before what would be a formula.
-bool isGuarded(QStringView text)
+template <typename View>
+bool isGuarded(View text)
 {
     qsizetype marks = 0;
-    while (marks < text.size() && text[marks] == u'\'')
+    while (marks < text.size() && unitOf(text[marks]) == u'\'')
         ++marks;
-    return marks > 0 && beginsFormula(text.mid(marks));
+    return marks > 0 && beginsFormula(text.sliced(marks));
 }
 } // namespace
 
@@ -37,15 +48,13 @@ void CsvWriter::append(QByteArray &file, const QStringList &row)
 
 QString CsvWriter::guarded(const QString &text)
 {
-    const bool runs = beginsFormula(text) && !DBValue::number(text);
-    return runs || isGuarded(text) ? u'\'' + text : text;
+    const bool runs = beginsFormula(QStringView(text)) && !DBValue::number(text);
+    return runs || isGuarded(QStringView(text)) ? u'\'' + text : text;
 }
 
-QString CsvWriter::unguarded(QString text)
+QByteArrayView CsvWriter::unguarded(QByteArrayView text)
 {
-    if (isGuarded(text))
-        text.remove(0, 1);
-    return text;
+    return isGuarded(text) ? text.sliced(1) : text;
 }
 
 QByteArray CsvWriter::write(const QStringList &names, const QList<QStringList> &rows)

@@ -10,6 +10,16 @@ OVPressable {
     required property int column
     property var property: records.columnsRevision >= 0 ? records.column(column) : null
 
+    /// The column went this many places to the right, and with it what the user works at.
+    signal moved(places: int)
+
+    function move(places: int) {
+        if (!records.canMoveColumn(column, places))
+            return
+        records.moveColumn(column, places)
+        moved(places)
+    }
+
     function openMenu() {
         const byKeys = visualFocus
         menu.openBeside(root, 0, 0, height)
@@ -92,14 +102,14 @@ OVPressable {
             enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, -1)
             symbol: "arrow.left"
             text: qsTr("Move left")
-            onTriggered: root.records.moveColumn(root.column, -1)
+            onTriggered: root.move(-1)
         }
 
         OVMenuItem {
             enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, 1)
             symbol: "arrow.right"
             text: qsTr("Move right")
-            onTriggered: root.records.moveColumn(root.column, 1)
+            onTriggered: root.move(1)
         }
 
         OVMenuSeparator { }

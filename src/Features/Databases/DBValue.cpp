@@ -131,27 +131,44 @@ QString DBValue::toggled(const QString &value, const QString &option)
     return chosen.join(u',');
 }
 
+namespace
+{
+constexpr qsizetype longestNumber = 400;
+
+bool isPartOfNumber(char16_t unit)
+{
+    return (unit >= '0' && unit <= '9') || unit == '.' || unit == '-' || unit == '+' || unit == 'e' ||
+           unit == 'E';
+}
+} // namespace
+
 std::optional<double> DBValue::number(const QString &value)
 {
-    static constexpr qsizetype longest = 400;
-    if (value.isEmpty() || value.size() > longest)
+    std::array<char, longestNumber> digits{};
+    if (value.size() > longestNumber)
         return std::nullopt;
-    std::array<char, longest> digits{};
-    qsizetype size = 0;
-    for (const QChar character : value) {
-        const char16_t unit = character.unicode();
-        const bool isDigit = unit >= '0' && unit <= '9';
-        if (!isDigit && unit != '.' && unit != '-' && unit != '+' && unit != 'e' && unit != 'E')
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        const char16_t unit = value.at(i).unicode();
+        if (!isPartOfNumber(unit))
             return std::nullopt;
-        digits[std::size_t(size++)] = char(unit);
+        digits[std::size_t(i)] = char(unit);
     }
-    const bool hasPlus = digits[0] == '+';
-    if (hasPlus && size > 1 && (digits[1] == '-' || digits[1] == '+'))
+    return number(QByteArrayView(digits.data(), value.size()));
+}
+
+std::optional<double> DBValue::number(QByteArrayView value)
+{
+    if (value.isEmpty() || value.size() > longestNumber)
         return std::nullopt;
-    const char *const end = digits.data() + size;
+    if (!std::ranges::all_of(value,
+                             [](char byte) { return isPartOfNumber(static_cast<unsigned char>(byte)); }))
+        return std::nullopt;
+    const bool hasPlus = value.front() == '+';
+    if (hasPlus && value.size() > 1 && (value[1] == '-' || value[1] == '+'))
+        return std::nullopt;
     double number = 0;
-    const auto result = std::from_chars(digits.data() + (hasPlus ? 1 : 0), end, number);
-    if (result.ec == std::errc() && result.ptr == end)
+    const auto result = std::from_chars(value.begin() + (hasPlus ? 1 : 0), value.end(), number);
+    if (result.ec == std::errc() && result.ptr == value.end())
         return number;
     return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include "Foundation/Timestamp.h"
 #include "Models/DatabaseTable.h"
 
+#include <QByteArrayView>
 #include <QDate>
 #include <QStringList>
 
@@ -38,4 +39,6 @@ QString toggled(const QString &value, const QString &option);
 /// The number that the whole text is, in the C locale and without surrounding blanks; nothing for any other
 /// text. "nan" and "inf" are words here.
 std::optional<double> number(const QString &value);
+/// The same of a text in UTF-8.
+std::optional<double> number(QByteArrayView value);
 } // namespace DBValue

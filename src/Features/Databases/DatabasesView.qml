@@ -57,7 +57,6 @@ FocusScope {
         id: transfer
         session: Orvel
         onFinished: tableID => root.open(tableID)
-        onSaved: message => toast.show(message)
     }
 
     CsvImportSheet {
@@ -68,10 +67,6 @@ FocusScope {
 
     CsvExportSheet {
         transfer: transfer
-    }
-
-    OVToast {
-        id: toast
     }
 
     FocusScope {
@@ -119,7 +114,8 @@ FocusScope {
 
         DatabasePane {
             id: pane
-            active: root.visible && visible
+            // What is added in pieces is shown when all of it is there.
+            active: root.visible && visible && !transfer.isBusy
             height: parent.height
             railShown: rail.visible
             viewModel: databases

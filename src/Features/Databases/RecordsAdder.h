@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Store/WorkspaceStore.h"
+
+#include <optional>
+
+/// Adds very many records in one undo step, some of them in each turn of the event loop, so that the window
+/// does not freeze.
+class RecordsAdder : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+    /// Takes back what is not finished.
+    ~RecordsAdder() override;
+
+    /// Ends with `finished`.
+    /// @param store lives longer than this
+    /// @param table a new database that the records belong to; nothing if it is there already
+    /// @param records get their ids here
+    void start(WorkspaceStore &store, const std::optional<DatabaseTable> &table, QList<DBRow> records);
+    /// Takes back what has been added so far.
+    void cancel();
+    bool isBusy() const { return m_store; }
+    /// From 0 to 1.
+    double progress() const;
+
+signals:
+    void advanced();
+    void finished();
+
+private:
+    void addSome();
+    void end();
+
+    WorkspaceStore *m_store = nullptr;
+    /// The new database; null if there is none.
+    QUuid m_table;
+    QList<DBRow> m_records;
+    qsizetype m_added = 0;
+};

@@ -84,8 +84,9 @@ void importRecords(Comparison &comparison, const CsvTable &file, Comparison::Dur
 }
 } // namespace
 
-int main(
+int main(int argc, char *argv[])
 {
+    const QCoreApplication application(argc, argv);
     const QByteArray file = works(fileSize);
     Comparison comparison;
     CsvTable table;

@@ -15,7 +15,7 @@ QtObject {
 
     function remember() {
         const active = popup.parent?.Window.activeFocusItem ?? null
-        const menu = active?.menu as OVMenu
+        const menu = (active as T.MenuItem)?.menu as OVMenu
         const bar = popup.parent?.menuBar as OVMenuBar
         if (bar) {
             item = bar.keys.origin

@@ -3,6 +3,8 @@
 #include "Store/DatabaseOperations.h"
 #include "Support/OVDate.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -77,6 +79,21 @@ void SampleDatabases::ordinary(WorkspaceStore &store)
     add(store, everyType(states), 20,
         {u"Reading room"_s, u"Letters from the harbour"_s, u"Field notes"_s, u"A short history of tea"_s,
          u"Gardens in winter"_s, u"What we read together"_s});
+}
+
+void SampleDatabases::ruled(WorkspaceStore &store)
+{
+    ordinary(store);
+    const DatabaseTable table = store.list<DatabaseTable>().at(0);
+    const auto id = [&table](DBPropertyType type) {
+        return std::ranges::find(table.properties, type, &DBProperty::type)->id;
+    };
+    DatabaseOperations::changeView(store, table.id, table.views.first().id, u"Change"_s, [&](DBView &view) {
+        view.filters = {{store.makeId(), id(DBPropertyType::text), FilterOp::isNot, u"Field notes"_s},
+                        {store.makeId(), id(DBPropertyType::number), FilterOp::isNotEmpty, QString()}};
+        view.sorts = {{store.makeId(), id(DBPropertyType::date), true}};
+        view.groupBy = id(DBPropertyType::status);
+    });
 }
 
 void SampleDatabases::crowded(WorkspaceStore &store)

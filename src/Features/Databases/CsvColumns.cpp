@@ -15,6 +15,9 @@ using Type = DBPropertyType;
 QByteArrayView trimmed(QByteArrayView text)
 {
     static constexpr QByteArrayView noBreakSpace("\xC2\xA0");
+    const auto mayBeSpace = [](char byte) { return byte <= ' '; };
+    if (text.isEmpty() || !(mayBeSpace(text.front()) || mayBeSpace(text.back())))
+        return text;
     text = text.trimmed();
     while (text.startsWith(noBreakSpace))
         text = text.sliced(noBreakSpace.size()).trimmed();

@@ -9,6 +9,7 @@
 #include <array>
 #include <csv.h>
 #include <memory>
+#include <simdjson.h>
 
 namespace
 {
@@ -48,7 +49,8 @@ QByteArray toUtf8(const QByteArray &file)
     const QByteArray text = file.startsWith("\xEF\xBB\xBF")
                                 ? QByteArray::fromRawData(file.constData() + markSize, file.size() - markSize)
                                 : file;
-    return text.isValidUtf8() ? text : fromWindows1252(text).toUtf8();
+    const bool isUtf8 = simdjson::validate_utf8(text.constData(), std::size_t(text.size()));
+    return isUtf8 ? text : fromWindows1252(text).toUtf8();
 }
 
 /// Gathers what the parser finds.

@@ -10,14 +10,15 @@ OVPressable {
     required property int column
     property var property: records.columnsRevision >= 0 ? records.column(column) : null
 
-    /// The column went this many places to the right, and with it what the user works at.
+    /// Places to the right that the column has gone since the menu was opened.
+    property int places: 0
+
+    /// The column has gone so many places to the right, and with it what the user works at.
     signal moved(places: int)
 
-    function move(places: int) {
-        if (!records.canMoveColumn(column, places))
-            return
-        records.moveColumn(column, places)
-        moved(places)
+    function move(step: int) {
+        records.moveColumn(column + places, step)
+        places += step
     }
 
     function openMenu() {
@@ -74,6 +75,12 @@ OVPressable {
     OVMenu {
         id: menu
         name: root.text
+        onClosed: {
+            const gone = root.places
+            root.places = 0
+            if (gone !== 0)
+                root.moved(gone)
+        }
 
         OVMenuItem {
             shortcutText: "F2"
@@ -99,14 +106,14 @@ OVPressable {
         OVMenuSeparator { }
 
         OVMenuItem {
-            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, -1)
+            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column + root.places, -1)
             symbol: "arrow.left"
             text: qsTr("Move left")
             onTriggered: root.move(-1)
         }
 
         OVMenuItem {
-            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column, 1)
+            enabled: root.records.columnsRevision >= 0 && root.records.canMoveColumn(root.column + root.places, 1)
             symbol: "arrow.right"
             text: qsTr("Move right")
             onTriggered: root.move(1)

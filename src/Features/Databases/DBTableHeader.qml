@@ -48,6 +48,10 @@ FocusScope {
             if (activeFocus)
                 root.currentColumn = column
         }
+        onMoved: places => {
+            root.currentColumn = column
+            root.go(places)
+        }
     }
 
     Item {

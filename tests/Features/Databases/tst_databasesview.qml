@@ -1,5 +1,7 @@
 import QtQuick
 import Orvel.Databases
+import Orvel.DesignSystem
+import Orvel.Session
 import Orvel.Testing
 
 /// The real screen, worked with real mouse and key events; what counts in the end is what stands in the file.
@@ -42,6 +44,21 @@ Item {
             open()
             root.view.viewModel.newFromTemplate(templateID)
             waitForRendering(root.view)
+        }
+
+        /// Goes down the menu that is open to this entry and takes it.
+        function pick(name) {
+            for (let i = 0; i < 12 && focused()?.text !== name; ++i)
+                keyClick(Qt.Key_Down)
+            compare(focused().text, name)
+            keyClick(Qt.Key_Return)
+        }
+
+        /// Goes on by Tab.
+        function tabTo(name) {
+            for (let i = 0; i < 40 && focused()?.text !== name; ++i)
+                keyClick(Qt.Key_Tab)
+            compare(focused().text, name)
         }
 
         /// The visible cell with this name.
@@ -183,6 +200,102 @@ Item {
             compare(values("State"), "Finished")
             // The head of the column has the keyboard again.
             tryCompare(focused(), "text", "State")
+        }
+
+        function test_aColumnIsMovedAgainAndAgain() {
+            openTemplate("projectTracker")
+            const order = () => saved().databases[0].properties.map(property => property.name).join()
+            tryVerify(() => find("Owner") !== null)
+            find("Owner").forceActiveFocus(Qt.TabFocusReason)
+            for (const expected of ["Item,Status,Owner,Due,Progress", "Item,Status,Due,Owner,Progress"]) {
+                keyClick(Qt.Key_Space)
+                tryVerify(() => find("Move right", root.Window.contentItem) !== null)
+                pick("Move right")
+                tryVerify(() => order() === expected)
+                tryVerify(() => focused().text === "Owner")
+            }
+        }
+
+        /// What a user does with a new database, by keys alone, and then takes back step by step.
+        function test_aDatabaseIsBuiltByKeysAlone() {
+            const table = () => saved().databases[0]
+            const view = () => table().views[0]
+            const shown = text => tryVerify(() => find(text, root.Window.contentItem) !== null)
+            const gone = text => tryVerify(() => find(text, root.Window.contentItem) === null)
+            const chooseIn = (button, entry) => {
+                tabTo(button)
+                keyClick(Qt.Key_Space)
+                tryVerify(() => focused().text !== button)
+                pick(entry)
+                // The button has the keyboard again.
+                tryVerify(() => focused() instanceof OVMenuButton)
+            }
+            open()
+            keyClick(Qt.Key_Space)
+            tryVerify(() => focused().text === "New database")
+            for (let i = 0; i < 3 && focused().text !== "From a template…"; ++i)
+                keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Right)
+            tryVerify(() => focused().text.endsWith("Homework tracker"))
+            keyClick(Qt.Key_Return)
+            tryVerify(() => saved().databases.length === 1)
+            compare(table().properties.length, 5)
+
+            tabTo("Property")
+            keyClick(Qt.Key_Space)
+            shown("Add property")
+            type("Score")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => table().properties.length === 6)
+            gone("Add property")
+
+            tabTo("New record")
+            keyClick(Qt.Key_Return)
+            for (let row = 9; row >= 0; --row) {
+                type("Row " + row)
+                keyClick(Qt.Key_Return)
+                if (row > 0)
+                    keyClick(Qt.Key_Return, Qt.ControlModifier)
+            }
+            const names = rows => rows.map(row => "Row " + row).join("|")
+            compare(values("Name"), names([9, 8, 7, 6, 5, 4, 3, 2, 1, 0]))
+
+            // A block from another program, from the third row on.
+            keyClick(Qt.Key_Home, Qt.ControlModifier)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Down)
+            Composer.copy("Tea\tmaths\nSea\tart\n")
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            compare(values("Name"), names([9, 8]) + "|Tea|Sea|" + names([5, 4, 3, 2, 1, 0]))
+            compare(values("Subject"), "||Maths|art||||||")
+
+            keyClick(Qt.Key_Tab)
+            tabTo("View settings")
+            keyClick(Qt.Key_Space)
+            chooseIn("Property", "Name")
+            tabTo("is")
+            keyClick(Qt.Key_Space)
+            tryVerify(() => find("is not", root.Window.contentItem) !== null)
+            pick("contains")
+            tryVerify(() => focused().text === "contains")
+            keyClick(Qt.Key_Tab)
+            type("row")
+            keyClick(Qt.Key_Return)
+            tryVerify(() => view().filters.length === 1)
+            tryVerify(() => find("8 of 10 records") !== null)
+            chooseIn("+ Add sort", "Name")
+            tryVerify(() => view().sorts.length === 1)
+            chooseIn("None", "Status")
+            tryVerify(() => (view().groupBy ?? "") !== "")
+            tabTo("View settings, 2")
+            keyClick(Qt.Key_Space)
+            tryVerify(() => findCell("Name: Row 0") !== null)
+            verify(findCell("Name: Row 0").mapToItem(root, 0, 0).y < findCell("Name: Row 9").mapToItem(root, 0, 0).y)
+
+            for (let i = 0; i < 60 && saved().databases.length > 0; ++i)
+                Orvel.undo.undo()
+            compare(saved().databases.length, 0)
+            compare(saved().rows.length, 0)
         }
 
         function test_nothingHoldsTheKeyboardUnseen() {

@@ -5,13 +5,14 @@
 QList<Picture> galleryPictures()
 {
     const QByteArray page = "import Orvel.Gallery\nGallery { }";
+    const QByteArray charts = "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Gallery\n"
+                              "Rectangle { color: Theme.ovCanvas; ChartsSection { width: parent.width } }";
+    const Content none = [](WorkspaceStore &, UIState &) {};
     QList<Picture> pictures;
-    for (const auto &[name, look] : looks())
-        pictures.append({QStringLiteral("gallery-") + name,
-                         page,
-                         {1240, 1500},
-                         [](WorkspaceStore &, UIState &) {},
-                         look});
+    for (const auto &[name, look] : looks()) {
+        pictures.append({QStringLiteral("gallery-") + name, page, {1240, 1500}, none, look});
+        pictures.append({QStringLiteral("gallery-charts-") + name, charts, {1240, 1500}, none, look});
+    }
     return pictures;
 }
 

@@ -56,6 +56,16 @@ OVChart {
         width: chart.diameter
         y: (chart.height - height) / 2
 
+        // Where there is nothing, its place is shown.
+        Rectangle {
+            anchors.fill: parent
+            border.color: Theme.ovHover
+            border.width: chart.radius * (1 - chart.innerRadius)
+            color: "transparent"
+            radius: chart.radius
+            visible: chart.total <= 0
+        }
+
         Repeater {
             model: chart.points.length
 

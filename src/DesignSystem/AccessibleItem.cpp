@@ -137,7 +137,8 @@ QAccessible::State AccessibleItem::state() const
     state.focusable = item()->activeFocusOnTab() || says("focusable");
     state.focused = item()->hasActiveFocus();
     state.checkable = says("checkable");
-    state.checked = says("checked");
+    // A button that is checked is a tab that is selected.
+    state.checked = says("checked") && role() != QAccessible::PageTab;
     state.selectable = says("selectable");
     state.selected = says("selected");
     state.pressed = says("pressed");

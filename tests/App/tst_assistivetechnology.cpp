@@ -34,8 +34,28 @@ private:
             QDir(data).mkpath(u"Orvel"_s);
             QFile file(data + u"/Orvel/workspace.json"_s);
             QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(SnapshotCodec::encode(SampleSnapshot::make()));
+            file.write(SnapshotCodec::encode(workspace()));
         });
+    }
+    /// The sample, with a page of every kind of block and a table.
+    static Snapshot workspace()
+    {
+        Snapshot sample = SampleSnapshot::make();
+        Page page{.id = SampleSnapshot::id(30), .title = u"Kinds"_s, .isFavorite = true};
+        for (const auto &kind : enumCases<BlockType>())
+            page.content.append({.id = QUuid::createUuid(), .type = kind.value, .text = u"words"_s});
+        sample.list<Page>().append(page);
+        sample.list<DatabaseTable>()[0].views.prepend(
+            {.id = SampleSnapshot::id(31), .name = u"All"_s, .type = DBViewType::table});
+        return sample;
+    }
+    /// Waits until all of these are shown; returns what is not, and what is shown instead.
+    QByteArray waitForAll(const QStringList &expected) const
+    {
+        QString lacking;
+        if (QTest::qWaitFor([&] { return (lacking = missing(expected)).isEmpty(); }, 15'000))
+            return {};
+        return QStringLiteral("%1 in %2").arg(lacking, m_client->texts().join(u"; "_s)).toUtf8();
     }
 
 private slots:
@@ -129,6 +149,12 @@ private slots:
                          u"list item Slide 1: 72 | Rate selected"_s, u"canvas Slide"_s});
         add(u"Habits"_s, {u"list item Read, 0/5 this week"_s, u"push button Mark done: Read"_s});
         add(u"Insights"_s, {u"chart Task status"_s, u"list item Done, 1"_s});
+        add(u"Reader"_s, {u"list item P & P, Austen, Jane selected"_s, u"radio button Library checked"_s});
+        add(u"Kinds"_s,
+            {u"text Title"_s, u"push button Favorite checked"_s, u"list item Text"_s, u"text Text"_s,
+             u"list item Heading 1"_s, u"text Numbered list"_s, u"check box words"_s, u"text Quote"_s,
+             u"button menu Tone: info"_s, u"button menu Language: Swift"_s, u"push button Run code"_s,
+             u"text Code"_s, u"separator Divider"_s, u"push button Add a block"_s});
     }
     void everyRowSaysWhatItIs()
     {
@@ -140,8 +166,8 @@ private slots:
         } else {
             QVERIFY(press(u"list item "_s + place));
         }
-        for (const QString &row : qAsConst(rows))
-            QVERIFY2(!m_client->waitFor(row).isEmpty(), qPrintable(row));
+        const QByteArray lacking = waitForAll(rows);
+        QVERIFY2(lacking.isEmpty(), lacking.constData());
         // What a row is made of is not told beside it once more.
         QVERIFY(!m_client->texts().contains(u"label "_s + place));
     }
@@ -154,6 +180,47 @@ private slots:
         QVERIFY(press(u"list item Habits"_s));
         QVERIFY(press(u"push button Mark done: Read"_s));
         QVERIFY(!m_client->waitFor(u"panel Done today, 1/1"_s).isEmpty());
+        QVERIFY(press(u"list item Databases"_s));
+        QVERIFY(press(u"list item Sources"_s));
+        const QByteArray lacking = waitForAll({u"list item Sources selected"_s, u"page tab All selected"_s,
+                                               u"button menu State"_s, u"cell State: Done"_s});
+        QVERIFY2(lacking.isEmpty(), lacking.constData());
+        QVERIFY(press(u"page tab By day"_s));
+        QVERIFY(!m_client->waitFor(u"page tab By day selected"_s).isEmpty());
+        QVERIFY(press(u"page tab All"_s));
+        QVERIFY(!m_client->waitFor(u"page tab All selected"_s).isEmpty());
+        QVERIFY(press(u"push button New record"_s));
+        QVERIFY(!m_client->waitFor(u"label 2 records"_s).isEmpty());
+    }
+
+    void pressingInTheSettingsActs()
+    {
+        QVERIFY(press(u"push button Settings"_s));
+        const QByteArray lacking =
+            waitForAll({u"list Sections"_s, u"list item Themes selected"_s, u"heading Themes"_s,
+                        u"radio button Ember checked"_s, u"panel Accent"_s, u"radio button Mist checked"_s});
+        QVERIFY2(lacking.isEmpty(), lacking.constData());
+        QVERIFY(press(u"radio button Teal"_s));
+        QVERIFY(!m_client->waitFor(u"radio button Teal checked"_s).isEmpty());
+        QVERIFY(press(u"list item Navigation modules"_s));
+        QVERIFY(press(u"check box Reader checked"_s));
+        QVERIFY(!m_client->waitFor(u"check box Reader"_s).isEmpty());
+    }
+
+    void pressingInThePaletteActs()
+    {
+        QVERIFY(press(u"list item Search, Ctrl K"_s));
+        const QByteArray lacking = waitForAll({u"dialog Command palette"_s, u"list Results"_s,
+                                               u"heading QUICK LINKS"_s, u"list item Calendar"_s});
+        QVERIFY2(lacking.isEmpty(), lacking.constData());
+        // The sidebar behind it has a row of this name, too.
+        const QList<AssistiveClient::Seen> all = m_client->all();
+        const auto row = std::find_if(all.rbegin(), all.rend(), [](const AssistiveClient::Seen &seen) {
+            return seen.text == u"list item Habits"_s;
+        });
+        QVERIFY(row != all.rend() && m_client->press(row->path));
+        QVERIFY(!m_client->waitFor(u"list item Habits selected"_s).isEmpty());
+        QVERIFY(!m_client->texts().contains(u"dialog Command palette"_s));
     }
 };
 

@@ -41,6 +41,7 @@ Flow {
             checked: index === root.viewModel.viewRow
             text: name
             width: Math.min(implicitWidth, root.width)
+            Accessible.selected: checked
             OVAccessible.role: Accessible.PageTab
             Keys.onLeftPressed: root.go(-1)
             Keys.onRightPressed: root.go(1)

@@ -90,12 +90,12 @@ Item {
         }
 
         OVIconButton {
-            color: root.header.isFavorite ? Theme.ovWarning : Theme.ovInkSecondary
-            filled: root.header.isFavorite
+            checked: root.header.isFavorite
+            color: checked ? Theme.ovWarning : Theme.ovInkSecondary
             symbol: "star"
             text: qsTr("Favorite")
             Accessible.checkable: true
-            Accessible.checked: root.header.isFavorite
+            Accessible.checked: checked
             onClicked: root.header.toggleFavorite()
         }
 

@@ -24,10 +24,11 @@ void ShownFinder::setActive(bool active)
 
 void ShownFinder::tell(bool isShown)
 {
-    if (!m_session || !m_finder)
+    if (!m_session)
         return;
     QList<QPointer<TextFinder>> &shown = m_session->shownFinders();
-    shown.removeAll(m_finder);
-    if (isShown)
+    // A finder may go before this does, and would hide those that are still shown.
+    shown.removeIf([this](const auto &each) { return !each || each == m_finder; });
+    if (isShown && m_finder)
         shown.append(m_finder);
 }

@@ -17,6 +17,12 @@ TextEdit {
     /// The spacing lies below each line; half of it goes above the first.
     readonly property int lead: Math.floor(extraHeight / 2)
     readonly property alias spelling: spelling
+    /// What the Edit menu acts on: its pasting makes the blocks that the clipboard names.
+    readonly property BlockFieldEdit editTarget: BlockFieldEdit {
+        blockID: field.blockID
+        editor: field.editor
+        input: field
+    }
     /// Free room above and below the lines.
     property int gapAbove: Theme.space4
     property int gapBelow: Theme.space4

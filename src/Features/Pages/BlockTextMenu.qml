@@ -13,7 +13,7 @@ OVTextMenu {
     property string link: ""
 
     function paste() {
-        field.editor.paste(field.blockID, field.selectionStart, field.selectionEnd, false)
+        field.editTarget.paste()
     }
 
     storeBacked: true

@@ -643,6 +643,21 @@ Item {
             compare(texts(), "two")
         }
 
+        function test_pastesBlocksFromTheEditMenu() {
+            open([{ text: "one", type: "heading2" }, { text: "two", type: "checklist" }, "", "end"])
+            edit("end", 0)
+            const ids = saved().content.map(block => block.id)
+            const selection = root.view.editor.selection
+            selection.select(ids[0], ids[1])
+            selection.copy()
+            selection.clear()
+            const target = root.view.list.itemAtIndex(2).part.input
+            target.forceActiveFocus()
+            target.editTarget.paste()
+            tryVerify(() => texts() === "one|two|one|two|end")
+            compare(types(), "heading2 checklist heading2 checklist paragraph")
+        }
+
         function test_keepsTheCaretInAnotherType() {
             open(["two words", "end"])
             edit("two words", 4)

@@ -8,10 +8,10 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// Values of the player's enumerations.
-constexpr int noError = 0;
-constexpr int invalidMedia = 7;
 constexpr int infiniteLoops = -1;
+/// The player gives a file up when the window's thread is busy for a third of a second, as it may be while
+/// the first frame is drawn.
+constexpr int mostRetries = 3;
 
 bool isReadable(const QUrl &url)
 {
@@ -25,9 +25,12 @@ bool isReadable(const QUrl &url)
 
 LoopingVideoController::LoopingVideoController(QObject *parent) : QObject(parent)
 {
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(300ms);
+    connect(&m_retry, &QTimer::timeout, this, &LoopingVideoController::retry);
     m_check.setSingleShot(true);
     m_check.setInterval(6s);
-    connect(&m_check, &QTimer::timeout, this, &LoopingVideoController::check);
+    connect(&m_check, &QTimer::timeout, this, [this] { setFailed(m_playerHasError); });
 }
 
 void LoopingVideoController::setPlayer(QObject *player)
@@ -38,6 +41,25 @@ void LoopingVideoController::setPlayer(QObject *player)
     if (m_player)
         m_player->setProperty("loops", infiniteLoops);
     emit playerChanged();
+}
+
+void LoopingVideoController::setPlayerHasError(bool hasError)
+{
+    if (std::exchange(m_playerHasError, hasError) == hasError)
+        return;
+    emit playerHasErrorChanged();
+    if (hasError && m_retries < mostRetries && !m_loadedURL.isEmpty() && !m_failed)
+        m_retry.start();
+}
+
+void LoopingVideoController::retry()
+{
+    ++m_retries;
+    if (!m_player)
+        return;
+    m_player->setProperty("source", QUrl());
+    m_player->setProperty("source", m_loadedURL);
+    follow();
 }
 
 void LoopingVideoController::setPlaying(bool playing)
@@ -70,6 +92,8 @@ void LoopingVideoController::start(const QUrl &url)
 void LoopingVideoController::stop()
 {
     m_check.stop();
+    m_retry.stop();
+    m_retries = 0;
     if (m_player && !m_loadedURL.isEmpty()) {
         QMetaObject::invokeMethod(m_player, "stop");
         m_player->setProperty("source", QUrl());
@@ -82,12 +106,6 @@ void LoopingVideoController::follow()
 {
     if (m_player && !m_loadedURL.isEmpty() && !m_failed)
         QMetaObject::invokeMethod(m_player, m_isPlaying ? "play" : "pause");
-}
-
-void LoopingVideoController::check()
-{
-    setFailed(m_player && (m_player->property("error").toInt() != noError ||
-                           m_player->property("mediaStatus").toInt() == invalidMedia));
 }
 
 void LoopingVideoController::setLoadedURL(const QUrl &url)

@@ -13,6 +13,9 @@ class LoopingVideoController : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QObject *player READ player WRITE setPlayer NOTIFY playerChanged FINAL)
+    /// Whether the player has met an error, as the view sees it, which knows the player's type.
+    Q_PROPERTY(
+        bool playerHasError READ playerHasError WRITE setPlayerHasError NOTIFY playerHasErrorChanged FINAL)
     /// What is played; empty for nothing.
     Q_PROPERTY(QUrl loadedURL READ loadedURL NOTIFY loadedURLChanged FINAL)
     /// Follows the stage: a paused file holds its picture.
@@ -25,6 +28,8 @@ public:
 
     QObject *player() const { return m_player; }
     void setPlayer(QObject *player);
+    bool playerHasError() const { return m_playerHasError; }
+    void setPlayerHasError(bool hasError);
     const QUrl &loadedURL() const { return m_loadedURL; }
     bool isPlaying() const { return m_isPlaying; }
     void setPlaying(bool playing);
@@ -36,19 +41,23 @@ public:
 
 signals:
     void playerChanged();
+    void playerHasErrorChanged();
     void loadedURLChanged();
     void playingChanged();
     void failedChanged();
 
 private:
     void follow();
-    void check();
+    void retry();
     void setLoadedURL(const QUrl &url);
     void setFailed(bool failed);
 
     QPointer<QObject> m_player;
+    bool m_playerHasError = false;
     QUrl m_loadedURL;
     bool m_isPlaying = true;
     bool m_failed = false;
+    int m_retries = 0;
+    QTimer m_retry;
     QTimer m_check;
 };

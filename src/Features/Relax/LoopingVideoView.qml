@@ -26,6 +26,8 @@ Item {
         id: controller
         isPlaying: root.isPlaying
         player: mediaPlayer
+        playerHasError: mediaPlayer.error !== MediaPlayer.NoError
+                        || mediaPlayer.mediaStatus === MediaPlayer.InvalidMedia
     }
 
     VideoOutput {

@@ -25,8 +25,6 @@ class FakePlayer : public QObject
     Q_OBJECT
     Q_PROPERTY(QUrl source MEMBER source)
     Q_PROPERTY(int loops MEMBER loops)
-    Q_PROPERTY(int error MEMBER error)
-    Q_PROPERTY(int mediaStatus MEMBER mediaStatus)
 
 public:
     Q_INVOKABLE void play() { calls.append(u"play"_s); }
@@ -35,8 +33,6 @@ public:
 
     QUrl source;
     int loops = 1;
-    int error = 0;
-    int mediaStatus = 0;
     QStringList calls;
 };
 
@@ -149,6 +145,13 @@ private slots:
         player.calls.clear();
         controller.start(QUrl(u"https://example.org/sea.mp4"_s));
         QCOMPARE(player.calls, (QStringList{u"stop"_s, u"pause"_s}));
+        // What the player gave up is begun again.
+        controller.setPlaying(true);
+        player.calls.clear();
+        controller.setPlayerHasError(true);
+        QTRY_COMPARE(player.calls, QStringList{u"play"_s});
+        controller.setPlayerHasError(false);
+        QVERIFY(!controller.hasFailed());
         controller.stop();
         QVERIFY(player.source.isEmpty() && controller.loadedURL().isEmpty());
 
@@ -183,6 +186,9 @@ private slots:
 
         view->rootObject()->setProperty("isPlaying", false);
         QTRY_COMPARE(media->property("playbackState").toInt(), 2);
+        // The look at it after six seconds finds nothing wrong.
+        QTest::qWait(7000);
+        QVERIFY(!shows(*view, u"This file can't be played here."_s));
         const auto held = media->property("position");
         QTest::qWait(200);
         QCOMPARE(media->property("position"), held);

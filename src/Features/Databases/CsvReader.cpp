@@ -9,6 +9,7 @@
 #include <array>
 #include <csv.h>
 #include <memory>
+#include <optional>
 #include <simdjson.h>
 
 namespace
@@ -39,11 +40,19 @@ QString fromWindows1252(const QByteArray &file)
     return text;
 }
 
+/// The encoding that the file's mark tells, or its first letter in UTF-16 without a mark.
+std::optional<QStringConverter::Encoding> encodingOf(const QByteArray &file)
+{
+    const auto marked = QStringConverter::encodingForData(file);
+    if (marked || file.size() < 2 || (file[0] == 0) == (file[1] == 0))
+        return marked;
+    return file[0] == 0 ? QStringConverter::Utf16BE : QStringConverter::Utf16LE;
+}
+
 /// Shares the text with the file where that is possible, and holds as long as it.
 QByteArray toUtf8(const QByteArray &file)
 {
-    if (const auto encoding = QStringConverter::encodingForData(file);
-        encoding && *encoding != QStringConverter::Utf8)
+    if (const auto encoding = encodingOf(file); encoding && *encoding != QStringConverter::Utf8)
         return QString(QStringDecoder(*encoding).decode(file)).toUtf8();
     constexpr qsizetype markSize = 3;
     const QByteArray text = file.startsWith("\xEF\xBB\xBF")

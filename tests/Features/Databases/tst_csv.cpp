@@ -45,6 +45,8 @@ private slots:
         QTest::newRow("UTF-8 with its mark") << "\xEF\xBB\xBF" + text.toUtf8();
         QTest::newRow("UTF-16, little end first") << encoded(QStringConverter::Utf16LE, "\xFF\xFE"_ba);
         QTest::newRow("UTF-16, big end first") << encoded(QStringConverter::Utf16BE, "\xFE\xFF"_ba);
+        QTest::newRow("UTF-16 without a mark") << encoded(QStringConverter::Utf16LE, {});
+        QTest::newRow("UTF-16 without a mark, big end first") << encoded(QStringConverter::Utf16BE, {});
         QTest::newRow("line feeds alone") << QString(text).replace(u"\r\n"_s, u"\n"_s).toUtf8();
         QTest::newRow("without a last line end") << text.toUtf8().chopped(2);
         QString semicolons = text, tabs = text;

@@ -1,6 +1,7 @@
 #include "Features/Calendar/ICalendarReader.h"
 #include "Features/Calendar/ICalendarWriter.h"
 #include "Harness/Scene.h"
+#include "Harness/WorkspaceGenerator.h"
 
 #include <QGuiApplication>
 
@@ -9,7 +10,6 @@
 
 namespace
 {
-constexpr int manyCount = 10'000;
 constexpr int fewCount = 10;
 
 /// As many events as tasks with due dates, spread over a year around today.
@@ -58,7 +58,7 @@ private:
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
-    const Snapshot workspace = workspaceOf(manyCount);
+    const Snapshot workspace = WorkspaceGenerator::ofBusyYears();
     CalendarScene many(workspace);
     CalendarScene few(workspaceOf(fewCount));
     const auto milliseconds = [](double count) { return Comparison::Duration(count); };

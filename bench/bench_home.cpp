@@ -7,9 +7,6 @@
 
 namespace
 {
-constexpr int projectCount = 200;
-constexpr int recordCount = 10'000;
-
 /// Tasks, spread over the projects, and as many pages.
 Snapshot workspace(int projects, int records)
 {
@@ -26,6 +23,12 @@ Snapshot workspace(int projects, int records)
     for (qsizetype i = 0; i < tasks.size(); ++i)
         tasks[i].projectID = snapshot.list<Project>().at(i % projects).id;
     return snapshot;
+}
+
+QByteArray detailOf(const Snapshot &workspace)
+{
+    return "import Orvel.Projects\nProjectDetailView { focus: true; projectID: \"" +
+           workspace.list<Project>().first().id.toByteArray() + "\" }";
 }
 
 /// The dashboard with the focus in its quick capture.
@@ -65,15 +68,15 @@ void compare(Comparison &comparison, const char *what, int rounds, double share,
 int main(int argc, char *argv[])
 {
     const QGuiApplication application(argc, argv);
-    const Snapshot full = workspace(projectCount, recordCount);
+    const Snapshot full = WorkspaceGenerator::ofBusyYears();
     const Snapshot small = workspace(4, 10);
     Comparison comparison;
     const std::pair<const char *, QByteArray> screens[]{
         {"open 200 projects with 10,000 tasks, against 4 with 10, half of the times",
          "import Orvel.Projects\nProjectsView { focus: true }"},
-        {"open the dashboard, 10,000 tasks and pages against 10, half of the times",
+        {"open the dashboard over 10 MB, against 10 tasks and pages, half of the times",
          "import Orvel.Dashboard\nDashboardView { focus: true }"},
-        {"open Today, 10,000 tasks and pages against 10, half of the times",
+        {"open Today over 10 MB, against 10 tasks and pages, half of the times",
          "import Orvel.Today\nTodayView { focus: true }"},
     };
     for (const auto &[what, source] : screens) {
@@ -81,6 +84,12 @@ int main(int argc, char *argv[])
         Scene few(small, source);
         compare(comparison, what, 20, 0.5, 100, [&] { return many.open(); }, [&] { return few.open(); });
     }
+
+    Scene busyProject(full, detailOf(full));
+    Scene quietProject(small, detailOf(small));
+    compare(
+        comparison, "open a project of 200 with 10,000 tasks, against one of 4 with 10, half of the times",
+        20, 0.5, 100, [&] { return busyProject.open(); }, [&] { return quietProject.open(); });
 
     Capture many(full);
     Capture few(small);

@@ -39,6 +39,13 @@ T.AbstractButton {
         popup.open()
     }
 
+    /// Ctrl+Return is left to the form that the field is in.
+    function openBy(event: var) {
+        event.accepted = !(event.modifiers & Qt.ControlModifier)
+        if (event.accepted)
+            open()
+    }
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(compact ? Theme.chipHeight : Theme.fieldHeight, implicitContentHeight + Theme.space8)
     horizontalPadding: Theme.space12
@@ -50,8 +57,8 @@ T.AbstractButton {
 
     Accessible.onPressAction: if (enabled) clicked()
     Accessible.name: name !== "" ? name + ": " + text : text
-    Keys.onReturnPressed: open()
-    Keys.onEnterPressed: open()
+    Keys.onReturnPressed: event => openBy(event)
+    Keys.onEnterPressed: event => openBy(event)
     Keys.onDownPressed: open()
     onClicked: open()
 

@@ -37,6 +37,13 @@ T.AbstractButton {
         clicked()
     }
 
+    /// Ctrl+Return is left to the form that the control is in.
+    function activateBy(event: var) {
+        event.accepted = !(event.modifiers & Qt.ControlModifier)
+        if (event.accepted)
+            activate()
+    }
+
     // Who presses knows already, and may get a menu where the tip would show.
     function hideTip() {
         if (tip)
@@ -62,8 +69,8 @@ T.AbstractButton {
         radius: root.radius
     }
 
-    Keys.onReturnPressed: activate()
-    Keys.onEnterPressed: activate()
+    Keys.onReturnPressed: event => activateBy(event)
+    Keys.onEnterPressed: event => activateBy(event)
     onPressed: hideTip()
     onTipWantedChanged: {
         if (tipWanted && !tip)

@@ -26,6 +26,12 @@ FocusScope {
         showSelected()
     }
 
+    /// Puts the caret into the form, which may be above what is shown.
+    function focusForm() {
+        list.contentY = list.originY
+        header.focusForm()
+    }
+
     function focusDays(reason: int) {
         if (calendar.showsGrid || calendar.isEmpty)
             body.days.forceActiveFocus(reason)
@@ -136,7 +142,7 @@ FocusScope {
                         selectedIndex: calendar.selectedCell
                         selectedText: calendar.selectedText
                         weekdays: calendar.mode === "month" ? calendar.weekdaySymbols : []
-                        onAddRequested: header.focusForm()
+                        onAddRequested: root.focusForm()
                         onMoved: days => root.turn(() => calendar.moveSelection(days))
                         onOpenRequested: root.turn(() => calendar.openSelected())
                         onTapped: index => root.turn(() => calendar.selectCell(index))
@@ -159,7 +165,7 @@ FocusScope {
                         message: calendar.mode === "agenda" ? qsTr("Add an event above or give a task a due date.") : ""
                         title: calendar.mode === "agenda" ? qsTr("Nothing in the next 30 days")
                                                           : qsTr("Nothing scheduled for this day.")
-                        onAddRequested: header.focusForm()
+                        onAddRequested: root.focusForm()
                     }
                 }
             }
@@ -176,7 +182,7 @@ FocusScope {
             DelegateChoice {
                 delegate: CalendarItemRow {
                     id: row
-                    onAddRequested: header.focusForm()
+                    onAddRequested: root.focusForm()
                     onDeleteRequested: root.remove(row)
                     onTaskRequested: Orvel.ui.select("tasks")
                 }

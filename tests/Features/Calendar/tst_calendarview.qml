@@ -89,6 +89,17 @@ Item {
             verify(!find("Time").checked)
             keyClick(Qt.Key_Return)
             compare(saved().length, 2)
+            for (const stops of [1, 2]) {
+                type("again")
+                for (let i = 0; i < stops; ++i) {
+                    keyClick(Qt.Key_Tab)
+                    if (i === 0)
+                        keyClick(Qt.Key_Space)
+                }
+                keyClick(Qt.Key_Return, Qt.ControlModifier)
+                compare(saved().length, 2 + stops)
+                compare(focusedName(), "Event title")
+            }
         }
 
         function test_goesThroughTheDaysByKeys() {
@@ -176,6 +187,10 @@ Item {
             const cell = find("Friday, March 27, 2026", focused())
             const bottom = cell.mapToItem(root.view, 0, cell.height).y
             verify(bottom <= root.height, bottom)
+            verify(list().contentY > list().originY)
+            keyClick(Qt.Key_Return)
+            compare(focusedName(), "Event title")
+            verify(focused().mapToItem(root.view, 0, 0).y >= 0)
         }
 
         function test_deletesAndUndoes() {

@@ -28,6 +28,7 @@ QList<Picture> practicePictures()
             pictures.append(
                 {u"practice-"_s + name + u'-' + lookName, page, isSmall ? smallSize : size, content, look});
         };
+        add(u"focus-ready"_s, screenPage("Focus", "FocusView", {}), windowSize, sample);
         add(u"focus-running"_s, screenPage("Focus", "FocusView", start), windowSize, sample);
         add(u"focus-paused"_s, screenPage("Focus", "FocusView", pause), windowSize, none);
         add(u"habits-none"_s, habits, windowSize, none);
@@ -35,6 +36,7 @@ QList<Picture> practicePictures()
         add(u"habits-forty"_s, habits, windowSize, with(SamplePractice::fortyHabits));
         add(u"habits-composer"_s, screenPage("Habits", "HabitsView", "view.compose()"), windowSize,
             with(SamplePractice::threeHabits));
+        add(u"insights-empty"_s, insights, {1240, 1200}, none);
         add(u"insights-ordinary"_s, insights, {1240, 1200}, with(SamplePractice::ordinary));
         add(u"insights-single"_s, insights, {1240, 1200}, with(SamplePractice::single));
         add(u"panel"_s, panel, {480, 860}, sample);

@@ -44,7 +44,7 @@ private:
     void end(HttpResult result)
     {
         deleteLater();
-        // Whoever is called may delete the owner, and this with it.
+        // The callback may delete the owner, and this with it.
         const Done done = std::exchange(m_done, nullptr);
         done(std::move(result));
     }

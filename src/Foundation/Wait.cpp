@@ -38,7 +38,7 @@ private:
     {
         m_notifier.setEnabled(false);
         deleteLater();
-        // Whoever is called may delete the owner, and this with it.
+        // The callback may delete the owner, and this with it.
         const auto then = std::exchange(m_then, nullptr);
         then();
     }

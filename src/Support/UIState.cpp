@@ -13,7 +13,7 @@ void UIState::set(T &member, const T &value, void (UIState::*changed)())
 
 void UIState::setSelection(const Destination &selection)
 {
-    // Who goes to the same place again may have opened another document or deck in it meanwhile.
+    // The same place may meanwhile show another document or deck.
     if (selection.kind == Destination::Kind::codeDocument)
         setCodeDocumentID(selection.id);
     else if (selection.kind == Destination::Kind::deck)

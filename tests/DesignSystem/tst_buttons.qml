@@ -102,7 +102,7 @@ TestCase {
         verify(icon.hovered)
         verify(!tip.shown)
         tryVerify(() => tip.item === null)
-        // It is there again for who comes again.
+        // It shows again when the pointer comes back.
         mouseMove(test, 590, 290)
         tryVerify(() => !icon.hovered)
         mouseMove(icon, 10, 10)

@@ -227,7 +227,7 @@ Item {
             verify(list.currentItem.visualFocus)
         }
 
-        // Whoever clicks twice deletes one: the next item can be clicked only when the pointer has moved.
+        // A double click deletes one: the next item can be clicked only when the pointer has moved.
         function test_deletingByMouseKeepsThePlace_data() {
             return [
                 { tag: "list", view: list, next: 2 },

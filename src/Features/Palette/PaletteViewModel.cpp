@@ -13,7 +13,7 @@ void PaletteViewModel::setUi(UIState *ui)
     if (m_ui)
         m_ui->disconnect(this);
     m_ui = ui;
-    // Who goes somewhere by a key is done with the palette.
+    // A user who goes somewhere else by a key is done with the palette.
     if (m_ui)
         connect(m_ui, &UIState::selectionChanged, this, [this] { m_ui->setSearchPresented(false); });
     emit sourcesChanged();

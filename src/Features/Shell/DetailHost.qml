@@ -7,7 +7,7 @@ import Orvel.Shell
 
 /// The detail pane: one screen at a time, the next one fading in over the last. Focus follows to another place, unless
 /// the user is moving through the places with the keyboard; a screen with a true `wantsKeyboard` takes it even then.
-/// Who goes back to a place finds it as it was left.
+/// Going back to a place shows it as it was left.
 FocusScope {
     id: root
 

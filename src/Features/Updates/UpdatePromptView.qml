@@ -22,7 +22,7 @@ OVSheet {
     maximumWidth: Theme.promptWidth
     closePolicy: installing ? T.Popup.NoAutoClose : T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     accessibleName: heading.text
-    // Whoever is typing when it opens must not restart the program by the next Return or Space.
+    // A user who is typing when it opens must not restart the program by the next Return or Space.
     onOpened: laterButton.forceActiveFocus(Qt.PopupFocusReason)
 
     Column {

@@ -57,7 +57,7 @@ void ManifestRequest::responded(const HttpResult &result)
 void ManifestRequest::end(Result result)
 {
     deleteLater();
-    // Whoever is called may delete the owner, and this with it.
+    // The callback may delete the owner, and this with it.
     if (const auto done = std::exchange(m_done, nullptr))
         done(std::move(result));
 }

@@ -120,7 +120,7 @@ private:
     void finish(const Result &result)
     {
         deleteLater();
-        // Whoever is called may delete the owner, and this with it.
+        // The callback may delete the owner, and this with it.
         if (const Done done = std::exchange(m_done, nullptr))
             done(result);
     }

@@ -281,7 +281,7 @@ void SidebarViewModelTest::deletesPagesAndFolders()
     QVERIFY(m_workspace->store().folders().isEmpty());
     QVERIFY(shown().contains(QStringLiteral("Inside")));
 
-    // Whoever hears of the deletion already finds the window elsewhere.
+    // When the deletion is told, the window already shows another place.
     QObject::connect(&m_workspace->store(), &WorkspaceStore::changed, this,
                      [this] { QCOMPARE(m_workspace->ui().selection(), Destination()); });
     m_sidebar->remove(rowOf(QStringLiteral("Inside")));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/NestedModels.h"
 #include "Foundation/RowChanges.h"
 
 #include <QAbstractListModel>
@@ -7,37 +8,7 @@
 #include <QMetaProperty>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
-
-/// What tells the rows of a list apart: their `id`, a member or a function without arguments, of any type
-/// that QHash takes as a key.
-template <typename Row>
-using RowKey = std::remove_cvref_t<std::invoke_result_t<decltype(&Row::id), const Row &>>;
-
-/// A row of a list as a screen shows it: a gadget whose properties are the roles, with an id and
-/// `operator==`.
-template <typename Row>
-concept KeyedRow = std::default_initializable<Row> && requires(const Row &row, const RowKey<Row> &key) {
-    Row::staticMetaObject;
-    { key == key } -> std::convertible_to<bool>;
-    { row == row } -> std::convertible_to<bool>;
-};
-
-/// The list that a row owns, such as the cards of a column, and the role through which a view gets it as a
-/// model: `static constexpr NestedList nestedList{"cards", &BoardColumn::cards};`
-template <typename Owner, typename Row>
-struct NestedList {
-    const char *role;
-    QList<Row> Owner::*rows;
-
-    using RowType = Row;
-};
-template <typename Owner, typename Row>
-NestedList(const char *, QList<Row> Owner::*) -> NestedList<Owner, Row>;
-
-template <typename Row>
-concept OwnsList = requires { Row::nestedList; };
 
 /// A list model that is given its next rows as a whole and tells views the difference as the fewest removes,
 /// moves, inserts and role changes by id, so that delegates keep their focus, caret and animation. It never
@@ -66,7 +37,7 @@ public:
             return {};
         if constexpr (OwnsList<Row>)
             if (role == nestedRole())
-                return QVariant::fromValue(nestedModel(rowAt(index.row())));
+                return QVariant::fromValue(m_nested.modelOf(rowAt(index.row())));
         const QMetaProperty property = Row::staticMetaObject.property(role - firstRole);
         return property.isValid() ? property.readOnGadget(&rowAt(index.row())) : QVariant();
     }
@@ -150,27 +121,11 @@ private:
         return (slot.isOld ? m_rows : *m_next).at(m_changed.first + slot.index);
     }
 
-    template <typename Owner = Row>
-    using NestedModel = KeyedListModel<typename decltype(Owner::nestedList)::RowType>;
-
-    /// The model of the list that the row owns, made when a view first asks for it.
-    QAbstractItemModel *nestedModel(const Row &row) const
+    void forgetNested([[maybe_unused]] int first, [[maybe_unused]] int last)
     {
-        QAbstractItemModel *&model = m_nested[idOf(row)];
-        if (!model) {
-            auto *const made = new NestedModel<>(&m_nestedModels);
-            made->setRows(row.*Row::nestedList.rows);
-            model = made;
-        }
-        return model;
-    }
-
-    void forgetNested(int first, int last)
-    {
-        // Delegates on their way out still show the list.
-        for (int row = first; row <= last && !m_nested.isEmpty(); ++row)
-            if (QAbstractItemModel *const model = m_nested.take(idOf(rowAt(row))))
-                model->deleteLater();
+        if constexpr (OwnsList<Row>)
+            for (int row = first; row <= last; ++row)
+                m_nested.forget(rowAt(row));
     }
 
     int indexOf(const Key &id) const
@@ -309,8 +264,7 @@ private:
         const QList<int> roles = changedRoles(old, next);
         old = std::move(next);
         if constexpr (OwnsList<Row>)
-            if (QAbstractItemModel *const nested = m_nested.value(idOf(old)))
-                static_cast<NestedModel<> *>(nested)->setRows(old.*Row::nestedList.rows);
+            m_nested.update(old);
         return roles;
     }
 
@@ -334,9 +288,7 @@ private:
     QList<Row> m_rows;
     mutable QHash<Key, int> m_index;
     mutable bool m_isSearched = false;
-    /// Of the rows that own a list and whose list was asked for.
-    mutable QHash<Key, QAbstractItemModel *> m_nested;
-    mutable QObject m_nestedModels;
+    [[no_unique_address]] NestedModels<Row> m_nested;
     /// Set only while a change of order is being announced.
     std::unique_ptr<RowChanges> m_changes;
     Span m_changed;

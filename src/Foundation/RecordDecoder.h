@@ -1,62 +1,14 @@
 #pragma once
 
+#include "Foundation/DecodeContext.h"
 #include "Foundation/EnumTable.h"
-#include "Foundation/FieldList.h"
-#include "Foundation/Timestamp.h"
+#include "Foundation/FieldTable.h"
 
 #include <QList>
 #include <QMap>
-#include <QStringList>
-#include <QUuid>
 
-#include <algorithm>
-#include <array>
-#include <bitset>
-#include <functional>
 #include <optional>
 #include <set>
-#include <simdjson.h>
-
-/// Lets equal short texts read one after the other share their contents: keys of table rows, names of
-/// languages, icons and the like come in thousands.
-class SharedTexts
-{
-public:
-    QString text(std::string_view utf8);
-
-private:
-    /// Longer texts are seldom equal. Ids as text have 36 characters.
-    static constexpr std::size_t longest = 36;
-    static constexpr std::size_t places = 256;
-
-    static std::size_t slot(std::string_view utf8);
-
-    struct Known {
-        std::array<char, longest> utf8;
-        QString text;
-        std::size_t size = longest + 1;
-    };
-    std::array<Known, places> m_known;
-};
-
-/// What a document holds that the records read from it do not: it would be lost if they were written back.
-struct DecodeReport {
-    /// The keys of tolerant records whose values were there but could not be read, each once.
-    QStringList unreadableKeys;
-    /// Whether some object has a key that its record does not know.
-    bool hasUnknownKeys = false;
-
-    void addUnreadable(std::string_view key);
-};
-
-/// What goes along with the reading of one document.
-struct DecodeContext {
-    /// What a fresh record needs when a tolerant one has to be filled up.
-    Timestamp now;
-    std::function<QUuid()> makeId = &QUuid::createUuid;
-    mutable SharedTexts texts = {};
-    mutable DecodeReport report = {};
-};
 
 /// Reads records from parsed JSON by walking their field lists. Every function fills its output and returns
 /// true, or returns false and leaves the output in no particular state. Of a key given twice the last counts.
@@ -116,71 +68,6 @@ template <typename T>
 inline constexpr bool isOptional = false;
 template <typename T>
 inline constexpr bool isOptional<std::optional<T>> = true;
-
-/// The field list as tables.
-template <FieldListed Record>
-struct FieldTable {
-    static constexpr std::size_t size = std::tuple_size_v<decltype(Record::fields())>;
-
-    static constexpr std::array<std::string_view, size> names =
-        std::apply([](const auto &...field) { return std::array{field.name...}; }, Record::fields());
-
-    static std::size_t find(std::string_view name)
-    {
-        return std::size_t(std::ranges::find(names, name) - names.begin());
-    }
-
-    /// The value of each field, as far as the object has it.
-    struct Values {
-        std::array<Element, size> elements;
-        std::bitset<size> present;
-        bool hasUnknownKeys = false;
-    };
-
-    /// Calls `readField` with each field and its value, or null, until one call returns false; tells whether
-    /// none did.
-    static bool readEach(const Values &values, auto readField)
-    {
-        return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
-            return (readField(std::get<Index>(Record::fields()),
-                              values.present[Index] ? &values.elements[Index] : nullptr) &&
-                    ...);
-        }(std::make_index_sequence<size>());
-    }
-
-    /// Nothing if the element is no object.
-    static std::optional<Values> collect(Element json)
-    {
-        simdjson::dom::object object;
-        if (json.get(object) != simdjson::SUCCESS)
-            return std::nullopt;
-        std::optional<Values> values(std::in_place);
-        auto member = object.begin();
-        const auto end = object.end();
-        // Files written by this program have the keys in order, so each is first compared with one name only.
-        const auto takeNext = [&]<std::size_t Index>() {
-            static constexpr std::string_view name = std::get<Index>(Record::fields()).name;
-            if (member == end || member.key() != name)
-                return;
-            values->elements[Index] = member.value();
-            values->present.set(Index);
-            ++member;
-        };
-        [&]<std::size_t... Index>(std::index_sequence<Index...>) {
-            (takeNext.template operator()<Index>(), ...);
-        }(std::make_index_sequence<size>());
-        for (; member != end; ++member) {
-            const std::size_t index = find(member.key());
-            if (index == size) {
-                values->hasUnknownKeys = true;
-                continue;
-            }
-            values->elements[index] = member.value();
-            values->present.set(index);
-        }
-        return values;
-    }
-};
 
 /// A fresh record, as the missing fields of a tolerant one are taken from it. It has no id yet.
 template <FieldListed Record>

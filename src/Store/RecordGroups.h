@@ -42,15 +42,21 @@ public:
         m_isMade = false;
     }
 
-    /// A record came (no `before`), went (no `after`) or was replaced.
-    void update(const Record *before, const Record *after)
+    void insert(const Record &record)
     {
-        if (!m_isMade)
-            return;
-        if (before)
-            take(before->id);
-        if (after)
-            put(*after);
+        if (m_isMade)
+            put(record);
+    }
+    /// A record was replaced by this one with the same id.
+    void replace(const Record &record)
+    {
+        remove(record.id);
+        insert(record);
+    }
+    void remove(const QUuid &id)
+    {
+        if (m_isMade)
+            take(id);
     }
 
     /// The same for many at once, where what they were is not known.

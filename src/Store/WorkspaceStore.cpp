@@ -4,24 +4,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-WorkspaceStore::Groups::Groups(const Clock &clock)
-    : tasksByProject(&TaskItem::projectID),
-      activitiesByProject([](const Activity &activity) { return std::optional(activity.projectID); }),
-      rowsByTable([](const DBRow &row) { return std::optional(row.tableID); }),
-      eventsByDay([&clock](const CalendarEvent &event) {
-          return std::optional(toDateTime(event.date, clock.timeZone()).date());
-      })
-{
-}
-
-void WorkspaceStore::Groups::follow(const WorkspaceStore &store, const ChangeSet &changes)
-{
-    tasksByProject.follow(store.list<TaskItem>(), changes.of<TaskItem>());
-    activitiesByProject.follow(store.list<Activity>(), changes.of<Activity>());
-    rowsByTable.follow(store.list<DBRow>(), changes.of<DBRow>());
-    eventsByDay.follow(store.list<CalendarEvent>(), changes.of<CalendarEvent>());
-}
-
 WorkspaceStore::WorkspaceStore(Options options, QObject *parent)
     : QObject(parent),
       m_options(std::move(options)),
@@ -141,7 +123,7 @@ const UndoStep *WorkspaceStore::undo()
     const UndoStep *const step = m_history.undo(m_lists, m_place(), changes);
     if (!step)
         return nullptr;
-    m_groups.follow(*this, changes);
+    m_groups.follow(m_lists, changes);
     announce(changes);
     return step;
 }
@@ -154,7 +136,7 @@ const UndoStep *WorkspaceStore::redo()
     const UndoStep *const step = m_history.redo(m_lists, changes);
     if (!step)
         return nullptr;
-    m_groups.follow(*this, changes);
+    m_groups.follow(m_lists, changes);
     announce(changes);
     return step;
 }
@@ -166,7 +148,7 @@ void WorkspaceStore::resetEverything(bool keepOnboarding)
     m_history.clear();
     adopt(std::move(empty));
     bookLibrary().deleteAll();
-    m_groups.follow(*this, ChangeSet::reloaded());
+    m_groups.follow(m_lists, ChangeSet::reloaded());
     announce(ChangeSet::reloaded());
     saveNow();
 }

@@ -3,8 +3,8 @@
 #include "Foundation/Clock.h"
 #include "Store/Action.h"
 #include "Store/BookLibrary.h"
-#include "Store/RecordGroups.h"
 #include "Store/SaveScheduler.h"
+#include "Store/WorkspaceGroups.h"
 
 #include <QObject>
 
@@ -99,33 +99,8 @@ public:
     /// Erases the workspace, the texts of the books, the undo history and all settings, and saves.
     void resetEverything(bool keepOnboarding);
 
-    /// Records found by a key they share, kept up with each change.
-    struct Groups {
-        explicit Groups(const Clock &clock);
-
-        void update(const TaskItem *before, const TaskItem *after) { tasksByProject.update(before, after); }
-        void update(const Activity *before, const Activity *after)
-        {
-            activitiesByProject.update(before, after);
-        }
-        void update(const DBRow *before, const DBRow *after) { rowsByTable.update(before, after); }
-        void update(const CalendarEvent *before, const CalendarEvent *after)
-        {
-            eventsByDay.update(before, after);
-        }
-        template <typename Record>
-        void update(const Record *, const Record *)
-        {
-        }
-        /// After steps were undone or done again, or everything is new.
-        void follow(const WorkspaceStore &store, const ChangeSet &changes);
-
-        RecordGroups<TaskItem, QUuid> tasksByProject;
-        RecordGroups<Activity, QUuid> activitiesByProject;
-        RecordGroups<DBRow, QUuid> rowsByTable;
-        RecordGroups<CalendarEvent, QDate> eventsByDay;
-    };
-    Groups &groups() const { return m_groups; }
+    /// Records found by a key they share.
+    WorkspaceGroups &groups() const { return m_groups; }
 
 signals:
     /// An action has ended, a step was undone or done again, or everything is new.
@@ -163,50 +138,9 @@ private:
     UndoHistory m_history;
     OpenAction m_action;
     std::function<Destination()> m_place = [] { return Destination(); };
-    mutable Groups m_groups;
+    mutable WorkspaceGroups m_groups;
     // Goes first, since it may still be writing.
     SaveScheduler m_saves;
 };
 
-template <typename Record>
-void WorkspaceStore::add(const Record &record)
-{
-    const Action action(*this, QString());
-    auto &list = std::get<RecordList<Record>>(m_lists);
-    list.append(record);
-    touch<Record>(record.id).inserted(list.size() - 1);
-    m_action.changes.of<Record>().insert(record.id);
-    m_groups.update(static_cast<const Record *>(nullptr), &record);
-}
-
-template <typename Record, typename Edit>
-void WorkspaceStore::change(const QUuid &id, Edit edit)
-{
-    const Action action(*this, QString());
-    auto &list = std::get<RecordList<Record>>(m_lists);
-    for (const qsizetype position : list.positionsOf({id})) {
-        Record record = list.at(position);
-        edit(record);
-        if (record == list.at(position))
-            continue;
-        touch<Record>(id).replaced(position, list.exchange(position, std::move(record)));
-        m_action.changes.of<Record>().replace(id);
-        m_groups.update(&list.at(position), &list.at(position));
-    }
-}
-
-template <typename Record>
-void WorkspaceStore::erase(const QSet<QUuid> &ids)
-{
-    const Action action(*this, QString());
-    auto &list = std::get<RecordList<Record>>(m_lists);
-    const QList<qsizetype> positions = list.positionsOf(ids);
-    if (positions.isEmpty())
-        return;
-    QList<Record> removed = list.take(positions);
-    for (const Record &record : std::as_const(removed)) {
-        m_action.changes.of<Record>().remove(record.id);
-        m_groups.update(&record, static_cast<const Record *>(nullptr));
-    }
-    touch<Record>(*ids.begin()).removed(positions, std::move(removed));
-}
+#include "Store/WorkspaceEdits.h"

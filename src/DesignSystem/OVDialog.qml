@@ -20,6 +20,12 @@ T.Dialog {
     default property alias content: extra.data
     property real rise: 0
 
+    function acceptByKey() {
+        // A key that the other button left alone is not meant for this one.
+        if (acceptEnabled && !rejectButton.activeFocus)
+            acceptButton.activate()
+    }
+
     parent: T.Overlay.overlay
     x: Math.round((parent.width - width) / 2)
     y: Math.round((parent.height - height) / 2) + rise
@@ -45,8 +51,8 @@ T.Dialog {
     contentItem: Column {
         spacing: Theme.space8
 
-        Keys.onReturnPressed: if (dialog.acceptEnabled) acceptButton.activate()
-        Keys.onEnterPressed: if (dialog.acceptEnabled) acceptButton.activate()
+        Keys.onReturnPressed: dialog.acceptByKey()
+        Keys.onEnterPressed: dialog.acceptByKey()
 
         OVText {
             width: parent.width

@@ -44,7 +44,7 @@ T.AbstractButton {
             activate()
     }
 
-    // Who presses knows already, and may get a menu where the tip would show.
+    // A press makes the tip needless, and may open a menu where the tip would show.
     function hideTip() {
         if (tip)
             tip.shown = false

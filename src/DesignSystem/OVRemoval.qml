@@ -17,12 +17,20 @@ MouseArea {
 
     /// The place may be given up.
     signal released()
+    /// The item does not go, or is gone already.
+    signal ended()
 
     function begin() {
         rest = hover.point.scenePosition
         hasMoved = !hover.hovered
         fading.start()
         settle()
+    }
+
+    /// Leaves the item as it is.
+    function end() {
+        fading.stop()
+        ended()
     }
 
     function settle() {

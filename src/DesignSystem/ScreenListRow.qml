@@ -22,6 +22,7 @@ FocusScope {
     readonly property alias hovered: pointer.hovered
     default property alias content: appear.content
     property OVRemoval leaving: null
+    property NumberAnimation entering: null
 
     /// What Shift+Tab does here; false to leave it to others.
     function leaveBackwards(): bool {
@@ -34,10 +35,13 @@ FocusScope {
         return list.exitForwards()
     }
 
-    /// Takes back what a removal has done to the row, which the view may use for another one.
+    /// Takes back what coming and going have done to the row, which the view may use for another one.
     function restore() {
+        if (entering)
+            entering.complete()
         if (!leaving)
             return
+        leaving.end()
         leaving.destroy()
         leaving = null
         appear.opacity = 1
@@ -55,8 +59,11 @@ FocusScope {
     }
     ListView.onAdd: {
         list.rowAdded()
-        if (fadesIn && !list.opening)
-            (entry.createObject(row) as Animation).start()
+        if (fadesIn && !list.opening) {
+            if (!entering)
+                entering = entry.createObject(row) as NumberAnimation
+            entering.restart()
+        }
     }
     ListView.onRemove: {
         if (!collapses)
@@ -106,6 +113,7 @@ FocusScope {
         OVRemoval {
             content: appear
             hover: pointer
+            onEnded: collapse.stop()
             onReleased: collapse.start()
 
             Connections {

@@ -17,6 +17,13 @@ Item {
         destructive: true
     }
 
+    OVDialog {
+        id: cautious
+        cautious: true
+        rejectText: "Cancel"
+        title: "Reset everything"
+    }
+
     OVSheet {
         id: sheet
         title: "Keyboard shortcuts"
@@ -61,6 +68,20 @@ Item {
             compare(rejected.count, data.rejected)
             tryCompare(dialog, "visible", false)
             verify(outside.activeFocus)
+        }
+
+        function test_cautiousDialogTakesNothingByReturn() {
+            let count = 0
+            cautious.accepted.connect(() => ++count)
+            for (const modifier of [Qt.ControlModifier, Qt.NoModifier]) {
+                cautious.open()
+                tryCompare(cautious, "opened", true)
+                keyClick(Qt.Key_Return, modifier)
+                if (modifier === Qt.ControlModifier)
+                    keyClick(Qt.Key_Escape)
+                tryCompare(cautious, "visible", false)
+            }
+            compare(count, 0)
         }
 
         function test_sheetKeepsTheFocusAndReturnsIt() {

@@ -8,7 +8,21 @@ import Orvel.Reader
 Column {
     id: root
 
+    /// A row that has the focus is about to go.
+    signal focusLeft()
+
     visible: rows.count > 0
+
+    Connections {
+        target: BookDownloads.rows
+
+        function onRowsAboutToBeRemoved(parent, first, last) {
+            for (let i = first; i <= last; ++i) {
+                if (rows.itemAt(i)?.hasFocus ?? false)
+                    root.focusLeft()
+            }
+        }
+    }
 
     Repeater {
         id: rows
@@ -20,6 +34,7 @@ Column {
             required property var number
             required property string title
             required property string progressText
+            readonly property bool hasFocus: cancel.activeFocus
             readonly property string state: progressText === "" ? qsTr("Downloading") : qsTr("Downloading %1").arg(progressText)
 
             Accessible.description: state

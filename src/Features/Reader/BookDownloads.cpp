@@ -13,9 +13,9 @@ BookDownloads::BookDownloads(OrvelSession *session, const GutenbergClient::Optio
 BookDownloads::~BookDownloads()
 {
     m_background.waitForDone();
-    for (const auto &[number, download] : m_downloads)
-        if (!download.newRecord.isNull())
-            store().bookLibrary().deleteText(download.newRecord);
+    for (const QUuid &id : std::as_const(m_writing))
+        if (!store().list<Book>().contains(id))
+            store().bookLibrary().deleteText(id);
 }
 
 BookDownloads *BookDownloads::create(QQmlEngine *engine, QJSEngine *script)
@@ -37,6 +37,9 @@ void BookDownloads::begin(const GutenbergBook &book, const QUuid &record)
     emit changed();
     const auto progress = [this, number = book.id](qint64 received, qint64 total) {
         const QString text = CatalogueRow::progressOf(received, total);
+        const BookDownloadRow *const shown = m_rows.find(number);
+        if (!shown || shown->progressText == text)
+            return;
         m_rows.changeRow(number, [&text](BookDownloadRow &row) { row.progressText = text; });
         emit changed();
     };
@@ -77,6 +80,7 @@ void BookDownloads::keep(const GutenbergBook &book, const QString &text)
     const QUuid id = isNew ? store().makeId() : download.record;
     if (isNew)
         download.newRecord = id;
+    m_writing.insert(id);
     m_background.start([this, id, isNew, book, text, library = store().bookLibrary()] {
         // A book whose text can't be written says so when it is opened.
         (void)library.write(id, text);
@@ -87,6 +91,7 @@ void BookDownloads::keep(const GutenbergBook &book, const QString &text)
 
 void BookDownloads::finishKeeping(const GutenbergBook &book, const QUuid &id, bool isNew)
 {
+    m_writing.remove(id);
     // It may have been cancelled, or begun anew, or its record removed, in this last moment.
     const auto download = m_downloads.find(book.id);
     const bool isWanted =

@@ -83,6 +83,8 @@ private:
     GutenbergClient m_client;
     KeyedListModel<BookDownloadRow> m_rows;
     std::map<qint64, Download> m_downloads;
+    /// The books whose texts are being written.
+    QSet<QUuid> m_writing;
     QString m_errorMessage;
     QString m_failedTitle;
     QThreadPool m_background;

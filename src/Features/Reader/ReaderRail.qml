@@ -71,6 +71,7 @@ FocusScope {
 
         BookDownloadRows {
             width: parent.width
+            onFocusLeft: modes.forceActiveFocus(Qt.TabFocusReason)
         }
     }
 

@@ -46,7 +46,8 @@ FocusScope {
             focusPane()
     }
 
-    Component.onCompleted: showError()
+    // The window gives the focus to the screen when that is complete.
+    Component.onCompleted: Qt.callLater(showError)
     onVisibleChanged: showError()
 
     ReaderViewModel {
@@ -70,9 +71,6 @@ FocusScope {
         downloads: BookDownloads
         session: Orvel
         onBookReady: bookID => {
-            // Who reads another book by now reads on.
-            if (!root.isDiscovering && reader.hasSelection && reader.selectedBookID !== bookID)
-                return
             reader.open(bookID)
             root.focusPane()
         }
@@ -82,8 +80,8 @@ FocusScope {
         target: BookDownloads
 
         function onBookReady(number, bookID) {
-            // A book whose text has just come may be open already.
-            if (reader.selectedBookID === bookID)
+            // A book that is open may have waited for its text.
+            if (reader.selectedBookID === bookID && openBook.isMissing)
                 openBook.reload()
         }
 

@@ -30,7 +30,7 @@ LoopingVideoController::LoopingVideoController(QObject *parent) : QObject(parent
     connect(&m_retry, &QTimer::timeout, this, &LoopingVideoController::retry);
     m_check.setSingleShot(true);
     m_check.setInterval(6s);
-    connect(&m_check, &QTimer::timeout, this, [this] { setFailed(m_playerHasError); });
+    connect(&m_check, &QTimer::timeout, this, &LoopingVideoController::check);
 }
 
 void LoopingVideoController::setPlayer(QObject *player)
@@ -48,8 +48,12 @@ void LoopingVideoController::setPlayerHasError(bool hasError)
     if (std::exchange(m_playerHasError, hasError) == hasError)
         return;
     emit playerHasErrorChanged();
-    if (hasError && m_retries < mostRetries && !m_loadedURL.isEmpty() && !m_failed)
+    if (!hasError || m_loadedURL.isEmpty() || m_failed)
+        return;
+    if (m_retries < mostRetries)
         m_retry.start();
+    else if (!m_check.isActive())
+        setFailed(true);
 }
 
 void LoopingVideoController::retry()
@@ -60,6 +64,15 @@ void LoopingVideoController::retry()
     m_player->setProperty("source", QUrl());
     m_player->setProperty("source", m_loadedURL);
     follow();
+    m_check.start();
+}
+
+void LoopingVideoController::check()
+{
+    if (m_playerHasError)
+        setFailed(true);
+    else
+        m_retries = 0;
 }
 
 void LoopingVideoController::setPlaying(bool playing)

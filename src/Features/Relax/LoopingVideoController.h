@@ -49,6 +49,7 @@ signals:
 private:
     void follow();
     void retry();
+    void check();
     void setLoadedURL(const QUrl &url);
     void setFailed(bool failed);
 

@@ -9,6 +9,8 @@ Item {
 
     property url url
     property bool isPlaying: true
+    /// As of the view of a page; a file takes no mouse.
+    property bool isInteractive: true
     readonly property alias failed: controller.failed
 
     clip: true

@@ -44,7 +44,7 @@ Rectangle {
             property: "isInteractive"
             target: player.item
             value: root.isInteractive
-            when: player.status === Loader.Ready && !root.isMedia
+            when: player.status === Loader.Ready
         }
     }
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QOpenGLContext>
 
+#include <cerrno>
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -24,8 +25,11 @@ bool canShutIn()
         ::_exit(isIn ? 0 : 1);
     }
     int status = 1;
-    return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) &&
-           WEXITSTATUS(status) == 0;
+    pid_t ended = -1;
+    do {
+        ended = child > 0 ? ::waitpid(child, &status, 0) : -1;
+    } while (ended < 0 && child > 0 && errno == EINTR);
+    return ended == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 QString findRefusal()
@@ -47,7 +51,7 @@ QString hostOf(const QUrl &url)
 
 WebPlayer::WebPlayer(QObject *parent) : QObject(parent), m_refusal(findRefusal())
 {
-    // Nobody turns the sandbox off.
+    // These variables would turn the sandbox off.
     qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
     qunsetenv("QTWEBENGINE_CHROMIUM_FLAGS");
     // The engine needs one that stays until the end of the program. To have the toolkit make it at the start

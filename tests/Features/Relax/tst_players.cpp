@@ -262,12 +262,12 @@ private slots:
     }
 };
 
-/// The web player shows nothing to the system administrator, so that the test becomes somebody else.
+/// The web player shows nothing to the system administrator.
 static void becomeNobody()
 {
     constexpr uid_t nobody = 65534;
     if (::geteuid() == 0 && (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-        qFatal("The test can't become an ordinary user.");
+        qWarning("The test can't become an ordinary user, to whom alone pages are shown.");
 }
 
 int main(int argc, char **argv)

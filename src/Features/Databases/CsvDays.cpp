@@ -64,7 +64,10 @@ int takeYear(Parts &parts, qsizetype digits)
 QList<QByteArrayView> CsvDays::forms(const QLocale &locale)
 {
     const QString own = locale.dateFormat(QLocale::ShortFormat);
-    QList<QByteArrayView> forms{"yyyy-MM-dd", "yyyy/M/d", "d.M.yyyy", "d.M.yy"};
+    QList<QByteArrayView> forms{"yyyy-MM-dd", "yyyy/M/d", "d.M.yyyy"};
+    // Elsewhere these are numbers of versions and sections.
+    if (own.contains(u'.'))
+        forms.append("d.M.yy");
     const QList<QByteArrayView> dayFirst{"d/M/yyyy", "d/M/yy"}, monthFirst{"M/d/yyyy", "M/d/yy"};
     forms += own.indexOf(u'M') < own.indexOf(u'd') ? monthFirst + dayFirst : dayFirst + monthFirst;
     forms += QList<QByteArrayView>{"d-M-yyyy", "d MMM yyyy", "d-MMM-yyyy", "MMM d, yyyy", "yyyyMMdd"};

@@ -35,13 +35,13 @@ public:
 };
 
 /// Takes files of comma-separated values in and writes them out. A file is read and made into records beside
-/// the window; nothing is added before that is done, and nothing at all if it is cancelled. Writing goes on
-/// beside the window as well, also after this is gone.
+/// the window; nothing is added before that is done, and what was added is taken back if it is cancelled.
+/// Writing goes on beside the window as well, also after this is gone.
 class CsvTransfer : public ViewModel
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether a file is being read or its records are being made.
+    /// Whether a file is being read, or its records are being made or added.
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY stateChanged FINAL)
     /// Whether a file has been read and its columns can be chosen.
     Q_PROPERTY(bool isRead READ isRead NOTIFY stateChanged FINAL)
@@ -88,7 +88,7 @@ public:
 
 signals:
     void stateChanged();
-    /// The records are there; the null id if there were none to make.
+    /// The records are there.
     void finished(const QUuid &tableID);
 
 protected:

@@ -2,8 +2,6 @@
 
 #include "Store/DatabaseOperations.h"
 
-#include <QTimer>
-
 #include <utility>
 
 namespace
@@ -12,9 +10,20 @@ namespace
 constexpr qsizetype pieceSize = 5000;
 } // namespace
 
+RecordsAdder::RecordsAdder(QObject *parent) : QObject(parent)
+{
+    m_nextTurn.setSingleShot(true);
+    m_nextTurn.setInterval(0);
+    connect(&m_nextTurn, &QTimer::timeout, this, [this] { m_added < m_records.size() ? addSome() : end(); });
+}
+
 RecordsAdder::~RecordsAdder()
 {
+    WorkspaceStore *const store = m_store;
     cancel();
+    // The program may be ending, and have saved what was added so far.
+    if (store)
+        store->saveNow();
 }
 
 double RecordsAdder::progress() const
@@ -36,10 +45,21 @@ void RecordsAdder::start(WorkspaceStore &store, const std::optional<DatabaseTabl
     addSome();
 }
 
+bool RecordsAdder::isGone() const
+{
+    const DBRow &first = m_records.first();
+    return !m_store->list<DatabaseTable>().contains(first.tableID) ||
+           (m_added > 0 && !m_store->list<DBRow>().contains(first.id));
+}
+
 void RecordsAdder::addSome()
 {
-    if (!m_store)
+    if (!m_records.isEmpty() && isGone()) {
+        m_store = nullptr;
+        m_records.clear();
+        emit advanced();
         return;
+    }
     const qsizetype end = std::min(m_added + pieceSize, m_records.size());
     {
         // All but the first are undone along with it.
@@ -51,7 +71,7 @@ void RecordsAdder::addSome()
         }
     }
     emit advanced();
-    QTimer::singleShot(0, this, m_added < m_records.size() ? &RecordsAdder::addSome : &RecordsAdder::end);
+    m_nextTurn.start();
 }
 
 void RecordsAdder::end()
@@ -64,6 +84,7 @@ void RecordsAdder::end()
 
 void RecordsAdder::cancel()
 {
+    m_nextTurn.stop();
     WorkspaceStore *const store = std::exchange(m_store, nullptr);
     if (!store)
         return;

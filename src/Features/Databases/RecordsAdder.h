@@ -2,6 +2,8 @@
 
 #include "Store/WorkspaceStore.h"
 
+#include <QTimer>
+
 #include <optional>
 
 /// Adds very many records in one undo step, some of them in each turn of the event loop, so that the window
@@ -11,11 +13,11 @@ class RecordsAdder : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
-    /// Takes back what is not finished.
+    explicit RecordsAdder(QObject *parent = nullptr);
+    /// Takes back what is not finished, and saves that.
     ~RecordsAdder() override;
 
-    /// Ends with `finished`.
+    /// Ends with `finished`, unless the database or the first records are undone or removed meanwhile.
     /// @param store lives longer than this
     /// @param table a new database that the records belong to; nothing if it is there already
     /// @param records get their ids here
@@ -31,6 +33,8 @@ signals:
     void finished();
 
 private:
+    /// Whether what the next records belong to has been undone or removed.
+    bool isGone() const;
     void addSome();
     void end();
 
@@ -39,4 +43,5 @@ private:
     QUuid m_table;
     QList<DBRow> m_records;
     qsizetype m_added = 0;
+    QTimer m_nextTurn;
 };

@@ -121,6 +121,24 @@ private slots:
         QCOMPARE(store().list<DatabaseTable>().first(table.id)->name, u"Works"_s);
     }
 
+    void whatIsUndoneMeanwhileIsNotAddedTo()
+    {
+        for (const bool isNew : {true, false}) {
+            DatabaseTable table = CsvTransferTest::table();
+            table.id = QUuid::createUuid();
+            if (!isNew)
+                DatabaseOperations::create(store(), table);
+            RecordsAdder adder;
+            const QSignalSpy finished(&adder, &RecordsAdder::finished);
+            adder.start(store(), isNew ? std::optional(table) : std::nullopt, records(table.id, 12'000));
+            QVERIFY(adder.isBusy());
+            store().undo();
+            QTRY_VERIFY(!adder.isBusy());
+            QCOMPARE(count(), 0);
+            QCOMPARE(finished.size(), 0);
+        }
+    }
+
     void anExportOutlivesItsScreen()
     {
         DatabaseTable table = CsvTransferTest::table();

@@ -220,7 +220,8 @@ private slots:
         });
         QVERIFY(row != all.rend() && m_client->press(row->path));
         QVERIFY(!m_client->waitFor(u"list item Habits selected"_s).isEmpty());
-        QVERIFY(!m_client->texts().contains(u"dialog Command palette"_s));
+        QVERIFY(QTest::qWaitFor([this] { return !m_client->texts().contains(u"dialog Command palette"_s); },
+                                15'000));
     }
 };
 

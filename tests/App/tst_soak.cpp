@@ -167,7 +167,7 @@ int main(int argc, char *argv[])
     const QTemporaryDir home;
     for (const char *const variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         qputenv(variable, QFile::encodeName(home.path()));
-    // Neither the network nor the desktop of whoever runs this is to notice.
+    // Neither the network nor the user's desktop is to notice.
     qputenv("ALL_PROXY", "http://127.0.0.1:9");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");

@@ -58,8 +58,8 @@ QDBusConnection bus()
 AssistiveClient::AssistiveClient() : m_environment(QProcessEnvironment::systemEnvironment())
 {
     // High enough for a gallery without scrolling: what is scrolled away counts as not shown.
-    m_display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s, u"-screen"_s, u"0"_s,
-                                u"1240x9000x24"_s});
+    m_display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s,
+                                u"-screen"_s, u"0"_s, u"1240x9000x24"_s});
     if (!m_display.waitForStarted()) {
         m_missing = u"there is no Xvfb"_s;
         return;

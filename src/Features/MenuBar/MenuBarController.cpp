@@ -167,7 +167,7 @@ void MenuBarController::showRemainingTime()
     }
     const std::chrono::seconds remaining(m_session->focus()->remaining());
     const auto minutes = std::chrono::ceil<std::chrono::minutes>(remaining);
-    m_item->setToolTip(minutes > 1min ? tr("Focus: %1 minutes left").arg(minutes.count())
+    m_item->setToolTip(minutes > 1min ? tr("Focus: %Ln minutes left", nullptr, int(minutes.count()))
                                       : tr("Focus: less than a minute left"));
     if (m_item->isShown() && minutes > 1min)
         m_nextMinute.start(remaining - (minutes - 1min));

@@ -55,13 +55,14 @@ bool PageEditorViewModel::paste(const QUuid &blockID, int selectionStart, int se
     return true;
 }
 
-void PageEditorViewModel::correctWord(const QUuid &blockID, int begin, int end, const QString &word)
+void PageEditorViewModel::correctWord(const QUuid &blockID, int begin, int end, const QString &misspelt,
+                                      const QString &word)
 {
     const Block *const target = block(blockID);
     if (!target)
         return;
     const ShownParts::Part part = m_parts.of(*target);
-    if (begin < 0 || begin > end || part.begin + end > target->text.size())
+    if (begin < 0 || begin > end || target->text.mid(part.begin + begin, end - begin) != misspelt)
         return;
     const Action action(store(), tr("Correct Spelling"));
     const Place caret = editText(*target, {part.begin + begin, part.begin + end, word}, -1);

@@ -83,7 +83,8 @@ public:
     /// @param plain whether the clipboard is taken as lines of text
     Q_INVOKABLE bool paste(const QUuid &blockID, int selectionStart, int selectionEnd, bool plain = false);
     /// Puts another word in the place of a misspelt one. The positions count in what is shown.
-    Q_INVOKABLE void correctWord(const QUuid &blockID, int begin, int end, const QString &word);
+    Q_INVOKABLE void correctWord(const QUuid &blockID, int begin, int end, const QString &misspelt,
+                                 const QString &word);
     /// Whether the text goes on before (-1) or after (1) what is shown of it.
     Q_INVOKABLE bool hasPart(const QUuid &blockID, int direction) const;
     /// Goes to the part before (-1) or after (1) the one that is shown; false if there is none.

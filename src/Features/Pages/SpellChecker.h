@@ -31,7 +31,7 @@ public:
     static constexpr QLatin1StringView languagesKey{"orvel.spelling.languages"};
     static constexpr QLatin1StringView wordsKey{"orvel.spelling.words"};
     static constexpr int maxSuggestions = 5;
-    /// How long a menu waits for suggestions, in milliseconds.
+    /// How long a menu waits for suggestions by default, in milliseconds.
     static constexpr int suggestionWait = 400;
 
     /// @param folders where dictionaries are looked for, when they are first needed
@@ -59,6 +59,7 @@ public:
 
     /// Sends `suggested` once, also if there is nothing to suggest.
     Q_INVOKABLE void suggest(const QString &word);
+    Q_INVOKABLE void setSuggestionWait(int milliseconds) { m_suggestionLimit.setInterval(milliseconds); }
     /// Keeps a word as one of the user's own.
     Q_INVOKABLE void add(const QString &word);
     Q_INVOKABLE void remove(const QString &word);

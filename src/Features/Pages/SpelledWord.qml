@@ -23,6 +23,9 @@ QtObject {
             if (!then || word !== root.misspelt)
                 return
             root._then = null
+            // The text may have changed meanwhile.
+            if (root.field?.spelling.wordAt(root.begin) !== word)
+                return
             root.suggestions = suggestions
             then()
         }
@@ -45,6 +48,6 @@ QtObject {
     }
 
     function correct(suggestion: string) {
-        field.editor.correctWord(field.blockID, begin, end, suggestion)
+        field?.editor.correctWord(field.blockID, begin, end, misspelt, suggestion)
     }
 }

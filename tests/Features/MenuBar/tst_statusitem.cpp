@@ -243,7 +243,7 @@ void StatusItemTest::theToolTipShowsARunningSession()
     m_session->focus()->open(this);
     m_session->focus()->toggleRunning();
     QTRY_COMPARE(text(), u"Focus: 25 minutes left"_s);
-    // Nobody is woken before the minute is over.
+    // Nothing wakes before the minute is over.
     const auto *const nextMinute = m_controller->findChild<QTimer *>();
     QCOMPARE(nextMinute->intervalAsDuration(), std::chrono::minutes(1));
     m_workspace->advanceSeconds(89);

@@ -122,10 +122,13 @@ private slots:
     {
         Preferences preferences;
         SpellChecker checker(preferences, m_folders, u"en_GB"_s);
+        checker.setSuggestionWait(30'000);
         QSignalSpy suggested(&checker, &SpellChecker::suggested);
+        QSignalSpy answered(&checker, &SpellChecker::answered);
         // It comes in time behind a long list of words.
         for (int i = 0; i < 5'000; ++i)
             checker.verdict(u"word%1"_s.arg(QString(i % 50 + 1, u'x') + QString::number(i)));
+        QVERIFY(answered.wait());
         checker.suggest(u"befor"_s);
         QVERIFY(suggested.wait());
         QCOMPARE(suggested.first().at(0).toString(), u"befor"_s);

@@ -89,6 +89,9 @@ void ChartScaleTest::coloursStandOutFromTheCard()
         for (const QColor &color : std::as_const(drawn))
             QVERIFY2(Contrast::ratio(color, colors.surface) >= 3, qPrintable(color.name()));
     }
+    const OVColors paper = OVColors::of(true, false);
+    for (const QColor &color : {paper.inkTertiary, paper.inkSecondary, paper.ink})
+        QVERIFY2(Contrast::ratio(color, paper.surface) >= 3, qPrintable(color.name()));
 }
 
 QTEST_GUILESS_MAIN(ChartScaleTest)

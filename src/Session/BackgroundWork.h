@@ -11,8 +11,8 @@
 /// One long piece of work at a time on a thread of its own, whose progress can be shown and which can be
 /// cancelled.
 ///
-/// Work that was cancelled, or whose owner is gone, is waited for half a second at most: a folder on a network that does not
-/// answer may hold it for ever. So it uses only what it was given.
+/// Work that was cancelled, or whose owner is gone, is waited for half a second at most: a folder on a
+/// network that does not answer may hold it for ever. So it uses only what it was given.
 class BackgroundWork : public QObject
 {
     Q_OBJECT

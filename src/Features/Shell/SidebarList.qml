@@ -54,11 +54,12 @@ FocusScope {
             list.contentY = Math.min(lowest, item.y + item.height + margin - list.height)
     }
 
-    /// Shows the beginning, as far as the current row leaves it. A window gets its size in several steps.
+    /// Shows the beginning, as far as the current row leaves it: a window gets its size in several steps, and
+    /// rows that come and go out of sight may move the view.
     function settle() {
         if (list.scrolledByUser || list.activeFocus)
             return
-        list.contentY = list.originY - list.topMargin
+        list.positionViewAtBeginning()
         reveal(sidebar.currentRow)
     }
 
@@ -91,6 +92,7 @@ FocusScope {
 
         function onLaidOut() {
             root.follow()
+            Qt.callLater(root.settle)
         }
         function onSelectionRevealed() {
             root.follow()
@@ -211,6 +213,8 @@ FocusScope {
                 navigation: root.navigation
                 sidebar: root.sidebar
                 width: list.width
+                // The wash of the next row would lie over the ring.
+                z: activeFocus ? 1 : 0
                 onMenuRequested: (from, x, y) => root.openMenu(this, from, x, y)
                 onPressed: root.press(index)
                 onRingShown: root.reveal(index)

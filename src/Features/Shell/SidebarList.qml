@@ -60,6 +60,7 @@ FocusScope {
         if (list.scrolledByUser || list.activeFocus)
             return
         list.positionViewAtBeginning()
+        list.contentY = list.originY - list.topMargin
         reveal(sidebar.currentRow)
     }
 

@@ -90,6 +90,26 @@ Item {
             compare(saved()[0].completions.length, 2)
         }
 
+        function test_keysGoOnFromAClick() {
+            for (const name of ["a", "b"])
+                Workspace.addHabit(name)
+            open()
+            click("Tuesday, March 10, 2026, not done", find("b, 0/7 this week"))
+            tryVerify(() => focused().Accessible.name === "Tuesday, March 10, 2026, done")
+            verify(!focused().visualFocus, "no ring after a click")
+            keyClick(Qt.Key_Space)
+            compare(saved()[1].completions, [])
+            keyClick(Qt.Key_Right)
+            compare(focused().Accessible.name, "Wednesday, March 11, 2026, not done")
+            verify(focused().visualFocus)
+            keyClick(Qt.Key_Space)
+            compare(saved()[1].completions, ["2026-03-11"])
+            click("Mark done: a")
+            tryVerify(() => focused().Accessible.name === "a, 1/7 this week, streak: 1")
+            keyClick(Qt.Key_Down)
+            compare(focused().Accessible.name, "b, 1/7 this week")
+        }
+
         function test_worksByKeys() {
             for (const name of ["a", "b", "c"])
                 Workspace.addHabit(name)

@@ -57,10 +57,8 @@ ScreenListRow {
 
     /// Flips a day. The arrow keys go on from the one that was clicked.
     function toggleDay(weekday: int) {
-        if (week.focusedDay() !== weekday) {
-            takeFocus(Qt.MouseFocusReason)
+        if (week.focusedDay() !== weekday)
             week.focusDay(weekday, Qt.MouseFocusReason)
-        }
         viewModel.toggleDay(habitID, weekday)
     }
 

@@ -68,7 +68,14 @@ Item {
             keyClick(Qt.Key_Space)
             tryVerify(() => focused().Accessible.name === "Habit name, for example Walk after lunch")
             keyClick("x")
+            // In a small window the form scrolls along with the focus.
+            root.height = 300
+            for (let i = 0; i < 4; ++i)
+                keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "Add habit")
+            tryVerify(() => focused().mapToItem(root.view, 0, focused().height).y <= 300)
             keyClick(Qt.Key_Escape)
+            root.height = 640
             tryVerify(() => focused().Accessible.name === "New habit")
             compare(saved().length, 1)
         }

@@ -34,7 +34,7 @@ QList<Picture> openedPictures()
     const QByteArray records = "page.find(item => item instanceof DatabaseViewContent)";
     const auto cell = [](DBPropertyType type, const char *ring) {
         return QByteArray("const cell = page.cell(") + QByteArray::number(int(type)) +
-               "); cell.current = true; cell.ringShown = " + ring + "; ";
+               "); if (!cell) return; cell.current = true; cell.ringShown = " + ring + "; ";
     };
     struct Scene {
         QString name;

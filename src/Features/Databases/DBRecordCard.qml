@@ -96,7 +96,8 @@ Rectangle {
     RecordActionButtons {
         shown: (pointer.hovered || card.isCurrent) && !(card.titleEdited && !card.showsGlyph)
         x: card.width - width - Theme.space8
-        y: Theme.space8
+        y: card.showsGlyph ? Theme.space8
+                           : Theme.space4 + Math.round((Theme.rowHeight + Theme.space4 - height) / 2)
         onDeleteRequested: card.records.remove(card.recordID)
         onDuplicateRequested: card.records.duplicate(card.recordID)
     }

@@ -24,6 +24,9 @@ public:
         QCoreApplication::sendEvent(&m_window, &focus);
     }
 
+    ~Scene() { close(); }
+    Q_DISABLE_COPY_MOVE(Scene)
+
     Comparison::Duration open()
     {
         m_screen.reset();
@@ -37,7 +40,12 @@ public:
         });
     }
 
-    void close() { m_screen.reset(); }
+    void close()
+    {
+        m_screen.reset();
+        // Items of repeaters go later, but their animations would not outlive the engine.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
     /// Changes the settings, as another place of the window would, to the moment when the theme is
     /// everywhere.

@@ -44,12 +44,13 @@ SavePoints::SavePoints(WorkspaceStore *store, SystemClock *clock, QGuiApplicatio
     current = this;
     // On Wayland the toolkit ends the process by `_exit`, which calls nobody. This is all that it says
     // before.
-    handlerBefore =
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
-            handlerBefore(type, context, message);
-            if (current && message.startsWith(QLatin1String(connectionLost)))
-                current->saveAtExit();
-        });
+    // Another thread may warn as soon as the handler stands, so the one before is asked for first.
+    handlerBefore = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
+        handlerBefore(type, context, message);
+        if (current && message.startsWith(QLatin1String(connectionLost)))
+            current->saveAtExit();
+    });
 }
 
 SavePoints::~SavePoints()

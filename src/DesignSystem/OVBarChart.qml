@@ -33,6 +33,8 @@ OVChart {
     }
 
     implicitHeight: horizontal ? Math.max(Theme.chartHint, points.length * rowHeight) : Theme.chartHeight
+    // A horizontal bar begins with its label.
+    markOutset: horizontal ? Theme.space8 : 2
     tipShown: !horizontal
 
     OVChartAxes {

@@ -18,6 +18,8 @@ FocusScope {
     property string name
     /// Corner radius of the focus ring around a value.
     property real markRadius: Theme.cornerMark
+    /// How far that ring stands off the value's sides.
+    property real markOutset: 2
     /// Whether a tip tells the value; not where the chart does that by itself.
     property bool tipShown: true
 
@@ -126,7 +128,10 @@ FocusScope {
             }
 
             OVFocusRing {
-                anchors.margins: -2
+                anchors.bottomMargin: -2
+                anchors.leftMargin: -chart.markOutset
+                anchors.rightMargin: -chart.markOutset
+                anchors.topMargin: -2
                 shown: mark.activeFocus
                 targetRadius: chart.markRadius
             }

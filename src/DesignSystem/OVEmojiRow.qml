@@ -31,7 +31,7 @@ Column {
         id: title
 
         color: Theme.ovInkSecondary
-        font.weight: Font.Medium
+        font.weight: role === OVText.Section ? Font.DemiBold : Font.Medium
         role: OVText.Dense
         text: root.label
         width: parent.width

@@ -17,7 +17,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 
     QString filePath() const { return m_folder->filePath(u"data/Orvel/workspace.json"_s); }
-    std::unique_ptr<QProcess> launch() const
+    std::unique_ptr<QProcess> launch(const QString &program = QStringLiteral(ORVEL_PROGRAM),
+                                     const QStringList &arguments = {}) const
     {
         auto process = std::make_unique<QProcess>();
         auto environment = QProcessEnvironment::systemEnvironment();
@@ -27,15 +28,27 @@ private:
         environment.insert(u"QT_LOGGING_RULES"_s, u"orvel.start.info=true"_s);
         process->setProcessEnvironment(environment);
         process->setProcessChannelMode(QProcess::MergedChannels);
-        process->start(QStringLiteral(ORVEL_PROGRAM), QStringList());
+        process->start(program, arguments);
         return process;
     }
-    static bool showsItsWindow(QProcess &process)
+    static bool says(QProcess &process, const QByteArray &text)
     {
         QByteArray output;
-        while (!output.contains("first frame") && process.waitForReadyRead())
+        while (!output.contains(text) && process.waitForReadyRead())
             output += process.readAll();
-        return output.contains("first frame");
+        return output.contains(text);
+    }
+    static bool showsItsWindow(QProcess &process) { return says(process, "first frame"); }
+    bool writeWorkspace(const QByteArray &bytes) const
+    {
+        QFile file(filePath());
+        return QDir().mkpath(QFileInfo(filePath()).path()) && file.open(QIODevice::WriteOnly) &&
+               file.write(bytes) == bytes.size();
+    }
+    QByteArray workspace() const
+    {
+        QFile file(filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     static bool endsInOrder(QProcess &process)
     {
@@ -73,6 +86,64 @@ private slots:
         QVERIFY(showsItsWindow(*program));
         program->terminate();
         QVERIFY(endsInOrder(*program));
+    }
+
+    void aHugeTextThatOpensHoldsNobodyUp_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("milliseconds");
+        QTest::addColumn<bool>("byClosing");
+        for (const char *const text : {"paragraph", "blocks", "lines"})
+            for (const int milliseconds : {0, 400})
+                for (const bool byClosing : {false, true})
+                    QTest::addRow("%s, %s after %d ms", text, byClosing ? "closed" : "SIGTERM", milliseconds)
+                        << QString::fromLatin1(text) << milliseconds << byClosing;
+    }
+    /// And nothing of it is lost.
+    void aHugeTextThatOpensHoldsNobodyUp()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, milliseconds);
+        QFETCH(const bool, byClosing);
+        QVERIFY(writeWorkspace("{\"settings\":{\"hasCompletedOnboarding\":true}}"));
+        const auto program =
+            launch(QStringLiteral(HUGE_TEXTS_PROBE), {text, QString::number(byClosing ? milliseconds : -1)});
+        QVERIFY(says(*program, "opening"));
+        QElapsedTimer time;
+        time.start();
+        if (!byClosing) {
+            QTest::qSleep(milliseconds);
+            program->terminate();
+        }
+        QVERIFY(endsInOrder(*program));
+        QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+        const QByteArray saved = workspace();
+        QVERIFY(saved.contains("\"userName\":\"Ada\""));
+        const bool isWhole = text == u"paragraph"_s ? saved.contains("word word ") && saved.size() > 5'000'000
+                             : text == u"blocks"_s  ? saved.count("\"text\":\"block\"") == 200'000
+                                                    : saved.count("print(1)\\n") == 400'000;
+        QVERIFY(isWhole);
+    }
+
+    void aHugeWorkspaceThatLoadsHoldsNobodyUp()
+    {
+        QByteArray bytes = "{\"settings\":{\"hasCompletedOnboarding\":true},\"pages\":[{\"id\":"
+                           "\"6F9619FF-8B86-D011-B42D-00CF4FC964FF\",\"title\":\"Long\",\"content\":[";
+        for (int i = 0; i < 200'000; ++i)
+            bytes += QByteArray(i == 0 ? "" : ",") + "{\"type\":\"paragraph\",\"text\":\"block\"}";
+        bytes += ",{\"type\":\"paragraph\",\"text\":\"" + QByteArray("word ").repeated(1'000'000) + "\"}]}]}";
+        QVERIFY(writeWorkspace(bytes));
+        for (const int milliseconds : {300, 1'000, 3'000}) {
+            const auto program = launch();
+            QVERIFY(program->waitForStarted());
+            QTest::qSleep(milliseconds);
+            QElapsedTimer time;
+            time.start();
+            program->terminate();
+            QVERIFY(program->waitForFinished());
+            QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+            QVERIFY(workspace() == bytes);
+        }
     }
 
     void aSecondStartEndsAtOnce()

@@ -9,7 +9,7 @@ Picture databasePicture(const QString &name, QSize size, const Look &look, void 
 {
     return {QStringLiteral("database-") + name,
             "import QtQuick\nimport Orvel.DesignSystem\nimport Orvel.Databases\n"
-            "Item { id: page; OVBackground { anchors.fill: parent }\n"
+            "Item { id: page; property var pointer; OVBackground { anchors.fill: parent }\n"
             // The first that passes the test, among what is shown.
             "function find(test, from = view) { for (let i = 0; i < from.children.length; ++i) { "
             "const child = from.children[i]; if (!child.visible) continue; const found = test(child) ? child "
@@ -34,7 +34,7 @@ QList<Picture> openedPictures()
     const QByteArray records = "page.find(item => item instanceof DatabaseViewContent)";
     const auto cell = [](DBPropertyType type, const char *ring) {
         return QByteArray("const cell = page.cell(") + QByteArray::number(int(type)) +
-               "); cell.current = true; cell.ringShown = " + ring + "; ";
+               "); if (!cell) return; cell.current = true; cell.ringShown = " + ring + "; ";
     };
     struct Scene {
         QString name;
@@ -50,6 +50,9 @@ QList<Picture> openedPictures()
         const QString raw = QString::fromLatin1(type.raw.data(), qsizetype(type.raw.size()));
         scenes.append({QStringLiteral("focus-") + raw, cell(type.value, "true")});
         scenes.append({QStringLiteral("edit-") + raw, cell(type.value, "false") + "cell.open()"});
+        scenes.append(
+            {QStringLiteral("hover-") + raw,
+             cell(type.value, "false") + "page.pointer = cell.mapToItem(page, 24, cell.height / 2)"});
     }
     const QByteArray open = "view.open(view.viewModel.selectedID)";
     // All types of property beside each other.
@@ -72,7 +75,7 @@ QList<Picture> databasePictures()
     QList<Picture> pictures = openedPictures();
     for (const EnumCase<DBViewType> &layout : enumCases<DBViewType>()) {
         const QByteArray raw(layout.raw.data(), qsizetype(layout.raw.size()));
-        const QByteArray open = "view.viewModel.addView('" + raw + "')";
+        const QByteArray open = "view.open(view.viewModel.selectedID); view.viewModel.addView('" + raw + "')";
         const QString name = QString::fromLatin1(raw) + u'-';
         for (const auto &[lookName, look] : looks())
             pictures.append(

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QTextStream>
 #include <QTimer>
@@ -24,6 +25,18 @@ void type(QWindow &window, const QString &text)
         QKeyEvent press(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
         QCoreApplication::sendEvent(&window, &press);
     }
+}
+
+/// Moves the pointer to where the page wants it, if it does.
+void point(QWindow &window, const QObject &page)
+{
+    const QVariant pointer = page.property("pointer");
+    if (!pointer.canConvert<QPointF>())
+        return;
+    const QPointF place = pointer.toPointF();
+    QMouseEvent move(QEvent::MouseMove, place, window.mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &move);
 }
 
 /// Lets bindings, animations and images settle.
@@ -103,10 +116,11 @@ bool draw(const Picture &picture, const QString &file)
     }
     view.show();
     settle(900);
+    point(view, *view.rootObject());
     if (!picture.typed.isEmpty()) {
         view.requestActivate();
         type(view, picture.typed);
-        settle(300);
     }
+    settle(300);
     return view.grabWindow().save(file);
 }

@@ -18,6 +18,7 @@ using Content = std::function<void(WorkspaceStore &, UIState &)>;
 /// One picture: a page of QML, what lies in the workspace, and how it looks.
 struct Picture {
     QString name;
+    /// Its property `pointer`, where it has one, is where the pointer is.
     QByteArray page;
     QSize size;
     Content content;

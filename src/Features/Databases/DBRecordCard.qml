@@ -18,6 +18,8 @@ Rectangle {
     required property bool isCurrent
     /// Whether the first character of the title stands large above it.
     property bool showsGlyph: false
+    /// Whether the user types where the buttons of the card stand.
+    readonly property bool titleEdited: lines.count > 0 && ((lines.itemAt(0) as DBCardLine)?.cell.editing ?? false)
 
     /// The pointer pressed a cell.
     signal pointed(column: int)
@@ -92,9 +94,10 @@ Rectangle {
     }
 
     RecordActionButtons {
-        shown: pointer.hovered || card.isCurrent
+        shown: (pointer.hovered || card.isCurrent) && !(card.titleEdited && !card.showsGlyph)
         x: card.width - width - Theme.space8
-        y: Theme.space8
+        y: card.showsGlyph ? Theme.space8
+                           : Theme.space4 + Math.round((Theme.rowHeight + Theme.space4 - height) / 2)
         onDeleteRequested: card.records.remove(card.recordID)
         onDuplicateRequested: card.records.duplicate(card.recordID)
     }

@@ -18,8 +18,10 @@ QtObject {
     readonly property int titleWidth: listLike ? Math.max(Math.round(240 * Theme.fontScale), Math.round(viewportWidth * 0.4))
                                                : Math.round(240 * Theme.fontScale)
     readonly property int width: Math.round((listLike ? 148 : 168) * Theme.fontScale)
-    readonly property int contentWidth: titleWidth + Math.max(0, records.columnCount - 1) * width
-    readonly property bool isPinned: viewportWidth >= titleWidth + width
+    /// Of the buttons that a record shows at the right edge. Behind the last column they have room of their own.
+    readonly property int actionsWidth: 2 * Theme.iconButtonSize + 2 * Theme.space8
+    readonly property int contentWidth: titleWidth + Math.max(0, records.columnCount - 1) * width + actionsWidth
+    readonly property bool isPinned: viewportWidth >= titleWidth + width + actionsWidth
     readonly property real pin: isPinned ? offset : 0
     /// Columns beside the title that are made at a time.
     readonly property int slots: Math.max(0, Math.min(records.columnCount - 1,
@@ -40,12 +42,12 @@ QtObject {
         return column === 0 ? titleWidth : width
     }
 
-    /// How far to scroll so that the column is in sight.
+    /// How far to scroll so that the column is in sight, and clear of the buttons.
     function offsetFor(column: int): real {
         if (column === 0)
             return isPinned ? offset : 0
         const start = x(column) - (isPinned ? titleWidth : 0)
-        const end = x(column) + width - viewportWidth
+        const end = x(column) + width - (viewportWidth - actionsWidth)
         return Math.max(0, Math.min(contentWidth - viewportWidth, Math.min(start, Math.max(end, offset))))
     }
 }

@@ -25,6 +25,9 @@ Item {
     readonly property bool isField: cell.kind >= DBValueDisplay.Field && cell.kind <= DBValueDisplay.Progress
     property var cell: records.columnsRevision >= 0 ? records.cell(values, column) : null
     property QtObject popup: null
+    /// What the popup was opened for; the cell may come to stand for another value before it has closed.
+    property var openedRecord
+    property int openedColumn: -1
 
     /// The pointer pressed the cell.
     signal pointed()
@@ -81,14 +84,24 @@ Item {
         popup = component.createObject(root)
         // The record keeps its place until the popup has gone.
         records.beginEdit(recordID, column)
-        const record = recordID, place = column
-        popup.closed.connect(() => records.endEditOf(record, place))
+        openedRecord = recordID
+        openedColumn = column
         const menu = popup as DBOptionMenu
         if (!menu)
             return popup.open()
         menu.openBeside(root, 0, 0, height)
         if (byKeyboard)
             menu.begin(typed)
+    }
+
+    function popupClosed() {
+        records?.endEditOf(openedRecord, openedColumn)
+    }
+
+    // The popup closes only after its cell has gone.
+    Component.onDestruction: {
+        if (popupOpen)
+            popupClosed()
     }
 
     implicitHeight: Theme.rowHeight + Theme.space4
@@ -161,6 +174,7 @@ Item {
             chosen: root.cell.kind === DBValueDisplay.Choices ? root.cell.chosen : [root.cell.text]
             multiple: root.cell.kind === DBValueDisplay.Choices
             name: root.cell.name
+            onClosed: root.popupClosed()
             options: root.records.column(root.column).options
             onPicked: option => {
                 if (multiple)
@@ -179,6 +193,7 @@ Item {
             clearable: true
             now: Orvel.now()
             value: root.cell.day
+            onClosed: root.popupClosed()
             onCleared: root.records.setValue(root.recordID, root.column, "")
             onEdited: moment => root.records.setDay(root.recordID, root.column, moment)
         }

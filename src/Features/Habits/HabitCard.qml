@@ -25,7 +25,6 @@ ScreenListRow {
     readonly property real cardWidth: list?.columnWidth ?? 0
     /// In a narrow place the week stands below the name.
     readonly property bool stacked: cardWidth < mark.width + week.width + more.width + Theme.fieldWidth * 0.8 + 6 * Theme.space12
-    readonly property real textHeight: nameText.implicitHeight + Theme.space4 + Math.max(count.implicitHeight, badge.height)
     readonly property alias week: week
 
     /// Removes the habit; the focus goes to its neighbour.
@@ -43,12 +42,24 @@ ScreenListRow {
     function goSideways(step: int): bool {
         const next = week.focusedDay() + step
         if (next >= 0)
-            return week.focusDay(next)
+            return week.focusDay(next, Qt.TabFocusReason)
         if (next < -1)
             return false
-        week.releaseFocus()
-        list.keys.focus(index, Qt.TabFocusReason)
+        takeFocus(Qt.TabFocusReason)
         return true
+    }
+
+    /// Gives the focus to the row as a whole.
+    function takeFocus(reason: int) {
+        week.releaseFocus()
+        list.keys.focus(index, reason)
+    }
+
+    /// Flips a day. The arrow keys go on from the one that was clicked.
+    function toggleDay(weekday: int) {
+        if (week.focusedDay() !== weekday)
+            week.focusDay(weekday, Qt.MouseFocusReason)
+        viewModel.toggleDay(habitID, weekday)
     }
 
     /// Goes to another row, staying on the same day.
@@ -58,7 +69,7 @@ ScreenListRow {
             return false
         const next = list.currentItem as HabitCard
         if (day >= 0 && next !== row)
-            next?.week.focusDay(day)
+            next?.week.focusDay(day, Qt.TabFocusReason)
         return true
     }
 
@@ -83,8 +94,8 @@ ScreenListRow {
     }
 
     rowHeight: Theme.space12 + 2 * inset
-               + (stacked ? Math.max(mark.height, textHeight) + Theme.space12 + week.height
-                          : Math.max(mark.height, textHeight, week.height))
+               + (stacked ? Math.max(mark.height, title.height) + Theme.space12 + week.height
+                          : Math.max(mark.height, title.height, week.height))
     Accessible.name: streak > 0 ? qsTr("%1, %2, streak: %3").arg(name).arg(weekText).arg(streak)
                                 : qsTr("%1, %2").arg(name).arg(weekText)
     Accessible.checkable: true
@@ -141,44 +152,23 @@ ScreenListRow {
             x: row.inset
             y: row.stacked ? row.inset : Math.round((card.height - height) / 2)
             Accessible.name: qsTr("%1: %2").arg(text).arg(row.name)
-            onClicked: row.viewModel.toggleToday(row.habitID)
+            onClicked: {
+                row.takeFocus(Qt.MouseFocusReason)
+                row.viewModel.toggleToday(row.habitID)
+            }
         }
 
-        Item {
+        HabitTitle {
+            id: title
             anchors.left: mark.right
             anchors.leftMargin: Theme.space12
             anchors.right: row.stacked ? more.left : week.left
             anchors.rightMargin: Theme.space12
             anchors.verticalCenter: mark.verticalCenter
-            height: row.textHeight
-
-            OVText {
-                id: nameText
-                font.weight: Font.DemiBold
-                text: row.name
-                width: Math.min(implicitWidth, parent.width)
-                Accessible.ignored: true
-            }
-
-            OVAnimatedNumber {
-                id: count
-                anchors.bottom: parent.bottom
-                anchors.bottomMargin: (Math.max(implicitHeight, badge.height) - implicitHeight) / 2
-                color: Theme.ovInkSecondary
-                role: OVText.Dense
-                text: row.weekText
-                Accessible.ignored: true
-            }
-
-            HabitStreak {
-                id: badge
-                anchors.left: count.right
-                anchors.leftMargin: Theme.space12
-                anchors.verticalCenter: count.verticalCenter
-                streak: row.streak
-                tint: row.tint
-                visible: row.streak > 0
-            }
+            name: row.name
+            streak: row.streak
+            tint: row.tint
+            weekText: row.weekText
         }
 
         HabitWeek {
@@ -188,7 +178,7 @@ ScreenListRow {
             tint: row.tint
             x: row.stacked ? row.inset - Theme.space4 : more.x - width - Theme.space8
             y: row.stacked ? card.height - height - row.inset : Math.round((card.height - height) / 2)
-            onToggled: weekday => row.viewModel.toggleDay(row.habitID, weekday)
+            onToggled: weekday => row.toggleDay(weekday)
         }
 
         OVIconButton {

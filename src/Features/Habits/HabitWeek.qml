@@ -24,11 +24,11 @@ Row {
     }
 
     /// Gives the focus to a day; false if there is none to be flipped.
-    function focusDay(weekday: int): bool {
+    function focusDay(weekday: int, reason: int): bool {
         const day = repeater.itemAt(weekday)
         if (!day || !day.enabled)
             return false
-        day.forceActiveFocus(Qt.TabFocusReason)
+        day.forceActiveFocus(reason)
         return true
     }
 

@@ -52,4 +52,10 @@ FocusScope {
             }
         }
     }
+
+    // The form is higher than a small window.
+    OVFocusScroll {
+        scope: header
+        view: list
+    }
 }

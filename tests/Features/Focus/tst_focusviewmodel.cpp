@@ -24,6 +24,8 @@ private slots:
     void tilesFollowTheLength();
     void goingDropsTheSession();
     void hiddenItIsNotWoken();
+    void midnightAndTimeZonesLeaveASessionAlone();
+    void suspendPausesTheCount();
 
 private:
     void pass(double seconds)
@@ -45,8 +47,17 @@ private:
         return titles.join(u',');
     }
 
+    /// A machine whose uptime stands still while it is suspended.
+    Machine machine()
+    {
+        Machine machine = m_workspace.machine();
+        machine.uptime = [this] { return m_workspace.clock().now().time_since_epoch() - m_suspended; };
+        return machine;
+    }
+
     TestWorkspace m_workspace;
-    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), nullptr, m_workspace.machine()};
+    std::chrono::milliseconds m_suspended{0};
+    OrvelSession m_session{&m_workspace.store(), &m_workspace.ui(), nullptr, machine()};
     std::unique_ptr<FocusViewModel> m_model;
 };
 
@@ -154,6 +165,48 @@ void FocusViewModelTest::hiddenItIsNotWoken()
     QVERIFY(sleep->intervalAsDuration() < std::chrono::seconds(2));
     m_model.reset();
     QVERIFY(!sleep->isActive());
+}
+
+void FocusViewModelTest::midnightAndTimeZonesLeaveASessionAlone()
+{
+    m_workspace.clock().advance(std::chrono::minutes(14 * 60 + 15));
+    m_model->toggleRunning();
+    m_model->logSession();
+    m_model->toggleRunning();
+    pass(15 * 60);
+    // A minute after midnight, in the evening before it, and in the afternoon after it.
+    for (const int hoursFromUtc : {0, -5, 14}) {
+        m_workspace.clock().setTimeZone(QTimeZone(hoursFromUtc * 3600));
+        finishTurn();
+        pass(60);
+        QCOMPARE(m_model->sessionsText(), QStringLiteral("1"));
+    }
+    QCOMPARE(state(), QStringLiteral("07:00 Focusing Pause log"));
+    // West of midnight it is the same day for a screen that opens, east of it a new one.
+    m_workspace.clock().setTimeZone(QTimeZone(-5 * 3600));
+    m_session.focus()->open(m_model.get());
+    QCOMPARE(m_model->sessionsText(), QStringLiteral("1"));
+    QCOMPARE(state(), QStringLiteral("25:00 Ready Start"));
+    m_workspace.clock().setTimeZone(QTimeZone::utc());
+    m_session.focus()->open(m_model.get());
+    QCOMPARE(m_model->sessionsText(), QStringLiteral("0"));
+}
+
+void FocusViewModelTest::suspendPausesTheCount()
+{
+    m_model->setWatched(true);
+    m_model->toggleRunning();
+    pass(10 * 60);
+    // The lid is closed over midnight.
+    m_suspended += std::chrono::hours(20);
+    pass(20 * 3600);
+    QCOMPARE(state(), QStringLiteral("15:00 Focusing Pause log"));
+    QCOMPARE(m_model->progress(), 0.4);
+    QCOMPARE(m_workspace.told(), QStringList());
+    pass(15 * 60 + 1);
+    QCOMPARE(state(), QStringLiteral("25:00 Ready Start"));
+    QCOMPARE(m_model->sessionsText(), QStringLiteral("1"));
+    QCOMPARE(m_workspace.told().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(FocusViewModelTest)

@@ -68,7 +68,14 @@ Item {
             keyClick(Qt.Key_Space)
             tryVerify(() => focused().Accessible.name === "Habit name, for example Walk after lunch")
             keyClick("x")
+            // In a small window the form scrolls along with the focus.
+            root.height = 300
+            for (let i = 0; i < 4; ++i)
+                keyClick(Qt.Key_Tab)
+            compare(focused().Accessible.name, "Add habit")
+            tryVerify(() => focused().mapToItem(root.view, 0, focused().height).y <= 300)
             keyClick(Qt.Key_Escape)
+            root.height = 640
             tryVerify(() => focused().Accessible.name === "New habit")
             compare(saved().length, 1)
         }
@@ -88,6 +95,26 @@ Item {
             compare(tomorrow.enabled, false)
             mouseClick(tomorrow)
             compare(saved()[0].completions.length, 2)
+        }
+
+        function test_keysGoOnFromAClick() {
+            for (const name of ["a", "b"])
+                Workspace.addHabit(name)
+            open()
+            click("Tuesday, March 10, 2026, not done", find("b, 0/7 this week"))
+            tryVerify(() => focused().Accessible.name === "Tuesday, March 10, 2026, done")
+            verify(!focused().visualFocus, "no ring after a click")
+            keyClick(Qt.Key_Space)
+            compare(saved()[1].completions, [])
+            keyClick(Qt.Key_Right)
+            compare(focused().Accessible.name, "Wednesday, March 11, 2026, not done")
+            verify(focused().visualFocus)
+            keyClick(Qt.Key_Space)
+            compare(saved()[1].completions, ["2026-03-11"])
+            click("Mark done: a")
+            tryVerify(() => focused().Accessible.name === "a, 1/7 this week, streak: 1")
+            keyClick(Qt.Key_Down)
+            compare(focused().Accessible.name, "b, 1/7 this week")
         }
 
         function test_worksByKeys() {

@@ -203,6 +203,9 @@ private slots:
         QCOMPARE(client.results().first().title, u"Second"_s);
         m_catalogue.release(u"/books"_s);
         QTRY_COMPARE(m_catalogue.openConnections(), 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(client.results().size(), 1);
+        QCOMPARE(client.results().first().title, u"Second"_s);
 
         // Nor does it fill the list again that a blank query has emptied.
         m_catalogue.answer(u"/books"_s, first);

@@ -32,6 +32,8 @@ ListView {
     }
 
     function showCurrent() {
+        // A row that comes before the current one moves it on, though the selection stays.
+        currentIndex = Qt.binding(() => list.editor.selectedIndex)
         positionViewAtIndex(currentIndex, ListView.Contain)
     }
 

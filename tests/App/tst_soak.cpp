@@ -5,6 +5,7 @@
 
 #include <QDesktopServices>
 #include <QQmlApplicationEngine>
+#include <QQmlIncubationController>
 #include <QQuickStyle>
 
 #include <algorithm>
@@ -106,8 +107,11 @@ private:
                 window.show();
             findings.add(action, time.elapsed());
         }
-        while (window.property("loading").toBool())
-            QTest::qWait(10);
+        // The last actions may still be making their views.
+        const auto *const views = qmlEngine(&window)->incubationController();
+        QVERIFY(QTest::qWaitFor(
+            [&] { return !window.property("loading").toBool() && views->incubatingObjectCount() == 0; },
+            60'000));
     }
 
 public slots:

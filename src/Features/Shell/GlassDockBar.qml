@@ -10,7 +10,10 @@ FocusScope {
     id: root
 
     required property NavigationViewModel navigation
-    readonly property int tabWidth: Theme.tabBarLabels ? Math.round(60 * Theme.fontScale) : search.implicitHeight
+    /// All are as wide as the widest name, within limits.
+    readonly property int tabWidth: Theme.tabBarLabels
+                                    ? Math.ceil(Math.max(60 * Theme.fontScale, Math.min(92 * Theme.fontScale, tabs.widestTab)))
+                                    : search.implicitHeight
 
     implicitHeight: dock.implicitHeight + Theme.space8 + Theme.space16
 

@@ -17,6 +17,13 @@ FocusScope {
     property bool lifts: false
     /// Width of each tab; 0 for that of its content.
     property int tabWidth: 0
+    /// What the widest of the tabs needs.
+    readonly property real widestTab: {
+        let widest = 0
+        for (let i = 0; i < repeater.count; ++i)
+            widest = Math.max(widest, repeater.itemAt(i)?.implicitWidth ?? 0)
+        return widest
+    }
     /// Room for the focus ring on each side.
     readonly property int margin: Theme.space4
     /// The tab that Tab leads to.

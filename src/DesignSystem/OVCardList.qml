@@ -21,7 +21,8 @@ ListView {
         from.nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
-    activeFocusOnTab: count > 0
+    // The focus may still be here when the last row goes.
+    activeFocusOnTab: count > 0 || activeFocus
     currentIndex: -1
     highlightFollowsCurrentItem: false
     implicitHeight: contentHeight

@@ -113,7 +113,7 @@ FocusScope {
             readonly property rect area: chart.areaOf(index)
             readonly property var point: chart.points[index]
 
-            activeFocusOnTab: index === Math.min(chart.lastIndex, marks.count - 1)
+            activeFocusOnTab: activeFocus || index === Math.min(chart.lastIndex, marks.count - 1)
             height: area.height
             width: area.width
             x: area.x

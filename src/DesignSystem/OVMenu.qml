@@ -57,6 +57,12 @@ T.Menu {
     OVAccessible.name: name
 
     onAboutToShow: measure()
+    // Not bound: the list gives its current item the focus, which may make another one current meanwhile.
+    onCurrentIndexChanged: {
+        const list = contentItem as ListView
+        if (list)
+            list.currentIndex = currentIndex
+    }
 
     delegate: OVMenuItem { }
     background: OVPopupSurface { }
@@ -72,7 +78,7 @@ T.Menu {
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
-        currentIndex: menu.currentIndex
+        currentIndex: -1
         highlightMoveDuration: 0
 
         Keys.onPressed: event => {

@@ -29,7 +29,7 @@ T.Popup {
 
     parent: T.Overlay.overlay
     x: Math.round((parent.width - width) / 2)
-    y: parent.height - height - Theme.space32 - lift + rise
+    y: parent.height - implicitHeight - Theme.space32 - lift + rise
     width: Math.min(implicitWidth, parent.width - 2 * Theme.space16)
     implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: contentHeight + topPadding + bottomPadding

@@ -51,7 +51,7 @@ FocusScope {
 
     Item {
         id: entry
-        activeFocusOnTab: root.view.count > 0
+        activeFocusOnTab: root.view.count > 0 || activeFocus
         onActiveFocusChanged: {
             if (activeFocus)
                 root.view.keys.focus(root.view.currentIndex < 0 ? root.lastIndex : root.view.currentIndex,

@@ -86,7 +86,7 @@ FocusScope {
 
         Accessible.name: qsTr("Snippets")
         Accessible.role: Accessible.List
-        activeFocusOnTab: count > 0
+        activeFocusOnTab: count > 0 || activeFocus
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.leftMargin: -Theme.space8

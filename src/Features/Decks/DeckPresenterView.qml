@@ -12,7 +12,7 @@ FocusScope {
     /// The window on another display; null if there is none.
     readonly property PresenterAudience audience: audienceLoader.item as PresenterAudience
     property int visibilityBefore: Window.Windowed
-    property bool madeFull: false
+    property var fullWindow: null
     readonly property int pointerShape: pointer.cursorShape
     readonly property bool notesShown: PresenterStyle.showingNotes
     readonly property size fitted: presenter.fittedSize(Qt.size(width, height), notesShown ? notes.notesHeight : -1)
@@ -23,7 +23,7 @@ FocusScope {
         } else {
             visibilityBefore = window.visibility
             window.visibility = Window.FullScreen
-            madeFull = true
+            fullWindow = window
         }
     }
 
@@ -31,9 +31,9 @@ FocusScope {
     Accessible.role: Accessible.Pane
     Keys.onPressed: event => keys.take(event)
     Component.onDestruction: {
-        // A window that is full for the talk alone goes back to what it was.
-        if (madeFull && window.visibility === Window.FullScreen)
-            window.visibility = visibilityBefore
+        // A window that is full for the talk alone goes back to what it was, though the view has left it.
+        if (fullWindow?.visibility === Window.FullScreen)
+            fullWindow.visibility = visibilityBefore
     }
 
     IdleInhibitor {

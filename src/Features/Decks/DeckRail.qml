@@ -90,7 +90,7 @@ FocusScope {
 
         Accessible.name: qsTr("Decks")
         Accessible.role: Accessible.List
-        activeFocusOnTab: count > 0
+        activeFocusOnTab: count > 0 || activeFocus
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.leftMargin: -Theme.space8

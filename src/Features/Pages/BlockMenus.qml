@@ -66,6 +66,13 @@ Item {
 
     SpelledWord { id: spelled }
 
+    // Goes with the page, as a call for later would not.
+    Timer {
+        id: textMenuEnd
+        interval: 0
+        onTriggered: textMenu.active = (textMenu.item as BlockTextMenu)?.visible ?? false
+    }
+
     // Where a menu was asked for with the mouse.
     Item { id: pointMark }
 
@@ -108,7 +115,7 @@ Item {
             target: root.menuField
             word: spelled
             // Its text may go before the next one is asked for.
-            onClosed: Qt.callLater(() => textMenu.active = false)
+            onClosed: textMenuEnd.start()
         }
     }
 

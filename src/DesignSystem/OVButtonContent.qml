@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Orvel.DesignSystem
 
-/// The icon and the words of a button, centred together.
+/// The icon and the words of a button, centred together unless they are leading.
 Item {
     id: root
 
@@ -17,7 +17,9 @@ Item {
     property bool filled: false
     /// Whether the icon stands after the words.
     property bool trailing: false
-    readonly property int start: Math.round((width - label.width - label.offset) / 2)
+    /// Whether they stand at the left of a wider button.
+    property bool leading: false
+    readonly property int start: leading ? 0 : Math.round((width - label.width - label.offset) / 2)
 
     implicitHeight: Math.max(icon.active ? icon.height : 0, label.implicitHeight)
     implicitWidth: label.implicitWidth + label.offset

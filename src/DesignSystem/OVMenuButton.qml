@@ -49,6 +49,7 @@ OVPressable {
             anchors.right: arrow.left
             anchors.rightMargin: Theme.space8
             height: parent.height
+            leading: true
             symbol: root.symbol
             text: root.text
         }

@@ -75,7 +75,9 @@ Rectangle {
                 records: card.records
                 ringShown: card.keys.ringShown
                 values: card.values
-                width: card.width - 2 * Theme.space4
+                // A long title ends before the buttons.
+                width: modelData === 0 && buttons.shown && !card.showsGlyph ? buttons.x - Theme.space4
+                                                                            : card.width - 2 * Theme.space4
                 onFinished: key => card.finished(key)
                 onPointed: card.pointed(column)
             }
@@ -94,6 +96,7 @@ Rectangle {
     }
 
     RecordActionButtons {
+        id: buttons
         shown: (pointer.hovered || card.isCurrent) && !(card.titleEdited && !card.showsGlyph)
         x: card.width - width - Theme.space8
         y: card.showsGlyph ? Theme.space8

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import Orvel.Databases
 import Orvel.DesignSystem
 import Orvel.Session
@@ -168,18 +169,19 @@ Item {
             keyClick(Qt.Key_Z, Qt.ControlModifier)
         }
 
-        function test_theButtonsOfARowLeaveTheLastCellFree() {
+        function test_theButtonsOfARecordLeaveItsCellFree() {
             openTemplate("projectTracker")
             click("New record")
             type("Plan")
             keyClick(Qt.Key_Return)
-            for (const layout of ["table", "list"]) {
+            for (const layout of ["table", "list", "board"]) {
                 root.view.viewModel.addView(layout)
                 tryVerify(() => findRecords().records.layout === layout)
                 edit("Item: Plan")
                 keyClick(Qt.Key_Escape)
-                keyClick(Qt.Key_End)
-                const cell = () => findCell("Progress: ")
+                if (layout !== "board")
+                    keyClick(Qt.Key_End)
+                const cell = () => findCell(layout === "board" ? "Item: Plan" : "Progress: ")
                 tryVerify(() => cell() !== null && find("Duplicate") !== null)
                 verify(cell().mapToItem(root, cell().width, 0).x <= find("Duplicate").mapToItem(root, 0, 0).x)
             }
@@ -371,8 +373,8 @@ Item {
             keyClick(Qt.Key_Return)
             const view = () => saved().databases[0].views[0]
             tryVerify(() => view().sorts.length === 1)
-            // The popup of the choice has to be gone.
-            wait(300)
+            tryVerify(() => !root.Overlay.overlay.visible, 5000, "the menu is gone")
+            waitForRendering(root.view)
             click("Item, ascending")
             tryVerify(() => view().sorts[0].descending)
             const chooser = find("FILTERS").parent

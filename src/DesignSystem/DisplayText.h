@@ -1,11 +1,12 @@
 #pragma once
 
+#include "DesignSystem/OVEmojiProvider.h"
 #include "Foundation/LineText.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Bounds texts of the user's before they are laid out, for views that get them as they are stored.
+/// Makes texts of the user's ready for views that get them as they are stored.
 class DisplayText : public QObject
 {
     Q_OBJECT
@@ -15,6 +16,12 @@ class DisplayText : public QObject
 public:
     using QObject::QObject;
 
-    /// See `LineText::shown`.
+    /// Bounds a text before it is laid out; see `LineText::shown`.
     Q_INVOKABLE static QString shown(const QString &text) { return LineText::shown(text); }
+
+    /// See `OVEmojiProvider::source`.
+    Q_INVOKABLE static QString emojiSource(const QString &text, const QColor &color)
+    {
+        return OVEmojiProvider::source(text, color);
+    }
 };

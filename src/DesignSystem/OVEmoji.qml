@@ -3,22 +3,21 @@ import Orvel.DesignSystem
 
 /// An emoji, or a short text in its place, as large as its square.
 Item {
+    id: root
+
     property int size: Theme.iconRow
-    property alias text: label.text
+    property string text
 
     implicitHeight: size
-    implicitWidth: Math.max(size, label.implicitWidth)
+    implicitWidth: Math.max(size, image.implicitWidth)
     Accessible.ignored: true
 
-    // Of its own size: a drawing of an emoji is unpacked at each new measure.
-    Text {
-        id: label
+    Image {
+        id: image
 
         anchors.centerIn: parent
-        color: Theme.ovInk
-        font.family: Theme.emojiFamily
-        font.pixelSize: Math.max(1, Math.round(parent.size * 0.86))
-        textFormat: Text.PlainText
+        source: DisplayText.emojiSource(root.text, Theme.ovInk)
+        sourceSize { width: root.size; height: root.size }
         Accessible.ignored: true
     }
 }

@@ -1,5 +1,6 @@
 #include "DesignSystem/Theme.h"
 
+#include "DesignSystem/OVEmojiProvider.h"
 #include "DesignSystem/OVGlowProvider.h"
 #include "DesignSystem/OVIconProvider.h"
 #include "DesignSystem/OVShadowProvider.h"
@@ -9,14 +10,22 @@
 
 #include <utility>
 
+namespace
+{
+template <typename Provider>
+void addProvider(QQmlEngine &engine)
+{
+    if (!engine.imageProvider(Provider::name))
+        engine.addImageProvider(Provider::name, new Provider);
+}
+} // namespace
+
 Theme *Theme::create(QQmlEngine *engine, QJSEngine *)
 {
-    if (!engine->imageProvider(OVIconProvider::name))
-        engine->addImageProvider(OVIconProvider::name, new OVIconProvider);
-    if (!engine->imageProvider(OVShadowProvider::name))
-        engine->addImageProvider(OVShadowProvider::name, new OVShadowProvider);
-    if (!engine->imageProvider(OVGlowProvider::name))
-        engine->addImageProvider(OVGlowProvider::name, new OVGlowProvider);
+    addProvider<OVIconProvider>(*engine);
+    addProvider<OVShadowProvider>(*engine);
+    addProvider<OVGlowProvider>(*engine);
+    addProvider<OVEmojiProvider>(*engine);
     return new Theme(nullptr);
 }
 

@@ -10,7 +10,7 @@ Text {
     property int role: OVText.Body
     /// The whole text as the tooltip shows it: without the marks of a styled text.
     property string plainText: text
-    property Item elisionTip: null
+    property QtObject elisionTip: null
 
     onTruncatedChanged: {
         if (truncated && elisionTip === null)

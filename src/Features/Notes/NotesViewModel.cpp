@@ -48,8 +48,10 @@ void NotesViewModel::refresh(const ChangeSet &)
 {
     const QDate today = clock().today();
     const QTimeZone zone = clock().timeZone();
+    const QList<const Page *> notes = matchingNotes();
     QList<NoteRow> rows;
-    for (const Page *note : matchingNotes())
+    rows.reserve(notes.size());
+    for (const Page *note : notes)
         rows.append(NoteRow::of(*note, today, zone));
     m_rows.setRows(std::move(rows));
     m_isSearch = !m_query.trimmed().isEmpty();

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQmlIncubationController>
 #include <QQuickItem>
 #include <QQuickRenderControl>
 #include <QQuickView>
@@ -117,7 +118,10 @@ Comparison::Duration openFirstPage(QQmlEngine &engine, UIState &ui, const QUuid 
         QEvent update(QEvent::UpdateRequest);
         QCoreApplication::sendEvent(&view, &update);
     };
-    draw();
+    // What the window makes ahead is there before a user chooses anything.
+    do
+        draw();
+    while (engine.incubationController()->incubatingObjectCount() > 0);
     const auto duration = timed([&] {
         ui.selectPage(pageID);
         draw();

@@ -1,5 +1,22 @@
 #include "Store/UndoHistory.h"
 
+#include <QThreadPool>
+
+namespace
+{
+constexpr qint64 maxBytesFreedAtOnce = 64 * 1024;
+
+/// Frees a large step beside the window: giving back an import of thousands of records takes longer than a
+/// frame.
+void discard(UndoStep step)
+{
+    step.whenForgotten.clear();
+    if (step.bytes > maxBytesFreedAtOnce)
+        QThreadPool::globalInstance()->start(
+            [held = std::make_shared<UndoStep>(std::move(step))]() mutable { held.reset(); });
+}
+} // namespace
+
 bool UndoStep::isEmpty() const
 {
     return std::apply([](const auto &...kind) { return (kind.isEmpty() && ...); }, edits);
@@ -94,19 +111,22 @@ const UndoStep *UndoHistory::redoStep() const
 void UndoHistory::dropRedo()
 {
     // What these steps put off never happened, since they are undone.
-    for (; m_steps.size() > m_done; m_steps.pop_back())
+    for (; m_steps.size() > m_done; m_steps.pop_back()) {
         m_bytes -= m_steps.back().bytes;
+        discard(std::move(m_steps.back()));
+    }
 }
 
 void UndoHistory::shrink()
 {
     while (m_done > 0 && (m_steps.size() > m_limits.maxSteps || m_bytes > m_limits.maxBytes)) {
-        const UndoStep forgotten = std::move(m_steps.front());
+        UndoStep forgotten = std::move(m_steps.front());
         m_steps.pop_front();
         --m_done;
         m_bytes -= forgotten.bytes;
         for (const auto &call : forgotten.whenForgotten)
             call();
+        discard(std::move(forgotten));
     }
 }
 

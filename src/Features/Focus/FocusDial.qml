@@ -10,6 +10,8 @@ FocusScope {
     required property FocusViewModel viewModel
     /// Whether it is visible to the user.
     required property bool inSight
+    /// Of the whole screen: in a low one the ring is smaller, so that the buttons below it are in sight.
+    required property real screenHeight
 
     // In milliseconds: within it the end of the ring moves by a pixel. The ring seems to glide if it is drawn as often;
     // that is done each second anyhow.
@@ -36,6 +38,7 @@ FocusScope {
             OVProgressRing {
                 id: ring
                 Layout.alignment: Qt.AlignHCenter
+                implicitWidth: Math.round(Math.min(Theme.timerRing, Math.max(0.6 * Theme.timerRing, 0.45 * root.screenHeight)))
                 value: root.viewModel.progress
                 Accessible.name: qsTr("%1, %2").arg(time.text).arg(stateWord.text)
 

@@ -60,6 +60,7 @@ FocusScope {
             Layout.fillWidth: true
             focus: true
             inSight: root.inSight
+            screenHeight: root.height
             viewModel: root.viewModel
         }
 

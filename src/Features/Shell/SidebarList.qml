@@ -42,6 +42,11 @@ FocusScope {
         // Before the list has its height, any row but the first would seem to be out of view.
         if (list.height <= 0)
             return
+        list.forceLayout()
+        list.lookWhetherFilled()
+        // While the view makes its rows, it would scroll to where it guesses that this one will be.
+        if (!list.filled && !list.itemAtIndex(row))
+            return
         list.positionViewAtIndex(row, ListView.Contain)
         const item = list.itemAtIndex(row)
         if (!item)
@@ -54,9 +59,10 @@ FocusScope {
             list.contentY = Math.min(lowest, item.y + item.height + margin - list.height)
     }
 
-    /// Shows the beginning, as far as the current row leaves it: a window gets its size in several steps, and
-    /// rows that come and go out of sight may move the view.
+    /// Shows the beginning, as far as the current row leaves it: a window gets its size in several steps, its rows
+    /// are made one by one, and those that come and go out of sight may move the view.
     function settle() {
+        list.lookWhetherFilled()
         if (list.scrolledByUser || list.activeFocus)
             return
         list.positionViewAtBeginning()
@@ -92,6 +98,7 @@ FocusScope {
         target: root.sidebar
 
         function onLaidOut() {
+            list.laidOut = true
             root.follow()
             Qt.callLater(root.settle)
         }
@@ -105,6 +112,14 @@ FocusScope {
         id: list
 
         property bool scrolledByUser: false
+        /// Whether the view model has told where the current row is.
+        property bool laidOut: false
+        /// Whether the rows in sight have been made once.
+        property bool filled: false
+
+        function lookWhetherFilled() {
+            filled = filled || height > 0 && (itemAtIndex(count - 1) ?? itemAt(0, contentY + height - Theme.rowHeight)) !== null
+        }
 
         anchors.fill: parent
         anchors.leftMargin: Theme.space12
@@ -121,6 +136,7 @@ FocusScope {
         Accessible.name: qsTr("Pages and places")
         Accessible.role: Accessible.List
         T.ScrollBar.vertical: scrollBar
+        onContentHeightChanged: if (laidOut && !filled) Qt.callLater(root.settle)
         onHeightChanged: Qt.callLater(root.settle)
         onMovementStarted: scrolledByUser = true
 

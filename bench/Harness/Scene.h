@@ -92,6 +92,15 @@ public:
     Desk &desk() { return m_desk; }
 
 protected:
+    /// Turns the wheel of the mouse here in the window, in eighths of a degree.
+    void wheel(const QPointF &place, int angle)
+    {
+        QWheelEvent event(place, place, QPoint(), QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        event.setTimestamp(quint64(QDateTime::currentMSecsSinceEpoch()));
+        QCoreApplication::sendEvent(&m_window, &event);
+    }
+
     void settle()
     {
         QCoreApplication::processEvents();

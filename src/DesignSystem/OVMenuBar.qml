@@ -16,7 +16,9 @@ T.MenuBar {
 
     Accessible.name: qsTr("Menu bar")
 
-    delegate: OVMenuBarItem { }
+    delegate: OVMenuBarItem {
+        onMenuLeft: if (bar.activeFocus) bar.keys.toggle()
+    }
     background: Item { }
 
     contentItem: Row {

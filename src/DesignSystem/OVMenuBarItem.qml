@@ -14,9 +14,32 @@ T.MenuBarItem {
     opacity: enabled ? 1 : Theme.disabledOpacity
     hoverEnabled: true
 
+    /// Whether the pointer was pressed on it since its menu opened.
+    property bool wasPressed: false
+
+    /// Its menu was closed by a key while the pointer was over it.
+    signal menuLeft()
+
     Accessible.name: label.text
     OVAccessible.role: Accessible.MenuItem
     Accessible.onPressAction: if (enabled) clicked()
+    onPressed: wasPressed = true
+
+    // A menu that Escape closes below a pointer at rest would leave its title lit, and the bar ready to open the next
+    // menu that the pointer comes to.
+    Connections {
+        target: item.menu
+
+        function onOpened() {
+            item.wasPressed = false
+        }
+        function onClosed() {
+            if (!item.highlighted || !item.hovered || item.wasPressed)
+                return
+            item.triggered()
+            item.menuLeft()
+        }
+    }
 
     contentItem: OVText {
         id: label

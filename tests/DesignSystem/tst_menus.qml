@@ -210,6 +210,20 @@ Item {
             verify(opener.activeFocus)
         }
 
+        function test_escapeUnderAPointerAtRestLetsTheMenuBarGo() {
+            mouseMove(bar.itemAt(0), 5, 5)
+            mouseClick(bar.itemAt(0), 5, 5)
+            tryCompare(fileMenu, "opened", true)
+            keyClick(Qt.Key_Escape)
+            closed(fileMenu)
+            tryCompare(opener, "activeFocus", true)
+            mouseMove(bar.itemAt(1), 5, 5)
+            tryCompare(bar.itemAt(1), "hovered", true)
+            verify(!viewMenu.visible)
+            mouseMove(opener, 50, 10)
+            tryCompare(bar.itemAt(0), "highlighted", false)
+        }
+
         function test_menuBarByMnemonic() {
             compare(bar.itemAt(1).Accessible.name, "View")
             keyClick(Qt.Key_V, Qt.AltModifier)
